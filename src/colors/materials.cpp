@@ -1,0 +1,82 @@
+#include "colors/materials.h"
+
+#include <array>
+#include <optional>
+
+#include "gameinfo/languages.h"
+#include "layout/mod_globals.h"
+#include "platform/text.h"
+
+namespace {
+
+constexpr std::size_t NameBytes = 20;
+constexpr std::size_t FirstLowByte = 21;  ///< low byte of the first colour's red
+constexpr std::size_t ColorBytes = 13;    ///< up to the low byte of the second colour's blue
+constexpr std::size_t SecondColor = 8;    ///< counted from the first low byte
+
+/// The material of an element, or the beginning of its seven names, to which a code is added.
+struct Target {
+    std::string_view material;
+    bool per_language;
+};
+
+constexpr std::array<Target, ElementCount> Targets = {{
+    {"PFLine", false},   {"T_PF", false},      {"Shade", false},    {"Back0", false},
+    {"Back1", false},    {"Back2", false},     {"Back3", false},    {"Back4", false},
+    {"YearLine", false}, {"PlayLine", false},  {"T_VCTitle_", true}, {"T_Play_", true},
+    {"T_Year_", true},   {"T_ESRB_", true},    {"VCPic", false},    {"VCPicBase", false},
+    {"VCPicSha", false}, {"BackMask1", false}, {"BackMask2", false},
+}};
+
+/// Where the colour bytes of a material begin; nothing when they are not all inside the data.
+std::optional<std::size_t> Find_Colors(std::string_view data, std::string_view name) {
+    std::string key(name);
+    key.resize(NameBytes, '\0');
+    const std::size_t at = data.find(key);
+    if (at == data.npos || data.size() - at < FirstLowByte + ColorBytes) return std::nullopt;
+    return at + FirstLowByte;
+}
+
+Color Color_At(std::string_view data, std::size_t at) {
+    const auto byte = [&](std::size_t i) { return static_cast<std::uint8_t>(data[at + i]); };
+    return Make_Color(byte(0), byte(2), byte(4));
+}
+
+void Write_Target(const Target& target, const ColorPair& colors) {
+    if (!target.per_language) {
+        Set_Mat_Colors(BrlytData, target.material, colors);
+        return;
+    }
+    for (const std::u16string_view code : LanguageList) {
+        if (code == NoLanguage) continue;
+        Set_Mat_Colors(BrlytData, std::string(target.material) + To_Utf8(code), colors);
+    }
+}
+
+}  // namespace
+
+std::string& Set_Mat_Colors(std::string& data, std::string_view name, const ColorPair& colors) {
+    const auto at = Find_Colors(data, name);
+    if (!at) return data;
+    std::array<char, ColorBytes> bytes{};
+    for (std::size_t i = 0; i < colors.size(); ++i) {
+        bytes[SecondColor * i] = static_cast<char>(Red_Of(colors[i]));
+        bytes[SecondColor * i + 2] = static_cast<char>(Green_Of(colors[i]));
+        bytes[SecondColor * i + 4] = static_cast<char>(Blue_Of(colors[i]));
+    }
+    return data.replace(*at, bytes.size(), bytes.data(), bytes.size());
+}
+
+bool Get_Mat_Colors(std::string_view data, std::string_view name, ColorPair& colors) {
+    const auto at = Find_Colors(data, name);
+    if (!at) return false;
+    colors = {Color_At(data, *at), Color_At(data, *at + SecondColor)};
+    return true;
+}
+
+Outcome Apply_Color_Scheme(std::u16string_view program_folder, std::u16string_view name) {
+    Scheme scheme;
+    if (auto failure = Load_Scheme(program_folder, name, scheme)) return failure;
+    for (std::size_t i = 0; i < scheme.size(); ++i) Write_Target(Targets[i], scheme[i]);
+    return std::nullopt;
+}

@@ -1,0 +1,102 @@
+#include "colors/scheme.h"
+
+#include <algorithm>
+#include <charconv>
+#include <vector>
+
+#include "platform/files.h"
+
+namespace {
+
+constexpr std::string_view Blanks = " \r\n";
+constexpr std::string_view Separators = " \r\n,";
+
+/// Takes the next number's text off the front: what stands up to a separator, and the separator itself,
+/// which may be one comma with blanks and line ends around it.
+std::string_view Take_Number(std::string_view& rest) {
+    const auto skip_blanks = [&] {
+        rest.remove_prefix(std::min(rest.find_first_not_of(Blanks), rest.size()));
+    };
+    skip_blanks();
+    const std::string_view number = rest.substr(0, rest.find_first_of(Separators));
+    rest.remove_prefix(number.size());
+    skip_blanks();
+    if (rest.starts_with(',')) rest.remove_prefix(1);
+    return number;
+}
+
+/// Why `text` is no colour component; empty when it is one, which is then in `component`.
+std::string Parse_Component(std::string_view text, std::uint8_t& component) {
+    std::string_view digits = text;
+    if (digits.starts_with('+')) digits.remove_prefix(1);
+    long value = 0;
+    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
+    const bool whole = end == digits.data() + digits.size() && !digits.empty();
+    if (error == std::errc::invalid_argument || !whole) {
+        return "\"" + std::string(text) + "\" is not a whole number";
+    }
+    if (error != std::errc() || value < 0 || value > 255) {
+        return std::string(text) + " is not between 0 and 255";
+    }
+    component = static_cast<std::uint8_t>(value);
+    return {};
+}
+
+void Append_Number(std::string& line, std::uint8_t number) {
+    line += ' ' + std::to_string(number) + ' ';
+}
+
+}  // namespace
+
+std::u16string Scheme_Folder(std::u16string_view program_folder) {
+    return std::u16string(program_folder) + u"\\schemes\\";
+}
+
+std::u16string Scheme_Path(std::u16string_view program_folder, std::u16string_view name) {
+    return Scheme_Folder(program_folder).append(name) + u".vccs";
+}
+
+std::string Format_Scheme(const Scheme& scheme) {
+    std::string contents;
+    for (const ColorPair& pair : scheme) {
+        for (const Color color : pair) {
+            Append_Number(contents, Red_Of(color));
+            Append_Number(contents, Green_Of(color));
+            Append_Number(contents, Blue_Of(color));
+        }
+        contents += "\r\n";
+    }
+    return contents;
+}
+
+std::string Parse_Scheme(std::string_view contents, Scheme& scheme) {
+    constexpr std::size_t NumbersPerElement = 6;
+    std::vector<std::uint8_t> numbers;
+    std::string_view rest = contents;
+    while (numbers.size() < ElementCount * NumbersPerElement) {
+        if (rest.find_first_not_of(Blanks) == rest.npos) {
+            return "ends after " + std::to_string(numbers.size()) + " of 114 numbers";
+        }
+        std::uint8_t component = 0;
+        const std::string reason = Parse_Component(Take_Number(rest), component);
+        if (!reason.empty()) return reason;
+        numbers.push_back(component);
+    }
+    const std::uint8_t* next = numbers.data();
+    for (ColorPair& pair : scheme) {
+        for (Color& color : pair) {
+            color = Make_Color(next[0], next[1], next[2]);
+            next += 3;
+        }
+    }
+    return {};
+}
+
+Outcome Load_Scheme(std::u16string_view program_folder, std::u16string_view name, Scheme& scheme) {
+    const std::u16string path = Scheme_Path(program_folder, name);
+    std::string contents;
+    if (auto failure = Read_File(path, contents)) return failure;
+    const std::string reason = Parse_Scheme(contents, scheme);
+    if (!reason.empty()) return Failure{path, reason};
+    return std::nullopt;
+}

@@ -1,0 +1,54 @@
+// The section chain of a layout, followed by its size fields. The inspect tool is the one place that
+// does so; the editor finds what it needs by searching.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// One section: where it begins and its bytes, tag and size field included.
+struct ChainSection {
+    std::size_t offset = 0;
+    std::string_view tag;
+    std::string_view bytes;
+};
+
+/// A text box as its own fields describe it.
+struct TextBoxInfo {
+    std::size_t offset = 0;
+    std::string name;
+    std::u16string text;  ///< up to the first zero code unit, line feeds shown as "^"
+    unsigned buffer_length = 0, text_length = 0;
+    std::size_t text_offset = 0;    ///< where the record says that its text begins
+    std::size_t section_size = 0;   ///< as stored, also where the data ends before
+    std::string_view record;        ///< what the data holds of it
+};
+
+struct MaterialInfo {
+    std::size_t offset = 0;
+    std::string name;
+    std::array<std::int16_t, 4> first{}, second{};  ///< red, green, blue, alpha
+};
+
+struct GroupInfo {
+    std::string name;
+    std::vector<std::string> members;
+};
+
+/// What a layout file holds, in file order. Everything points into the data it was read from.
+struct LayoutInfo {
+    std::size_t file_size = 0, header_length = 0;
+    std::vector<TextBoxInfo> boxes;
+    std::vector<MaterialInfo> materials;
+    std::vector<GroupInfo> groups;
+    std::vector<std::string> faults;  ///< what is wrong with the chain itself
+};
+
+/// Whether `data` begins as a layout file does.
+bool Is_Layout(std::string_view data);
+
+/// Follows the chain of `data`, for which `Is_Layout` holds, as far as it goes.
+LayoutInfo Read_Layout(std::string_view data);

@@ -1,0 +1,74 @@
+// bannersmith-inspect: shows what layout files hold and what an edit would not rewrite cleanly.
+#include <cstdio>
+#include <string>
+#include <vector>
+
+#include "inspect/report.h"
+#include "inspect/sections.h"
+#include "inspect/warnings.h"
+#include "platform/files.h"
+#include "platform/text.h"
+
+namespace {
+
+constexpr char Usage[] =
+    "usage: bannersmith-inspect [--json] FILE...\n"
+    "\n"
+    "Shows each layout file's lengths, text boxes, material colours and groups, and\n"
+    "warns of everything that an edit would not rewrite cleanly. Changes nothing.\n"
+    "\n"
+    "Exit status: 0 no warning; 1 a warning; 2 a file that cannot be read or is no\n"
+    "layout.\n";
+
+void Print(const std::string& text, std::FILE* stream) {
+    std::fwrite(text.data(), 1, text.size(), stream);
+}
+
+/// False, with a line on standard error, when the file cannot be inspected.
+bool Inspect(const std::string& file, std::string& data, FileReport& report) {
+    std::string reason;
+    if (const auto failure = Read_File(From_Utf8(file), data)) {
+        reason = failure->reason;
+    } else if (!Is_Layout(data)) {
+        reason = "Not a layout file";
+    }
+    if (!reason.empty()) {
+        Print("bannersmith-inspect: " + file + ": " + reason + "\n", stderr);
+        return false;
+    }
+    report.file = file;
+    report.info = Read_Layout(data);
+    report.warnings = Find_Warnings(data, report.info);
+    return true;
+}
+
+int Inspect_All(const std::vector<std::string>& files, bool json) {
+    std::vector<FileReport> reports;
+    std::vector<std::string> contents(files.size());  // the reports point into them
+    int status = 0;
+    for (std::size_t i = 0; i < files.size(); ++i) {
+        FileReport report;
+        if (!Inspect(files[i], contents[i], report)) {
+            status = 2;
+            continue;
+        }
+        if (!report.warnings.empty() && status == 0) status = 1;
+        if (!json) Print(As_Text(report), stdout);
+        reports.push_back(std::move(report));
+    }
+    if (json) Print(As_Json(reports), stdout);
+    return status;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    std::vector<std::string> files(argv + 1, argv + argc);
+    if (files.size() == 1 && files[0] == "--help") return Print(Usage, stdout), 0;
+    if (files.size() == 1 && files[0] == "--version") {
+        return Print("bannersmith-inspect " BANNERSMITH_VERSION "\n", stdout), 0;
+    }
+    const bool json = std::erase(files, "--json") > 0;
+    if (files.empty()) return Print(Usage, stderr), 2;
+    return Inspect_All(files, json);
+}

@@ -1,0 +1,111 @@
+#include "mainwindow/form1.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "colors/scheme_list.h"
+#include "gameinfo/languages.h"
+#include "layout/mod_globals.h"
+#include "platform/files.h"
+#include "platform/text.h"
+
+namespace {
+
+constexpr std::u16string_view CurrentLogo = u"Current Logo";
+
+}  // namespace
+
+Form1::Form1(Process process, Dialogs& dialogs)
+    : cmbForce({LanguageList.begin(), LanguageList.end()}),
+      process_(std::move(process)),
+      dialogs_(dialogs) {
+    txtSrc.Change = [this] { txtSrc_Change(); };
+}
+
+std::optional<int> Form1::Form_Load() {
+    cmbForce.Select(cmbForce.Count() - 1);
+    std::u16string line;
+    if (const auto failure = Read_Configuration(line)) {
+        dialogs_.Report(*failure);
+        return Failed;
+    }
+    if (!line.empty()) txtSrc.Set(line);
+
+    if (!process_.command_line.empty()) return Run_Batch();
+    form.Show();
+    RefreshColorList_Here();
+    RefreshLogoList();
+    return std::nullopt;
+}
+
+std::u16string Form1::Configuration_Path() const {
+    return process_.program_folder + u"\\cfgs\\vcinfopath.cfg";
+}
+
+Outcome Form1::Read_Configuration(std::u16string& line) const {
+    std::string contents;
+    if (auto failure = Read_File(Configuration_Path(), contents)) return failure;
+    if (contents.empty()) return Failure{Configuration_Path(), "Holds no line"};
+    line = From_Utf8(contents.substr(0, contents.find_first_of("\r\n")));
+    return std::nullopt;
+}
+
+/// A path that cannot be stored is no reason to stop working, so a failure is not reported.
+void Form1::Store_Path() const {
+    const std::string line = To_Utf8(txtSrc.Text()) + "\r\n";
+    std::string stored;
+    if (!Read_File(Configuration_Path(), stored) && stored == line) return;
+    static_cast<void>(Replace_File(Configuration_Path(), line, Durability::unsynced));
+}
+
+std::u16string Form1::Layout_Path() const { return Resolve(process_.program_folder, txtSrc.Text()); }
+
+void Form1::txtSrc_Change() {
+    BrlytData.clear();
+    const std::u16string path = Layout_Path();
+    if (!Ordinary_File_Exists(path)) return;
+    BrlytPath = path;
+    Load_Brlyt();
+    Store_Path();
+}
+
+void Form1::Load_Brlyt() {
+    NoneRegion.clear();
+    if (!Ordinary_File_Exists(BrlytPath) || Ends_In_Separator(BrlytPath)) return;
+    if (Read_File(BrlytPath, BrlytData)) return;
+    BrlytData = CutPadding(std::move(BrlytData));
+    info.Refill();
+}
+
+void Form1::cmdFileBrowse_Click() {
+    const std::u16string file =
+        dialogs_.Open_File(u"Brlyt Files (*.brlyt)|*.brlyt|All Files (*.*)|*.*");
+    if (file.empty()) return;
+    txtSrc.Set(file);
+    // Dialogs answer with the platform's own separator, so the program's folder is looked for with
+    // either one behind it.
+    const std::u16string& folder = process_.program_folder;
+    for (const char16_t separator : {u'\\', u'/'}) {
+        txtSrc.Set(Replace_All(txtSrc.Text(), folder + separator, u"\\"));
+    }
+}
+
+void Form1::RefreshColorList_Here() {
+    Fill_Scheme_List(cmbFileList, File1, process_.program_folder);
+    cmbFileList.Select(0);
+}
+
+void Form1::RefreshLogoList() {
+    File2.Set_Path(process_.program_folder + u"\\logos\\");
+    cmbLogo.Clear();
+    cmbLogo.Add(CurrentLogo);
+    for (const std::u16string& name : File2.Names()) cmbLogo.Add(name);
+    cmbLogo.Select(0);
+}
+
+void Form1::SetForce(std::u16string& REG) {
+    REG = Capitals(REG);
+    const auto& entries = cmbForce.Entries();
+    const auto entry = std::find(entries.begin(), entries.end(), REG);
+    if (entry != entries.end()) cmbForce.Select(static_cast<int>(entry - entries.begin()));
+}

@@ -1,0 +1,116 @@
+// The main window: the layout file's path, the game information, and what a save applies. It is the
+// whole program: batch mode runs the same object without a view.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "gameinfo/game_info.h"
+#include "layout/file_length.h"
+#include "platform/controls.h"
+#include "platform/desktop.h"
+
+class Form1 {
+ public:
+    /// Exit statuses of a batch run.
+    static constexpr int Done = 0;
+    static constexpr int Failed = 1;    ///< the layout file and the logo texture are as they were
+    static constexpr int NoLayout = 2;  ///< the command line names no layout that can be read
+
+    /// `dialogs` must outlive the window.
+    Form1(Process process, Dialogs& dialogs);
+    Form1(const Form1&) = delete;
+    Form1& operator=(const Form1&) = delete;
+
+    Form form;
+    GameInfo info;
+    TextBox txtSrc;
+    TextBox txtPad{u"12000"};
+    DropDownList cmbFileList, cmbLogo, cmbForce;
+    FileList File1{".vccs"}, File2{".tpl"};
+
+    /// Start-up. Loads the layout that the configuration names; then shows the window and fills its
+    /// lists, or, with command-line text, runs it and saves. The result is the exit status of a program
+    /// that ends here; nothing when the window waits for the user.
+    std::optional<int> Form_Load();
+
+    /// Empties `BrlytData`, and loads and remembers the file that the path box names, if there is one.
+    void txtSrc_Change();
+
+    /// Lets the user choose a file. One below the program's folder is named relative to it.
+    void cmdFileBrowse_Click();
+
+    void cmbRegion_click(std::int16_t Index) { info.cmbRegion_click(Index); }
+    void cmbRegion_Change(std::int16_t Index) { cmbRegion_click(Index); }
+    void cmdSet_Click(std::int16_t Index) { info.cmdSet_Click(Index); }
+    void cmdSetAll_Click(std::int16_t Index) { info.cmdSetAll_Click(Index); }
+
+    /// Saves the layout and loads the saved file. A failure is reported and leaves the file, the logo
+    /// texture and `BrlytData` as they were.
+    void cmdSave_Click();
+
+    /// Fills the scheme list with "Current Brlyt", which it selects, and the names of the schemes.
+    void RefreshColorList_Here();
+
+    /// Fills the logo list with "Current Logo", which it selects, and the logo files.
+    void RefreshLogoList();
+
+    /// Puts the logo file `lgPath` in the place of the banner's logo texture, the first ".tpl" file in
+    /// the "timg" folder beside the layout's folder whose name begins with "my_Back". A bare name is
+    /// taken from the logos folder, "\..." from the program's folder, a full path as it is; `lgPath`
+    /// becomes the path used. A banner without such a folder or texture is left alone.
+    Outcome ReplaceLogo(std::u16string& lgPath);
+
+    /// Selects the entry of the force list that equals `REG` in capitals, if there is one. `REG` itself
+    /// becomes capitals.
+    void SetForce(std::u16string& REG);
+
+    /// Applies the command line: a layout path, then an option behind each hyphen. Stops at the first
+    /// failure, which is reported and gives the run its exit status.
+    void ParseClo();
+
+ private:
+    struct NamedOption;
+    struct PrefixedOption;
+    struct Texture {
+        std::u16string path;
+        std::string bytes;
+    };
+
+    void Load_Brlyt();
+    std::u16string Configuration_Path() const;
+    Outcome Read_Configuration(std::u16string& line) const;
+    void Store_Path() const;
+
+    std::u16string Layout_Path() const;
+    Outcome Save();
+    Outcome Write_Layout(const Padding& padding);
+    Outcome Apply_Chosen_Looks();
+    void Keep_Textures();
+    void Put_Textures_Back();
+
+    int Run_Batch();
+    void Take_Layout_Path(std::u16string_view piece);
+    void Take_Option(std::u16string_view piece);
+    Failure Why_No_Layout() const;
+    void Fail(int status, const Failure& failure);
+
+    void Option_Logo(std::u16string_view value);
+    void Option_Force(std::u16string_view value);
+    void Option_Color(std::u16string_view value);
+    void Option_Title(std::u16string_view value);
+    void Option_Year(std::u16string_view value);
+    void Option_Play(std::u16string_view value);
+    void Option_System(std::u16string_view value);
+    void Option_Esrb(std::u16string_view value);
+    void Option_Pad(std::u16string_view value);
+
+    Process process_;
+    Dialogs& dialogs_;
+    std::u16string BrlytPath;
+    std::vector<Texture> replaced_;  ///< textures as they were before replacements not yet saved
+    int status_ = Done;
+};

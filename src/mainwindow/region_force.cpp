@@ -1,0 +1,39 @@
+#include "mainwindow/region_force.h"
+
+#include "gameinfo/languages.h"
+#include "layout/text_box.h"
+#include "platform/text.h"
+
+namespace {
+
+bool Has_Title(std::string_view data, std::string_view code) {
+    return !Get_Text(data, "T_VCTitle_" + std::string(code)).empty();
+}
+
+/// The first language with a title; empty when there is none.
+std::string Titled_Language(std::string_view data) {
+    for (const std::u16string_view language : LanguageList) {
+        const std::string code = To_Utf8(language);
+        if (language != NoLanguage && Has_Title(data, code)) return code;
+    }
+    return {};
+}
+
+/// Overwrites each occurrence of `old` with `fresh`, which is as long, from left to right.
+void Overwrite_All(std::string& data, std::string_view old, std::string_view fresh) {
+    for (std::size_t at = data.find(old); at != data.npos; at = data.find(old, at + old.size())) {
+        data.replace(at, fresh.size(), fresh);
+    }
+}
+
+}  // namespace
+
+std::string& Region_Force(std::string& tFile, std::string_view region) {
+    if (region.empty() || region == "NONE" || Has_Title(tFile, region)) return tFile;
+    const std::string source = Titled_Language(tFile);
+    if (source.empty()) return tFile;
+    for (const std::string stem : {"T_YEAR_", "T_PLAY_", "T_ESRB_", "L"}) {
+        Overwrite_All(tFile, stem + source, stem + std::string(region));
+    }
+    return tFile;
+}

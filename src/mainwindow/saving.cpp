@@ -1,0 +1,142 @@
+// The save sequence of the main window and the replacement of the logo texture.
+#include <new>
+#include <utility>
+
+#include "colors/materials.h"
+#include "gameinfo/boxes.h"
+#include "gameinfo/languages.h"
+#include "layout/mod_globals.h"
+#include "layout/text_box.h"
+#include "mainwindow/form1.h"
+#include "mainwindow/region_force.h"
+#include "platform/files.h"
+#include "platform/text.h"
+
+namespace {
+
+/// Every text box that the save passes through the writer: language by language the four fields, then
+/// the system.
+std::vector<std::string> Boxes_To_Rewrite() {
+    std::vector<std::string> names;
+    for (const std::u16string_view code : LanguageList) {
+        for (const std::u16string_view prefix :
+             {box_prefix::Title, box_prefix::Year, box_prefix::Players, box_prefix::Rating}) {
+            names.push_back(To_Utf8(prefix) + To_Utf8(code));
+        }
+    }
+    names.push_back(To_Utf8(SystemBox));
+    return names;
+}
+
+/// The folder "timg" beside the folder of the layout file: the layout's path without its last two
+/// parts. Empty when the path names no folder that another could lie beside.
+std::u16string Texture_Folder(std::u16string_view layout_path) {
+    const std::u16string path = With_Backslashes(layout_path);
+    const std::size_t last = path.rfind(u'\\');
+    if (last == path.npos) return {};
+    const std::size_t before = last == 0 ? path.npos : path.rfind(u'\\', last - 1);
+    const std::u16string_view last_two =
+        std::u16string_view(path).substr(before == path.npos ? 0 : before + 1);
+    const std::u16string rest = Replace_All(path, last_two, u"");
+    if (rest.empty() && Is_Full_Path(layout_path)) return {};
+    return rest + u"timg\\";
+}
+
+}  // namespace
+
+void Form1::cmdSave_Click() {
+    const Outcome failure = Save();
+    if (failure) {
+        Fail(Failed, *failure);
+        return;
+    }
+    if (process_.command_line.empty()) dialogs_.Message(u"File Successfully Saved!");
+    txtSrc_Change();
+}
+
+/// Everything that can be refused is refused before anything is changed. What fails later leaves the
+/// data in memory and the textures as they were: a second try must not find its own padding counted
+/// into the layout.
+Outcome Form1::Save() {
+    if (BrlytData.size() < HeaderBytes) return Failure{txtSrc.Text(), "No layout is loaded"};
+    const auto padding = Read_Padding(txtPad.Text());
+    if (!padding) {
+        return Failure{u"Padding \"" + txtPad.Text() + u"\"",
+                       "Not a whole number up to 268435456, with or without + in front of it"};
+    }
+    std::string before = BrlytData;
+    Outcome failure;
+    try {
+        failure = Write_Layout(*padding);
+    } catch (const std::bad_alloc&) {
+        failure = Failure{txtSrc.Text(), "Not enough memory"};
+    }
+    if (failure) {
+        BrlytData = std::move(before);
+        Put_Textures_Back();
+    } else {
+        Keep_Textures();
+    }
+    return failure;
+}
+
+Outcome Form1::Write_Layout(const Padding& padding) {
+    const std::u16string path = Layout_Path();
+    BrlytData = Rewrite_Texts(std::move(BrlytData), Boxes_To_Rewrite());
+    BrlytData = Set_File_Len(std::move(BrlytData));
+    if (process_.command_line.empty()) {
+        if (auto failure = Apply_Chosen_Looks()) return failure;
+    }
+    Region_Force(BrlytData, To_Utf8(cmbForce.Selected()));
+    BrlytData = AddPadding(std::move(BrlytData), padding);
+    return Replace_File(path, BrlytData, Durability::synced);
+}
+
+/// The first entry of either list stands for what the banner has.
+Outcome Form1::Apply_Chosen_Looks() {
+    if (cmbFileList.Index() > 0) {
+        auto failure = Apply_Color_Scheme(process_.program_folder, cmbFileList.Selected());
+        if (failure) return failure;
+    }
+    if (cmbLogo.Index() > 0) {
+        std::u16string logo = cmbLogo.Selected();
+        return ReplaceLogo(logo);
+    }
+    return std::nullopt;
+}
+
+Outcome Form1::ReplaceLogo(std::u16string& lgPath) {
+    if (lgPath.starts_with(u'\\')) {
+        lgPath = process_.program_folder + lgPath;
+    } else if (!Is_Full_Path(lgPath)) {
+        lgPath = process_.program_folder + u"\\logos\\" + lgPath;
+    }
+    const std::u16string folder = Texture_Folder(Layout_Path());
+    if (folder.empty()) {
+        return Failure{txtSrc.Text(), "Names no folder to look for the logo texture beside"};
+    }
+    if (!Folder_Exists(folder)) return std::nullopt;
+    File2.Set_Path(folder);
+    for (const std::u16string& name : File2.Names()) {
+        if (!name.starts_with(u"my_Back")) continue;
+        Texture old{folder + name, {}};
+        std::string logo;
+        if (auto failure = Read_File(lgPath, logo)) return failure;
+        if (auto failure = Read_File(old.path, old.bytes)) return failure;
+        if (auto failure = Replace_File(old.path, logo, Durability::synced)) return failure;
+        replaced_.push_back(std::move(old));
+        break;
+    }
+    return std::nullopt;
+}
+
+void Form1::Keep_Textures() { replaced_.clear(); }
+
+/// Newest first, so that a texture replaced twice ends as it was before the first time.
+void Form1::Put_Textures_Back() {
+    for (; !replaced_.empty(); replaced_.pop_back()) {
+        const Texture& texture = replaced_.back();
+        const auto failure = Replace_File(texture.path, texture.bytes, Durability::synced);
+        if (failure) dialogs_.Report(*failure);
+    }
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+/// What `--help` prints for the two programs that edit.
+inline constexpr char Usage[] =
+    R"(usage: bannersmith                          open the editor's window
+       bannersmith [PATH] -OPTION VALUE...  edit and save without a window
+
+PATH is the layout file (banner.brlyt): a full path, or one below the program's
+folder. Without it the file used last is edited. Each hyphen begins an option,
+so neither paths nor values can hold one. Option words may be typed in any case.
+
+  -TITLE TEXT    the game's name in every language        (^ is a line break)
+  -YEAR YEAR     the release year, worded for every language
+  -PLAY N        the highest number of players, worded for every language
+  -ESRB RATING   the rating, worded for every language
+  -SYSTEM TEXT   the console's name
+  -T_xxx TEXT    the name, -Y_xxx YEAR the year, -E_xxx RATING the rating in one
+                 language: ENG, GER, FRA, ITA, SPA, NED or JPN
+  -H_BOX TEXT    the raw text of any text box
+  -COLOR NAME    apply the colour scheme schemes/NAME.vccs
+  -LOGO FILE     replace the logo texture with a file of the folder logos,
+                 or by a full path
+  -FORCE xxx     let another language's items answer to this language
+  -PAD N         pad the file to N bytes (12000 unless given); +N adds N bytes;
+                 0 adds none
+
+Exit status: 0 saved; 1 a failure, nothing was changed; 2 no layout to edit.
+)";

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+/// Why something could not be done: what it concerns (a file as the user named it, or a control) and
+/// the reason, a short text without a full stop.
+struct Failure {
+    std::u16string subject;
+    std::string reason;
+};
+
+/// Empty: done. Otherwise nothing was done, for the reason given.
+using Outcome = std::optional<Failure>;

@@ -1,0 +1,93 @@
+#include "platform/files.h"
+
+#include <algorithm>
+#include <filesystem>
+
+#include "platform/native_path.h"
+#include "platform/text.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+#ifdef _WIN32
+constexpr bool Posix = false;
+#else
+constexpr bool Posix = true;
+#endif
+
+bool Is_Separator(char16_t unit) { return unit == u'\\' || unit == u'/'; }
+
+char Small_Letter(char byte) { return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte + 32) : byte; }
+
+std::string Without_Case(std::string name) {
+    std::transform(name.begin(), name.end(), name.begin(), Small_Letter);
+    return name;
+}
+
+/// The regular files of a folder, by their UTF-8 names, in no order.
+std::vector<std::string> Regular_Files(const std::u16string& folder) {
+    std::vector<std::string> names;
+    std::error_code error;
+    for (fs::directory_iterator at(Native_Path(folder), error), end; !error && at != end;
+         at.increment(error)) {
+        std::error_code ignored;
+        if (!at->is_regular_file(ignored)) continue;
+        const std::u8string name = at->path().filename().u8string();
+        names.emplace_back(name.begin(), name.end());
+    }
+    return names;
+}
+
+}  // namespace
+
+fs::path Native_Path(std::u16string_view path) {
+    if (path.find(u'\0') != path.npos) return {};
+#ifdef _WIN32
+    return {std::wstring(path.begin(), path.end())};
+#else
+    return {To_Utf8(Replace_All(path, u"\\", u"/"))};
+#endif
+}
+
+bool Is_Full_Path(std::u16string_view path) {
+    return (path.size() > 1 && path[1] == u':') || (Posix && path.starts_with(u'/'));
+}
+
+bool Ends_In_Separator(std::u16string_view path) {
+    return !path.empty() && Is_Separator(path.back());
+}
+
+std::u16string With_Backslashes(std::u16string_view path) {
+    return Replace_All(path, u"/", u"\\");
+}
+
+std::u16string Resolve(std::u16string_view program_folder, std::u16string_view path) {
+    std::u16string resolved(path.starts_with(u'\\') ? program_folder : std::u16string_view());
+    return resolved.append(path);
+}
+
+bool Ordinary_File_Exists(const std::u16string& path) {
+    if (Ends_In_Separator(path)) return !Regular_Files(path).empty();
+    std::error_code ignored;
+    return fs::is_regular_file(Native_Path(path), ignored);
+}
+
+bool Folder_Exists(const std::u16string& path) {
+    std::error_code ignored;
+    return fs::is_directory(Native_Path(path), ignored);
+}
+
+std::vector<std::u16string> List_Files(const std::u16string& folder, std::string_view ending) {
+    std::vector<std::string> names = Regular_Files(folder);
+    std::erase_if(names, [&](const std::string& name) {
+        return name.starts_with('.') || !Without_Case(name).ends_with(Without_Case(std::string(ending)));
+    });
+    std::sort(names.begin(), names.end(), [](const std::string& a, const std::string& b) {
+        const std::string x = Without_Case(a), y = Without_Case(b);
+        return x != y ? x < y : a < b;
+    });
+    std::vector<std::u16string> texts;
+    for (const std::string& name : names) texts.push_back(From_Utf8(name));
+    return texts;
+}

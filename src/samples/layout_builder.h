@@ -1,0 +1,75 @@
+// Builds layout files, piece by piece as the format has them. The samples and the tests are made with
+// it; the editor itself never builds a layout.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// Bytes appended in order; numbers big-endian.
+class ByteWriter {
+ public:
+    ByteWriter& U8(unsigned value);
+    ByteWriter& U16(unsigned value);
+    ByteWriter& U32(std::uint32_t value);
+    ByteWriter& F32(float value);
+    /// `text` cut or filled up with zero bytes to `width` bytes.
+    ByteWriter& Name(std::string_view text, std::size_t width);
+    ByteWriter& Bytes(std::string_view bytes);
+    ByteWriter& Zeros(std::size_t count);
+    ByteWriter& Align(std::size_t multiple);
+    const std::string& Data() const { return data_; }
+
+ private:
+    std::string data_;
+};
+
+/// Red, green, blue, alpha.
+using Rgba = std::array<std::int16_t, 4>;
+
+/// One entry of the material list, with one texture where `texture` is not negative.
+struct Material {
+    std::string name;
+    Rgba first{0, 0, 0, 0};
+    Rgba second{255, 255, 255, 255};
+    int texture = -1;
+};
+
+/// Where a pane lies and how large it is, in units of the banner's 608 x 456 screen.
+struct Place {
+    float x = 0, y = 0, width = 0, height = 0;
+};
+
+/// One text box. `stored` is what lies at the record's end: text, terminator and padding.
+struct TextBoxSpec {
+    std::string name;
+    std::string stored;
+    unsigned buffer_length = 0;
+    unsigned text_length = 0;
+    unsigned material = 0;
+    Place place;
+    float font_size = 20;
+    std::uint32_t color = 0xFFFFFFFF;
+};
+
+/// A text box as a clean edit leaves it: terminated, padded to four bytes, both lengths equal.
+TextBoxSpec Clean_Text_Box(std::string_view name, std::u16string_view text, unsigned material,
+                           Place place = {}, float font_size = 20);
+
+/// A section: tag, size and body, filled up to a multiple of four bytes.
+std::string Section(std::string_view tag, std::string_view body);
+
+std::string Text_Box_Section(const TextBoxSpec& box);
+std::string Pane_Section(std::string_view name, Place place);
+std::string Picture_Section(std::string_view name, unsigned material, Place place);
+std::string Material_Section(const std::vector<Material>& materials);
+/// A list of names: "txl1" for textures, "fnl1" for fonts.
+std::string Name_List_Section(std::string_view tag, const std::vector<std::string>& names);
+std::string Group_Section(std::string_view name, const std::vector<std::string>& members);
+/// A section without a body: "pas1", "pae1", "grs1", "gre1".
+std::string Empty_Section(std::string_view tag);
+
+/// The header and the sections behind it, in order: a whole file.
+std::string Layout_File(const std::vector<std::string>& sections);

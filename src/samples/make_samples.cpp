@@ -1,0 +1,116 @@
+// make-samples FOLDER: fills a program folder with everything that is not a program: the sample
+// banners, the schemes, the logos and a configuration that names the first sample.
+#include <cmath>
+#include <cstdio>
+#include <filesystem>
+#include <numbers>
+#include <string>
+
+#include "colors/scheme.h"
+#include "platform/desktop.h"
+#include "platform/files.h"
+#include "platform/text.h"
+#include "samples/banners.h"
+#include "samples/texture.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int LogoWidth = 256, LogoHeight = 64;
+
+bool failed = false;
+
+void Write(const fs::path& path, std::string_view bytes) {
+    fs::create_directories(path.parent_path());
+    const auto failure = Replace_File(From_Utf8(path.string()), bytes, Durability::unsynced);
+    if (!failure) return;
+    ConsoleDialogs().Report(*failure);
+    failed = true;
+}
+
+/// 1 inside a shape, 0 outside, and a soft edge one pixel wide; `distance` is negative inside.
+double Inside(double distance) { return std::fmin(1, std::fmax(0, 0.5 - distance)); }
+
+double Ring(int x, int y, double centre_x, double radius, double thickness) {
+    const double distance = std::hypot(x - centre_x, y - LogoHeight / 2.0);
+    return Inside(std::abs(distance - radius) - thickness / 2);
+}
+
+Pixel Rings(int x, int y) {
+    double light = 0;
+    for (const double centre : {64.0, 128.0, 192.0}) light = std::fmax(light, Ring(x, y, centre, 24, 6));
+    return {light, light, light, light};
+}
+
+Pixel Diamonds(int x, int y) {
+    const double across = std::abs(x % 64 - 32), down = std::abs(y - 32);
+    const double light = Inside(across + down - 26) - 0.6 * Inside(across + down - 14);
+    return {light, light, light, light};
+}
+
+Pixel Comet(int x, int y) {
+    const double head = Inside(std::hypot(x - 208, y - 24) - 14);
+    const double tail = Inside(std::abs(y - 24 - (208 - x) * 0.12) - x / 18.0) * x / 256.0;
+    const double light = std::fmax(head, x < 208 ? tail * 0.9 : 0);
+    return {light, light, light, light};
+}
+
+Pixel Waves(int x, int y) {
+    const double wave = 32 + 14 * std::sin(x * 2 * std::numbers::pi / 64);
+    const double light = std::fmax(Inside(std::abs(y - wave) - 4), 0.5 * Inside(std::abs(y - wave - 14) - 2));
+    return {0.3 * light, 0.7 * light, light, light};
+}
+
+Pixel Sunrise(int x, int y) {
+    const double sun = Inside(std::hypot(x - 128, y - 56) - 40);
+    const double bands = y > 40 && y % 8 < 3 ? 0 : 1;
+    const double light = y < 56 ? sun * bands : 0;
+    return {light, 0.55 * light + 0.2 * light * (56 - y) / 40.0, 0.25 * light, light};
+}
+
+std::string Logo(TextureFormat format, Pixel (*pixel)(int, int)) {
+    return Texture_File(format, LogoWidth, LogoHeight, pixel);
+}
+
+void Write_Banner(const fs::path& samples, const std::string& name, const std::string& layout) {
+    const fs::path arc = samples / name / "arc";
+    Write(arc / "blyt" / "banner.brlyt", layout);
+    Write(arc / "timg" / "my_Back_logo.tpl", Logo(TextureFormat::i4, Rings));
+    Write(arc / "timg" / "my_VCPic.tpl",
+          Texture_File(TextureFormat::rgb5a3, 128, 96, [](int x, int y) {
+              return Pixel{x / 127.0, y / 95.0, 0.5, 1};
+          }));
+    Write(arc / "timg" / "my_White.tpl",
+          Texture_File(TextureFormat::i4, 8, 8, [](int, int) { return Pixel{1, 1, 1, 1}; }));
+}
+
+void Write_Program_Folder(const fs::path& folder) {
+    const fs::path samples = folder / "samples", logos = folder / "logos";
+    Write_Banner(samples, "seven_languages", Seven_Language_Banner());
+    Write_Banner(samples, "all_languages_one_text", Neutral_Banner());
+    Write_Banner(samples, "german_japanese", German_Japanese_Banner());
+    Write_Banner(samples, "no_closing_group", Banner_Without_Closing_Group());
+    Write(logos / "Comet.tpl", Logo(TextureFormat::i4, Comet));
+    Write(logos / "Diamonds.tpl", Logo(TextureFormat::ia8, Diamonds));
+    Write(logos / "Rings.tpl", Logo(TextureFormat::i4, Rings));
+    Write(logos / "Sunrise.tpl", Logo(TextureFormat::rgb5a3, Sunrise));
+    Write(logos / "Waves.tpl", Logo(TextureFormat::rgb5a3, Waves));
+    for (const NamedScheme& named : Shipped_Schemes()) {
+        const std::string file = To_Utf8(named.name) + std::string(SchemeEnding);
+        Write(folder / "schemes" / file, Format_Scheme(named.scheme));
+    }
+    Write(folder / "cfgs" / "vcinfopath.cfg",
+          "\\samples\\seven_languages\\arc\\blyt\\banner.brlyt\r\n");
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 2) {
+        std::fputs("usage: make-samples FOLDER\n", stderr);
+        return 1;
+    }
+    Write_Program_Folder(argv[1]);
+    return failed ? 1 : 0;
+}

@@ -1,0 +1,18 @@
+// Builds textures (".tpl") as the console reads them: one image, blocks of pixels left to right and
+// top to bottom.
+#pragma once
+
+#include <functional>
+#include <string>
+
+/// The image formats made here, by their numbers in the file.
+enum class TextureFormat { i4 = 0, ia8 = 3, rgb5a3 = 5 };
+
+/// One pixel: grey or colour, and opacity, each 0 to 1. Formats without colour take the green.
+struct Pixel {
+    double red = 0, green = 0, blue = 0, alpha = 1;
+};
+
+/// A whole texture file of `width` x `height` pixels, both multiples of 8; `pixel(x, y)` gives each.
+std::string Texture_File(TextureFormat format, int width, int height,
+                         const std::function<Pixel(int x, int y)>& pixel);
