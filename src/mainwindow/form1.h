@@ -89,7 +89,6 @@ class Form1 {
     Outcome Save();
     Outcome Write_Layout(const Padding& padding);
     Outcome Apply_Chosen_Looks();
-    void Keep_Textures();
     void Put_Textures_Back();
 
     int Run_Batch();

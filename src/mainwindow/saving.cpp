@@ -47,16 +47,17 @@ std::u16string Texture_Folder(std::u16string_view layout_path) {
 void Form1::cmdSave_Click() {
     const Outcome failure = Save();
     if (failure) {
+        Put_Textures_Back();
         Fail(Failed, *failure);
         return;
     }
+    replaced_.clear();
     if (process_.command_line.empty()) dialogs_.Message(u"File Successfully Saved!");
     txtSrc_Change();
 }
 
 /// Everything that can be refused is refused before anything is changed. What fails later leaves the
-/// data in memory and the textures as they were: a second try must not find its own padding counted
-/// into the layout.
+/// data in memory as it was: a second try must not find its own padding counted into the layout.
 Outcome Form1::Save() {
     if (BrlytData.size() < HeaderBytes) return Failure{txtSrc.Text(), "No layout is loaded"};
     const auto padding = Read_Padding(txtPad.Text());
@@ -71,12 +72,7 @@ Outcome Form1::Save() {
     } catch (const std::bad_alloc&) {
         failure = Failure{txtSrc.Text(), "Not enough memory"};
     }
-    if (failure) {
-        BrlytData = std::move(before);
-        Put_Textures_Back();
-    } else {
-        Keep_Textures();
-    }
+    if (failure) BrlytData = std::move(before);
     return failure;
 }
 
@@ -129,8 +125,6 @@ Outcome Form1::ReplaceLogo(std::u16string& lgPath) {
     }
     return std::nullopt;
 }
-
-void Form1::Keep_Textures() { replaced_.clear(); }
 
 /// Newest first, so that a texture replaced twice ends as it was before the first time.
 void Form1::Put_Textures_Back() {

@@ -1,0 +1,130 @@
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "platform/controls.h"
+#include "platform/files.h"
+#include "platform/text.h"
+#include "support.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+TEST(Text, SurvivesTheWayThroughUtf8) {
+    for (const std::string bytes : {"", "plain", "\xE5\xB9\xB4\xF0\x9F\x98\x80", "bad \xFF\xC3 bytes", "\xC3"}) {
+        EXPECT_EQ(To_Utf8(From_Utf8(bytes)), bytes);
+    }
+    EXPECT_EQ(From_Utf8("\xF0\x9F\x98\x80"), u"\xD83D\xDE00");
+    EXPECT_EQ(To_Utf8(u"a\xD800" u"b"), "a\xEF\xBF\xBD" "b");
+    EXPECT_EQ(To_Bytes(u"\u00E9"), "\xE9");
+    EXPECT_EQ(To_Bytes(u"\u0100"), std::nullopt);
+    EXPECT_EQ(From_Bytes("\xE9\x41"), u"\u00E9" u"A");
+    EXPECT_EQ(Trim(u"  \ta b  "), u"\ta b");
+    EXPECT_EQ(Capitals(u"aZz\u00E9_9"), u"AZZ\u00E9_9");
+    EXPECT_EQ(Replace_All(u"aaa", u"aa", u"b"), u"ba");
+}
+
+TEST(Paths, AreConvertedWhereTheyMeetTheFileSystem) {
+    const TempFolder folder;
+    folder.Write("sub/File.TPL", "x");
+    EXPECT_TRUE(Ordinary_File_Exists(folder.Text() + u"\\sub/File.TPL"));
+    EXPECT_TRUE(Ordinary_File_Exists(folder.Text() + u"\\sub\\")) << "finds any file of the folder";
+    EXPECT_FALSE(Ordinary_File_Exists(folder.Text() + u"\\")) << "holds a folder only";
+    EXPECT_FALSE(Ordinary_File_Exists(folder.Text() + u"\\sub"));
+    EXPECT_FALSE(Ordinary_File_Exists(u""));
+    EXPECT_FALSE(Ordinary_File_Exists(folder.Text() + u"\\sub\\File.TPL" + std::u16string(1, 0) + u"x"));
+    EXPECT_TRUE(Folder_Exists(folder.Text() + u"\\sub\\"));
+    EXPECT_FALSE(Folder_Exists(folder.Text() + u"\\sub\\File.TPL"));
+    EXPECT_EQ(Resolve(u"/prog", u"\\x"), u"/prog\\x");
+    EXPECT_EQ(Resolve(u"/prog", u"x\\y"), u"x\\y");
+    EXPECT_TRUE(Is_Full_Path(u"C:\\x") && Is_Full_Path(u"/x") && !Is_Full_Path(u"\\x"));
+}
+
+TEST(FileList, IsSortedWithoutCase) {
+    const TempFolder folder;
+    for (const char* name : {"b.tpl", "A.TPL", "C.tpl", "a.tplx", "a.txt", ".hidden.tpl", "d.tpl/e"}) {
+        folder.Write(name, "");
+    }
+    FileList list(".tpl");
+    list.Set_Path(folder.Text());
+    EXPECT_EQ(list.Names(), (std::vector<std::u16string>{u"A.TPL", u"b.tpl", u"C.tpl"}));
+    list.Set_Path(folder.Text() + u"/none");
+    EXPECT_TRUE(list.Names().empty());
+}
+
+TEST(Controls, RaiseTheirEventsInTheCall) {
+    int changes = 0, clicks = 0;
+    TextBox box;
+    box.Change = [&] { ++changes; };
+    box.Set(u"a");
+    box.Set(u"a");
+    box.Set(u"");
+    EXPECT_EQ(changes, 2);
+    DropDownList list({u"x", u"y"});
+    list.Click = [&] { ++clicks; };
+    list.Select(1);
+    list.Select(1);
+    EXPECT_EQ(clicks, 1);
+    list.Pick(1);
+    EXPECT_EQ(clicks, 2) << "a person's pick counts even when nothing changes";
+    list.Select(7);
+    EXPECT_EQ(list.Index(), DropDownList::NoSelection);
+    EXPECT_EQ(list.Selected(), u"");
+    list.Select(0);
+    list.Clear();
+    EXPECT_EQ(clicks, 4) << "emptying raises nothing";
+}
+
+TEST(ReplaceFile, MakesAndReplacesFilesWhole) {
+    const TempFolder folder;
+    const std::u16string file = folder.Text() + u"/f";
+    EXPECT_FALSE(Replace_File(file, std::string(100000, 'a'), Durability::synced));
+    EXPECT_FALSE(Replace_File(file, "short", Durability::unsynced));
+    EXPECT_EQ(folder.Read("f"), "short");
+    ::chmod((folder.Path() / "f").c_str(), 0640);
+    EXPECT_FALSE(Replace_File(file, "b", Durability::synced));
+    struct stat info {};
+    ::stat((folder.Path() / "f").c_str(), &info);
+    EXPECT_EQ(info.st_mode & 07777, 0640U);
+    EXPECT_EQ(folder.Names(), std::vector<std::string>{"f"});
+}
+
+TEST(ReplaceFile, KeepsLinks) {
+    const TempFolder folder;
+    folder.Write("real/f", "old");
+    fs::create_symlink("real/f", folder.Path() / "one");
+    fs::create_symlink("one", folder.Path() / "two");
+    fs::create_symlink("real/new", folder.Path() / "dangling");
+    fs::create_symlink("loop", folder.Path() / "loop");
+    EXPECT_FALSE(Replace_File(folder.Text() + u"/two", "fresh", Durability::synced));
+    EXPECT_EQ(folder.Read("real/f"), "fresh");
+    EXPECT_TRUE(fs::is_symlink(folder.Path() / "two") && fs::is_symlink(folder.Path() / "one"));
+    EXPECT_FALSE(Replace_File(folder.Text() + u"/dangling", "made", Durability::synced));
+    EXPECT_EQ(folder.Read("real/new"), "made");
+    EXPECT_TRUE(Replace_File(folder.Text() + u"/loop", "x", Durability::synced));
+}
+
+TEST(ReplaceFile, RefusesWhatIsNoOrdinaryFile) {
+    const TempFolder folder;
+    folder.Write("dir/inside", "x");
+    ::mkfifo((folder.Path() / "pipe").c_str(), 0666);
+    const auto before = folder.Names();
+    std::string bytes = "kept";
+    for (const std::u16string name : {u"/dir", u"/pipe", u"/none/f"}) {
+        EXPECT_TRUE(Replace_File(folder.Text() + name, "x", Durability::synced)) << To_Utf8(name);
+        const Outcome failure = Read_File(folder.Text() + name, bytes);
+        ASSERT_TRUE(failure);
+        EXPECT_EQ(failure->subject, folder.Text() + name);
+        EXPECT_NE(failure->reason, "");
+    }
+    EXPECT_EQ(bytes, "kept");
+    EXPECT_EQ(folder.Names(), before);
+    if (::geteuid() == 0) GTEST_SKIP() << "a privileged user may write every file";
+    folder.Write("readonly", "old");
+    ::chmod((folder.Path() / "readonly").c_str(), 0444);
+    EXPECT_TRUE(Replace_File(folder.Text() + u"/readonly", "x", Durability::synced));
+    EXPECT_EQ(folder.Read("readonly"), "old");
+}
+
+}  // namespace

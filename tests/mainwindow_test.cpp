@@ -1,0 +1,371 @@
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "colors/materials.h"
+#include "gameinfo/boxes.h"
+#include "layout/mod_globals.h"
+#include "layout/numbers.h"
+#include "layout/text_box.h"
+#include "mainwindow/region_force.h"
+#include "platform/text.h"
+#include "samples/banners.h"
+#include "support.h"
+
+namespace {
+
+using namespace std::string_literals;
+
+/// A program folder with one banner, and the main window on it.
+class MainWindow : public testing::Test {
+ public:
+    static constexpr char Configuration[] = "cfgs/vcinfopath.cfg";
+    static constexpr char Layout[] = "b/arc/blyt/banner.brlyt";
+    static constexpr char Texture[] = "b/arc/timg/my_BackX.tpl";
+
+    MainWindow() {
+        BrlytData.clear();
+        folder.Write(Configuration, "\\b\\arc\\blyt\\banner.brlyt\r\n");
+        folder.Write(Layout, Seven_Language_Banner());
+        folder.Write(Texture, "old texture");
+        folder.Write("logos/New.tpl", "new texture");
+        folder.Write("schemes/Zebra.vccs", Format_Scheme(Scheme{}));
+        folder.Write("schemes/apple.vccs", Format_Scheme(Scheme{}));
+    }
+
+    /// Starts the window, or the batch run of a command line.
+    std::optional<int> Start(const std::u16string& command_line = u"") {
+        window = std::make_unique<Form1>(Process{folder.Text(), command_line}, dialogs);
+        return window->Form_Load();
+    }
+
+    std::string On_Disk(const char* box) const { return To_Utf8(Get_Text(folder.Read(Layout), box)); }
+
+    TempFolder folder;
+    TestDialogs dialogs;
+    std::unique_ptr<Form1> window;
+};
+
+TEST_F(MainWindow, StartsWithTheConfiguredLayout) {
+    EXPECT_EQ(Start(), std::nullopt);
+    EXPECT_TRUE(window->form.Visible());
+    EXPECT_EQ(window->info.txtName.Text(), u"Starlight Courier");
+    EXPECT_EQ(window->cmbForce.Selected(), u"NONE");
+    EXPECT_EQ(window->txtPad.Text(), u"12000");
+    using Entries = std::vector<std::u16string>;
+    EXPECT_EQ(window->cmbFileList.Entries(), (Entries{u"Current Brlyt", u"apple", u"Zebra"}));
+    EXPECT_EQ(window->cmbLogo.Entries(), (Entries{u"Current Logo", u"New.tpl"}));
+    EXPECT_EQ(window->cmbFileList.Index() + window->cmbLogo.Index(), 0);
+}
+
+TEST_F(MainWindow, NeedsItsConfiguration) {
+    folder.Write(Configuration, "");
+    EXPECT_EQ(Start(), Form1::Failed);
+    std::filesystem::remove(folder.Path() / Configuration);
+    EXPECT_EQ(Start(u"-PAD 0"), Form1::Failed);
+    ASSERT_EQ(dialogs.failures.size(), 2U);
+    EXPECT_EQ(dialogs.failures[1].subject, folder.Text() + u"\\cfgs\\vcinfopath.cfg");
+    EXPECT_FALSE(window->form.Visible());
+}
+
+TEST_F(MainWindow, ReadsTheConfigurationsFirstLine) {
+    struct Case {
+        std::string contents;
+        std::u16string path;
+        std::string afterwards;
+    };
+    const std::string path = "\\b\\arc\\blyt\\banner.brlyt";
+    const Case cases[] = {
+        {path + "\nsecond", From_Utf8(path), path + "\r\n"},
+        {path, From_Utf8(path), path + "\r\n"},
+        {"\r\n" + path, u"", "\r\n" + path},
+        {"\\none.brlyt\r\nx", u"\\none.brlyt", "\\none.brlyt\r\nx"},
+    };
+    for (const Case& c : cases) {
+        folder.Write(Configuration, c.contents);
+        EXPECT_EQ(Start(), std::nullopt);
+        EXPECT_EQ(window->txtSrc.Text(), c.path);
+        EXPECT_EQ(folder.Read(Configuration), c.afterwards);
+        EXPECT_EQ(BrlytData.empty(), c.afterwards == c.contents);
+    }
+}
+
+TEST_F(MainWindow, FollowsThePathBoxAtEachKeystroke) {
+    Start();
+    const std::u16string path = u"\\b\\arc\\blyt\\banner.brlyt";
+    const std::string configured = folder.Read(Configuration);
+    for (std::size_t typed = 0; typed < path.size(); ++typed) {
+        window->txtSrc.Set(path.substr(0, typed));
+        EXPECT_EQ(BrlytData, "");
+        EXPECT_EQ(window->info.txtName.Text(), u"Starlight Courier") << "the fields stay";
+    }
+    const bool last_folder_was_stored = folder.Read(Configuration) == "\\b\\arc\\blyt\\\r\n";
+    EXPECT_TRUE(last_folder_was_stored) << "a folder with files is found, and nothing loaded";
+    window->txtSrc.Set(path);
+    EXPECT_EQ(BrlytData, Seven_Language_Banner());
+    EXPECT_EQ(folder.Read(Configuration), configured);
+    NoneRegion = u"JPN";
+    window->txtSrc.Set(u"\\logos\\");
+    EXPECT_EQ(NoneRegion, u"");
+    EXPECT_TRUE(dialogs.failures.empty());
+}
+
+TEST_F(MainWindow, BrowsesForAFile) {
+    Start();
+    window->cmdFileBrowse_Click();
+    EXPECT_EQ(dialogs.filter, u"Brlyt Files (*.brlyt)|*.brlyt|All Files (*.*)|*.*");
+    EXPECT_EQ(window->txtSrc.Text(), u"\\b\\arc\\blyt\\banner.brlyt") << "a cancel changes nothing";
+    folder.Write("c/arc/blyt/other.brlyt", Neutral_Banner());
+    dialogs.file = folder.Text() + u"/c/arc/blyt/other.brlyt";
+    window->cmdFileBrowse_Click();
+    EXPECT_EQ(window->txtSrc.Text(), u"\\c/arc/blyt/other.brlyt");
+    EXPECT_EQ(folder.Read(Configuration), "\\c/arc/blyt/other.brlyt\r\n");
+    EXPECT_EQ(BrlytData, Neutral_Banner());
+    const TempFolder elsewhere;
+    elsewhere.Write("x.brlyt", Neutral_Banner());
+    dialogs.file = elsewhere.Text() + u"/x.brlyt";
+    window->cmdFileBrowse_Click();
+    EXPECT_EQ(window->txtSrc.Text(), dialogs.file);
+}
+
+TEST_F(MainWindow, SavesOnlyWhatTheWriterChanges) {
+    std::string layout = Seven_Language_Banner();
+    const std::size_t buffer = layout.find("T_Play_GER", layout.find("txt1")) - 0x0C + 0x4C;
+    Write_U16(layout, buffer, 100);
+    folder.Write(Layout, layout + std::string(999, '\0'));
+    Start();
+    window->cmdSave_Click();
+    EXPECT_EQ(dialogs.messages, std::vector<std::u16string>{u"File Successfully Saved!"});
+    std::string expected = Seven_Language_Banner();
+    EXPECT_EQ(BrlytData, expected);
+    expected.resize(12000, '\0');
+    EXPECT_EQ(Hex(folder.Read(Layout)), Hex(expected));
+    EXPECT_EQ(folder.Read(Texture), "old texture");
+}
+
+TEST_F(MainWindow, SavesWithLooksForceAndPadding) {
+    folder.Write("schemes/Mine.vccs", Format_Scheme(Shipped_Schemes()[3].scheme));
+    folder.Write(Layout, German_Japanese_Banner());
+    Start();
+    window->cmbFileList.Pick(2);
+    window->cmbLogo.Pick(1);
+    window->cmbForce.Pick(0);
+    window->txtPad.Set(u"+10");
+    window->cmdSave_Click();
+    const std::string saved = folder.Read(Layout);
+    EXPECT_EQ(Read_U32(saved, 8), saved.size() - 10);
+    EXPECT_EQ(saved.substr(saved.size() - 18), "gre1\0\0\0\x08"s + std::string(10, '\0'));
+    ColorPair pair;
+    ASSERT_TRUE(Get_Mat_Colors(saved, "VCPic", pair));
+    EXPECT_EQ(pair, Shipped_Schemes()[3].scheme[14]);
+    EXPECT_NE(saved.find("T_ESRB_ENG"), saved.npos);
+    EXPECT_EQ(folder.Read(Texture), "new texture");
+    EXPECT_EQ(window->cmbFileList.Index(), 2) << "the lists keep their selections";
+    EXPECT_TRUE(dialogs.failures.empty());
+}
+
+TEST_F(MainWindow, AFailedSaveLeavesEverythingAsItWas) {
+    struct Case {
+        const char* what;
+        std::function<void(MainWindow&)> spoil;
+    };
+    const Case cases[] = {
+        {"padding", [](MainWindow& t) { t.window->txtPad.Set(u"12k"); }},
+        {"scheme", [](MainWindow& t) { t.folder.Write("schemes/Zebra.vccs", "1 2 3"); }},
+        {"logo", [](MainWindow& t) { std::filesystem::remove(t.folder.Path() / "logos/New.tpl"); }},
+        {"layout", [](MainWindow& t) {
+             std::filesystem::remove(t.folder.Path() / Layout);
+             t.folder.Write(Layout + "/in the way"s, "");
+         }},
+    };
+    for (const Case& c : cases) {
+        folder.Write("logos/New.tpl", "new texture");
+        Start();
+        window->cmbFileList.Pick(2);
+        window->cmbLogo.Pick(1);
+        window->info.txtYear.Set(u"2020");
+        window->cmdSetAll_Click(1);
+        const std::string before = BrlytData;
+        dialogs.failures.clear();
+        c.spoil(*this);
+        const auto names = folder.Names();
+        window->cmdSave_Click();
+        EXPECT_EQ(BrlytData, before) << c.what;
+        EXPECT_EQ(folder.Names(), names) << c.what;
+        EXPECT_EQ(folder.Read(Texture), "old texture") << c.what;
+        EXPECT_EQ(dialogs.failures.size(), 1U) << c.what;
+        EXPECT_TRUE(dialogs.messages.empty()) << c.what;
+        folder.Write("schemes/Zebra.vccs", Format_Scheme(Scheme{}));
+    }
+}
+
+TEST_F(MainWindow, RefusesToSaveNothing) {
+    for (const char* contents : {"", "RLYT\xFE\xFF\0\x08\0\0\0"}) {
+        folder.Write(Layout, contents);
+        Start();
+        window->cmdSave_Click();
+        EXPECT_EQ(folder.Read(Layout), contents);
+    }
+    window->txtSrc.Set(u"\\none.brlyt");
+    window->cmdSave_Click();
+    EXPECT_EQ(folder.Read("none.brlyt"), "(none)");
+    EXPECT_EQ(dialogs.failures.size(), 3U);
+}
+
+TEST_F(MainWindow, ReplacesTheFirstTextureThatIsTheLogo) {
+    folder.Write("b/arc/timg/my_BackY.tpl", "second");
+    folder.Write("b/arc/timg/my_backA.tpl", "not the logo");
+    folder.Write("b/arc/timg/my_BackA.txt", "no texture");
+    folder.Write("other.tpl", "other");
+    Start();
+    struct Case {
+        std::u16string logo, path;
+        std::string texture;
+    };
+    const Case cases[] = {
+        {u"New.tpl", folder.Text() + u"\\logos\\New.tpl", "new texture"},
+        {u"\\other.tpl", folder.Text() + u"\\other.tpl", "other"},
+        {folder.Text() + u"/logos/New.tpl", folder.Text() + u"/logos/New.tpl", "new texture"},
+    };
+    for (const Case& c : cases) {
+        std::u16string logo = c.logo;
+        EXPECT_FALSE(window->ReplaceLogo(logo));
+        EXPECT_EQ(logo, c.path);
+        EXPECT_EQ(folder.Read(Texture), c.texture);
+    }
+    EXPECT_EQ(folder.Read("b/arc/timg/my_BackY.tpl"), "second");
+    EXPECT_EQ(folder.Read("b/arc/timg/my_backA.tpl"), "not the logo");
+
+    std::u16string missing = u"None.tpl";
+    EXPECT_TRUE(window->ReplaceLogo(missing));
+    std::filesystem::rename(folder.Path() / "b/arc/timg", folder.Path() / "b/arc/TIMG2");
+    EXPECT_FALSE(window->ReplaceLogo(missing)) << "no texture folder: nothing to do";
+    for (const char16_t* path : {u"banner.brlyt", u"/banner.brlyt"}) {
+        window->txtSrc.Set(path);
+        EXPECT_TRUE(window->ReplaceLogo(missing)) << To_Utf8(path);
+    }
+}
+
+TEST_F(MainWindow, SetForceSelectsByCode) {
+    Start();
+    for (const auto& [code, selected] : {std::pair{u"jpn", u"JPN"}, {u"XXX", u"JPN"}, {u"", u"JPN"},
+                                         {u"None", u"NONE"}, {u"ita ", u"NONE"}}) {
+        std::u16string argument = code;
+        window->SetForce(argument);
+        EXPECT_EQ(window->cmbForce.Selected(), selected);
+    }
+}
+
+TEST(RegionForce, RenamesTheFirstTitledLanguagesItems) {
+    const std::string titles = Box("T_VCTitle_JPN", u"J") + Box("T_VCTitle_GER", u"G");
+    const std::string items = "T_YEAR_GER T_PLAY_GER T_ESRB_GER LGER LLGER T_Year_GER t_ESRB_GER LJPN";
+    const std::string forced = "T_YEAR_ITA T_PLAY_ITA T_ESRB_ITA LITA LLITA T_Year_GER t_ESRB_GER LJPN";
+    std::string data = titles + items;
+    EXPECT_EQ(&Region_Force(data, "ITA"), &data);
+    EXPECT_EQ(data, titles + forced);
+    for (const char* region : {"NONE", "", "GER", "JPN"}) {
+        data = titles + items;
+        EXPECT_EQ(Region_Force(data, region), titles + items) << region;
+    }
+    data = Box("T_VCTitle_GER", u"") + items;
+    const std::string untitled = data;
+    EXPECT_EQ(Region_Force(data, "ITA"), untitled);
+}
+
+TEST_F(MainWindow, TakesTheLayoutPathFromTheCommandLine) {
+    const std::u16string base = folder.Text();
+    struct Case {
+        std::u16string typed, stored;
+    };
+    const Case cases[] = {
+        {u"  b/arc/blyt/banner.brlyt  ", base + u"\\b/arc/blyt/banner.brlyt"},
+        {u"\\b\\arc\\blyt\\banner.brlyt", base + u"\\b\\arc\\blyt\\banner.brlyt"},
+        {base + u"/b/arc/blyt/banner.brlyt", base + u"/b/arc/blyt/banner.brlyt"},
+        {u"", u"\\b\\arc\\blyt\\banner.brlyt"},
+    };
+    for (const Case& c : cases) {
+        folder.Write(Configuration, "\\b\\arc\\blyt\\banner.brlyt\r\n");
+        EXPECT_EQ(Start(c.typed + u"-TITLE New"), Form1::Done);
+        EXPECT_EQ(On_Disk("T_VCTitle_GER"), "New");
+        EXPECT_EQ(folder.Read(Configuration), To_Utf8(c.stored) + "\r\n");
+        folder.Write(Layout, Seven_Language_Banner());
+    }
+    EXPECT_TRUE(dialogs.messages.empty());
+    EXPECT_FALSE(window->form.Visible());
+}
+
+TEST_F(MainWindow, AppliesOptionsInTheirOrder) {
+    struct Case {
+        const char16_t* options;
+        const char* box;
+        const char* text;
+    };
+    const Case cases[] = {
+        {u"-TITLE All -T_GER Nur", "T_VCTitle_GER", "Nur"},
+        {u"-T_GER Nur -TITLE All", "T_VCTitle_GER", "All"},
+        {u"-tItLe  a \"b\" c\" ", "T_VCTitle_ENG", "a b c"},
+        {u"-TITLE Cut-off", "T_VCTitle_ENG", "Cut"},
+        {u"-TITLE \u3042^b", "T_VCTitle_JPN", "\u3042^b"},
+        {u"- TITLE x", "T_VCTitle_ENG", "Starlight Courier"},
+        {u"-TITLE", "T_VCTitle_ENG", "Starlight Courier"},
+        {u"-TITLES x", "T_VCTitle_ENG", "Starlight Courier"},
+        {u"-YEAR \"1985\"", "T_Year_ENG", "Released: \"1985\""},
+        {u"-YEAR ", "T_Year_NED", "Release: ????"},
+        {u"-YEAR", "T_Year_ENG", "Released: 1991"},
+        {u"-y_ger \"85\"", "T_Year_GER", "Erschienen: 85"},
+        {u"-Y_GER 85", "T_Year_ENG", "Released: 1991"},
+        {u"-E_FRA T", "T_ESRB_FRA", "Classement ESRB: T"},
+        {u"-ESRB T", "T_ESRB_JPN", "ESRB Rating: T"},
+        {u"-PLAY 4", "T_Play_GER", "1-4 Spieler"},
+        {u"-4", "T_Play_GER", "1-2 Spieler"},
+        {u"-SYSTEM \"X\" 1", "T_PF", "X 1"},
+        {u"-H_T_Year_SPA raw \"text\" ", "T_Year_SPA", "raw text"},
+        {u"-h_T_year_SPA x", "T_Year_SPA", "A\u00F1o: 1991"},
+        {u"-H_T_VCTitle x", "T_VCTitle_JPN", "x"},
+        {u"-T_G x", "T_VCTitle_GER", "Der Sternenbote"},
+        {u"-T_xyzGER abc x", "T_VCTitle_GER", "ER abc x"},
+        {u"-X_GER x", "T_VCTitle_GER", "Der Sternenbote"},
+    };
+    for (const Case& c : cases) {
+        folder.Write(Layout, Seven_Language_Banner());
+        EXPECT_EQ(Start(c.options), Form1::Done);
+        EXPECT_EQ(On_Disk(c.box), c.text) << To_Utf8(c.options);
+    }
+    EXPECT_TRUE(dialogs.failures.empty());
+}
+
+TEST_F(MainWindow, BatchOptionsReachTheSave) {
+    EXPECT_EQ(Start(u"-FORCE xx -force Jpn -PAD +8 -PAD \"+4\" -LOGO New.tpl -COLOR Zebra -color \"apple\""),
+              Form1::Done);
+    EXPECT_EQ(window->cmbForce.Selected(), u"JPN");
+    EXPECT_EQ(folder.Read(Layout).size(), Seven_Language_Banner().size() + 4);
+    EXPECT_EQ(folder.Read(Texture), "new texture");
+    EXPECT_EQ(window->cmbFileList.Count() + window->cmbLogo.Count(), 0);
+}
+
+TEST_F(MainWindow, AFailedRunChangesNoBanner) {
+    struct Case {
+        const char16_t* command_line;
+        int status;
+        std::string subject;
+    };
+    const Case cases[] = {
+        {u"-LOGO New.tpl -PAD x", 1, "Padding \"x\""},
+        {u"-LOGO New.tpl -COLOR none -LOGO New.tpl", 1, "\\schemes\\none.vccs"},
+        {u"-TITLE x -LOGO none.tpl", 1, "\\logos\\none.tpl"},
+        {u"none.brlyt -LOGO New.tpl", 2, "\\none.brlyt"},
+        {u"b -LOGO New.tpl", 2, "\\b"},
+    };
+    for (const Case& c : cases) {
+        dialogs.failures.clear();
+        EXPECT_EQ(Start(c.command_line), c.status);
+        ASSERT_EQ(dialogs.failures.size(), 1U) << To_Utf8(c.command_line);
+        EXPECT_TRUE(To_Utf8(dialogs.failures[0].subject).ends_with(c.subject));
+        EXPECT_EQ(folder.Read(Layout), Seven_Language_Banner());
+        EXPECT_EQ(folder.Read(Texture), "old texture");
+    }
+    folder.Write(Configuration, "\r\n");
+    EXPECT_EQ(Start(u"-TITLE x"), Form1::NoLayout);
+}
+
+}  // namespace

@@ -1,0 +1,107 @@
+// The built programs, run as a user runs them: exit status, standard error, and every file.
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include <cstdlib>
+
+#include "layout/text_box.h"
+#include "platform/text.h"
+#include "support.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Result {
+    int status;
+    std::string output, errors;
+};
+
+/// A copy of the built program folder, below a path with blanks and Japanese letters.
+class Program : public testing::Test {
+ protected:
+    Program() {
+        fs::create_directories(Home().parent_path());
+        fs::copy(PROGRAM_FOLDER, Home(), fs::copy_options::recursive);
+        folder.Write("home/cfgs/vcinfopath.cfg", "\\samples\\german_japanese\\arc\\blyt\\banner.brlyt\r\n");
+    }
+
+    fs::path Home() const { return folder.Path() / "home"; }
+
+    /// Runs a program of the copy from another folder; `arguments` as a shell takes them.
+    Result Run(const std::string& program, const std::string& arguments) const {
+        const std::string command = "cd /; '" + (Home() / program).string() + "' " + arguments + " >'" +
+                                    (folder.Path() / "out").string() + "' 2>'" +
+                                    (folder.Path() / "err").string() + "'";
+        const int status = std::system(command.c_str());
+        return {WEXITSTATUS(status), folder.Read("out"), folder.Read("err")};
+    }
+
+    const TempFolder folder;
+    const std::string layout = "home/samples/german_japanese/arc/blyt/banner.brlyt";
+};
+
+TEST_F(Program, EditsAndSaves) {
+    const auto names = folder.Names();
+    const Result result = Run("bannersmith", "-TITLE Two Words -T_JPN '\u6708 \"x\"' -pad +32");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.output + result.errors, "");
+    const std::string saved = folder.Read(layout);
+    EXPECT_EQ(Get_Text(saved, "T_VCTitle_GER"), u"Two Words");
+    EXPECT_EQ(Get_Text(saved, "T_VCTitle_JPN"), u"\u6708 x");
+    EXPECT_EQ(saved.substr(saved.size() - 32), std::string(32, '\0'));
+    EXPECT_EQ(folder.Names().size(), names.size() + 2) << "only the captured output is new";
+    EXPECT_EQ(Run("bannersmith-inspect", "'" + (folder.Path() / layout).string() + "'").status, 0);
+}
+
+TEST_F(Program, TellsWhatWentWrong) {
+    struct Case {
+        std::string arguments;
+        int status;
+        std::string errors;
+    };
+    const std::string home = Home().string();
+    const Case cases[] = {
+        {"none.brlyt -TITLE x", 2, "bannersmith: " + home + "\\none.brlyt: No such file or directory\n"},
+        {"samples -TITLE x", 2, "bannersmith: " + home + "\\samples: Is a directory\n"},
+        {"-COLOR None", 1, "bannersmith: " + home + "\\schemes\\None.vccs: No such file or directory\n"},
+        {"-PAD x", 1,
+         "bannersmith: Padding \"x\": Not a whole number up to 268435456, with or without + in front of it\n"},
+    };
+    const std::string before = folder.Read(layout);
+    for (const Case& c : cases) {
+        const Result result = Run("bannersmith", c.arguments);
+        EXPECT_EQ(result.status, c.status);
+        EXPECT_EQ(result.output, "");
+        EXPECT_EQ(result.errors, c.errors);
+        EXPECT_EQ(folder.Read(layout), before);
+    }
+}
+
+TEST_F(Program, AnswersAboutItself) {
+    fs::remove_all(Home() / "cfgs");
+    for (const char* program : {"bannersmith", "bannersmith-inspect"}) {
+        EXPECT_EQ(Run(program, "--version").output, program + std::string(" " BANNERSMITH_VERSION "\n"));
+        const Result help = Run(program, "--help");
+        EXPECT_TRUE(help.output.starts_with("usage: " + std::string(program)));
+        EXPECT_EQ(help.status, 0);
+    }
+    EXPECT_EQ(Run("bannersmith-inspect", "").status, 2);
+    EXPECT_EQ(Run("bannersmith", "-PAD 0").status, 1) << "no configuration";
+}
+
+TEST_F(Program, InspectTellsByItsStatus) {
+    folder.Write("twice", Layout_With({Box("A", u"a"), Box("A", u"bbb")}));
+    folder.Write("text", "no layout at all");
+    folder.Write("good", Layout_With({Box("A", u"a")}));
+    const std::string base = folder.Path().string() + "/";
+    EXPECT_EQ(Run("bannersmith-inspect", base + "good").status, 0);
+    EXPECT_EQ(Run("bannersmith-inspect", "--json " + base + "good " + base + "twice").status, 1);
+    const Result bad = Run("bannersmith-inspect", base + "text " + base + "twice " + base + "none");
+    EXPECT_EQ(bad.status, 2);
+    EXPECT_EQ(bad.errors, "bannersmith-inspect: " + base + "text: Not a layout file\nbannersmith-inspect: " +
+                              base + "none: No such file or directory\n");
+    EXPECT_NE(bad.output.find("warning: text box A"), bad.output.npos);
+}
+
+}  // namespace

@@ -1,0 +1,56 @@
+// What the tests share: temporary folders with real files, dialogs that answer as told, layouts.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "mainwindow/form1.h"
+#include "platform/desktop.h"
+#include "samples/layout_builder.h"
+
+/// A folder of its own for each test, removed at the end.
+class TempFolder {
+ public:
+    TempFolder();
+    ~TempFolder();
+    TempFolder(const TempFolder&) = delete;
+    TempFolder& operator=(const TempFolder&) = delete;
+
+    std::filesystem::path Path() const { return path_; }
+    std::u16string Text() const { return path_.u16string(); }
+    /// Writes a file below the folder, making its folders.
+    void Write(const std::string& name, std::string_view bytes) const;
+    /// The file's bytes, or "(none)".
+    std::string Read(const std::string& name) const;
+    /// Every file below the folder by its name, links and temporary files included.
+    std::vector<std::string> Names() const;
+
+ private:
+    std::filesystem::path path_;
+};
+
+/// Notes what it is shown and answers what it is told to.
+class TestDialogs : public Dialogs {
+ public:
+    std::vector<std::u16string> messages;
+    std::vector<Failure> failures;
+    std::u16string file, filter;
+
+    void Message(const std::u16string& text) override { messages.push_back(text); }
+    void Report(const Failure& failure) override { failures.push_back(failure); }
+    std::u16string Open_File(const std::u16string& wanted) override {
+        filter = wanted;
+        return file;
+    }
+};
+
+/// A minimal layout: header, sections, closing group.
+std::string Layout_With(std::vector<std::string> sections);
+
+/// A clean text box's section.
+std::string Box(std::string_view name, std::u16string_view text);
+
+/// `bytes` as hexadecimal digits, for readable failures.
+std::string Hex(std::string_view bytes);
