@@ -83,6 +83,7 @@ TEST_F(MainWindow, ReadsTheConfigurationsFirstLine) {
     };
     for (const Case& c : cases) {
         folder.Write(Configuration, c.contents);
+        BrlytData.clear();
         EXPECT_EQ(Start(), std::nullopt);
         EXPECT_EQ(window->txtSrc.Text(), c.path);
         EXPECT_EQ(folder.Read(Configuration), c.afterwards);

@@ -9,7 +9,8 @@
 namespace fs = std::filesystem;
 
 TempFolder::TempFolder() {
-    std::string name = (fs::temp_directory_path() / "bannersmith-test-XXXXXX").string();
+    // No hyphen: on a command line it would begin an option.
+    std::string name = (fs::temp_directory_path() / "bannersmith_test_XXXXXX").string();
     path_ = ::mkdtemp(name.data());
 }
 
