@@ -75,7 +75,10 @@ TEST(MaterialColors, AreThirteenBytesBehindTheName) {
     const std::size_t at = data.find("VCPic\0"s);
     const ColorPair colors = {Make_Color(1, 2, 3), Make_Color(4, 5, 6)};
     EXPECT_EQ(&Set_Mat_Colors(data, "VCPic", colors), &data);
-    EXPECT_EQ(Hex(data.substr(at + 20, 16)), "22" "01000200030000000400050006" "2222");
+    EXPECT_EQ(Hex(data.substr(at + 20, 16)),
+              "22"
+              "01000200030000000400050006"
+              "2222");
     EXPECT_EQ(data.substr(0, at + 20), before.substr(0, at + 20));
     EXPECT_EQ(data.substr(at + 36), before.substr(at + 36));
     ColorPair read{};
@@ -100,18 +103,19 @@ TEST(MaterialColors, StayInsideTheData) {
 
 TEST(ApplyColorScheme, WritesEachElementIntoItsMaterials) {
     const std::pair<const char*, std::size_t> elements[] = {
-        {"PFLine", 0},    {"T_PF", 1},     {"Shade", 2},        {"Back0", 3},       {"Back1", 4},
-        {"Back2", 5},     {"Back3", 6},    {"Back4", 7},        {"YearLine", 8},    {"PlayLine", 9},
-        {"T_VCTitle_ENG", 10}, {"T_VCTitle_JPN", 10}, {"T_Play_NED", 11}, {"T_Year_GER", 12},
-        {"T_ESRB_SPA", 13}, {"VCPic", 14}, {"VCPicBase", 15},   {"VCPicSha", 16},   {"BackMask1", 17},
-        {"BackMask2", 18}};
+        {"PFLine", 0},      {"T_PF", 1},        {"Shade", 2},          {"Back0", 3},
+        {"Back1", 4},       {"Back2", 5},       {"Back3", 6},          {"Back4", 7},
+        {"YearLine", 8},    {"PlayLine", 9},    {"T_VCTitle_ENG", 10}, {"T_VCTitle_JPN", 10},
+        {"T_Play_NED", 11}, {"T_Year_GER", 12}, {"T_ESRB_SPA", 13},    {"VCPic", 14},
+        {"VCPicBase", 15},  {"VCPicSha", 16},   {"BackMask1", 17},     {"BackMask2", 18}};
     const TempFolder folder;
     const Scheme scheme = Distinct_Scheme();
     folder.Write("schemes/Mine.vccs", Format_Scheme(scheme));
     folder.Write("schemes/Short.vccs", Format_Scheme(scheme).substr(0, 400));
     const std::string before = BrlytData = Seven_Language_Banner();
 
-    EXPECT_EQ(Apply_Color_Scheme(folder.Text(), u"None")->subject, folder.Text() + u"\\schemes\\None.vccs");
+    EXPECT_EQ(Apply_Color_Scheme(folder.Text(), u"None")->subject,
+              folder.Text() + u"\\schemes\\None.vccs");
     EXPECT_TRUE(Apply_Color_Scheme(folder.Text(), u"Short"));
     EXPECT_EQ(BrlytData, before);
 

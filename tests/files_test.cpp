@@ -12,14 +12,20 @@ namespace {
 namespace fs = std::filesystem;
 
 TEST(Text, SurvivesTheWayThroughUtf8) {
-    for (const std::string bytes : {"", "plain", "\xE5\xB9\xB4\xF0\x9F\x98\x80", "bad \xFF\xC3 bytes", "\xC3"}) {
+    for (const std::string bytes :
+         {"", "plain", "\xE5\xB9\xB4\xF0\x9F\x98\x80", "bad \xFF\xC3 bytes", "\xC3"}) {
         EXPECT_EQ(To_Utf8(From_Utf8(bytes)), bytes);
     }
     EXPECT_EQ(From_Utf8("\xF0\x9F\x98\x80"), u"\xD83D\xDE00");
-    EXPECT_EQ(To_Utf8(u"a\xD800" u"b"), "a\xEF\xBF\xBD" "b");
+    EXPECT_EQ(To_Utf8(u"a\xD800"
+                      u"b"),
+              "a\xEF\xBF\xBD"
+              "b");
     EXPECT_EQ(To_Bytes(u"\u00E9"), "\xE9");
     EXPECT_EQ(To_Bytes(u"\u0100"), std::nullopt);
-    EXPECT_EQ(From_Bytes("\xE9\x41"), u"\u00E9" u"A");
+    EXPECT_EQ(From_Bytes("\xE9\x41"),
+              u"\u00E9"
+              u"A");
     EXPECT_EQ(Trim(u"  \ta b  "), u"\ta b");
     EXPECT_EQ(Capitals(u"aZz\u00E9_9"), u"AZZ\u00E9_9");
     EXPECT_EQ(Replace_All(u"aaa", u"aa", u"b"), u"ba");
@@ -33,7 +39,8 @@ TEST(Paths, AreConvertedWhereTheyMeetTheFileSystem) {
     EXPECT_FALSE(Ordinary_File_Exists(folder.Text() + u"\\")) << "holds a folder only";
     EXPECT_FALSE(Ordinary_File_Exists(folder.Text() + u"\\sub"));
     EXPECT_FALSE(Ordinary_File_Exists(u""));
-    EXPECT_FALSE(Ordinary_File_Exists(folder.Text() + u"\\sub\\File.TPL" + std::u16string(1, 0) + u"x"));
+    EXPECT_FALSE(
+        Ordinary_File_Exists(folder.Text() + u"\\sub\\File.TPL" + std::u16string(1, 0) + u"x"));
     EXPECT_TRUE(Folder_Exists(folder.Text() + u"\\sub\\"));
     EXPECT_FALSE(Folder_Exists(folder.Text() + u"\\sub\\File.TPL"));
     EXPECT_EQ(Resolve(u"/prog", u"\\x"), u"/prog\\x");
@@ -43,7 +50,8 @@ TEST(Paths, AreConvertedWhereTheyMeetTheFileSystem) {
 
 TEST(FileList, IsSortedWithoutCase) {
     const TempFolder folder;
-    for (const char* name : {"b.tpl", "A.TPL", "C.tpl", "a.tplx", "a.txt", ".hidden.tpl", "d.tpl/e"}) {
+    for (const char* name :
+         {"b.tpl", "A.TPL", "C.tpl", "a.tplx", "a.txt", ".hidden.tpl", "d.tpl/e"}) {
         folder.Write(name, "");
     }
     FileList list(".tpl");
@@ -120,11 +128,49 @@ TEST(ReplaceFile, RefusesWhatIsNoOrdinaryFile) {
     }
     EXPECT_EQ(bytes, "kept");
     EXPECT_EQ(folder.Names(), before);
-    if (::geteuid() == 0) GTEST_SKIP() << "a privileged user may write every file";
-    folder.Write("readonly", "old");
-    ::chmod((folder.Path() / "readonly").c_str(), 0444);
-    EXPECT_TRUE(Replace_File(folder.Text() + u"/readonly", "x", Durability::synced));
-    EXPECT_EQ(folder.Read("readonly"), "old");
+}
+
+/// Runs as a user without privileges from here to the end of the scope, where the test may.
+class Unprivileged {
+ public:
+    Unprivileged() {
+        if (privileged_) {
+            EXPECT_EQ(::seteuid(65534), 0);
+        }
+    }
+    ~Unprivileged() {
+        if (privileged_) {
+            EXPECT_EQ(::seteuid(0), 0);
+        }
+    }
+    Unprivileged(const Unprivileged&) = delete;
+    Unprivileged& operator=(const Unprivileged&) = delete;
+
+ private:
+    const bool privileged_ = ::geteuid() == 0;
+};
+
+TEST(ReplaceFile, RespectsPermissions) {
+    const TempFolder folder;
+    folder.Write("open/readonly", "old");
+    folder.Write("closed/f", "old");
+    ::chmod((folder.Path() / "open/readonly").c_str(), 0444);
+    ::chmod((folder.Path() / "open").c_str(), 0777);
+    ::chmod((folder.Path() / "closed/f").c_str(), 0666);
+    ::chmod((folder.Path() / "closed").c_str(), 0555);
+    ::chmod(folder.Path().c_str(), 0755);
+    const auto before = folder.Names();
+    {
+        const Unprivileged user;
+        for (const std::u16string name : {u"/open/readonly", u"/closed/f"}) {
+            const Outcome failure = Replace_File(folder.Text() + name, "x", Durability::synced);
+            ASSERT_TRUE(failure) << To_Utf8(name);
+            EXPECT_EQ(failure->reason, "Permission denied");
+        }
+    }
+    EXPECT_EQ(folder.Read("open/readonly") + folder.Read("closed/f"), "oldold");
+    ::chmod((folder.Path() / "closed").c_str(), 0755);
+    EXPECT_EQ(folder.Names(), before);
 }
 
 }  // namespace

@@ -45,7 +45,9 @@ TEST(Composing, NormalisesTheValue) {
     struct Case {
         const char16_t *value, *english, *japanese;
     };
-    for (const Case& c : {Case{u"", u"1-2", u"1\uFF5E2"}, {u"1", u"1", u"1"}, {u"12", u"1-12", u"1\uFF5E12"},
+    for (const Case& c : {Case{u"", u"1-2", u"1\uFF5E2"},
+                          {u"1", u"1", u"1"},
+                          {u"12", u"1-12", u"1\uFF5E12"},
                           {u"1-2", u"1-1-2", u"1\uFF5E1\uFF5E2"}}) {
         std::u16string value = c.value;
         EXPECT_EQ(Make_Players(value, u"ENG"), u"Players: " + std::u16string(c.english));
@@ -94,7 +96,8 @@ struct Loaded : GameInfo {
         Refill();
     }
     Texts Fields() const {
-        return {txtName.Text(), txtYear.Text(), txtPlayers.Text(), txtESRB.Text(), txtSystem.Text()};
+        return {txtName.Text(), txtYear.Text(), txtPlayers.Text(), txtESRB.Text(),
+                txtSystem.Text()};
     }
     Texts Selections() const {
         Texts texts;
@@ -114,7 +117,8 @@ TEST(Refill, StopsEachSelectorOnTheFirstValue) {
 }
 
 TEST(Refill, ForgetsTheLayoutBefore) {
-    Loaded info({Box("T_VCTitle_ENG", u"Old"), Box("T_Year_ENG", u"Released: 1990"), Box("T_PF", u"S")});
+    Loaded info(
+        {Box("T_VCTitle_ENG", u"Old"), Box("T_Year_ENG", u"Released: 1990"), Box("T_PF", u"S")});
     BrlytData = Layout_With({});
     info.Refill();
     EXPECT_EQ(info.Fields(), (Texts{u"", u"", u"", u"", u""}));
@@ -125,10 +129,16 @@ TEST(Refill, TellsTheNeutralWording) {
     struct Case {
         const char16_t *year, *language;
     };
-    for (const Case& c : {Case{u"1985\u5E74\u767A\u58F2", u"JPN"}, {u"", u"JPN"}, {u"Released: 1", u"ENG"},
-                          {u"Erschienen: 1", u"GER"}, {u"Publi\u00E9 en 1985", u"FRA"},
-                          {u"Pubblicato: 1", u"ITA"}, {u"A\u00F1o: 1", u"SPA"}, {u"Release: 1", u"NED"},
-                          {u"released: 1", u"ENG"}, {u"Erschienen : 1", u"ENG"}}) {
+    for (const Case& c : {Case{u"1985\u5E74\u767A\u58F2", u"JPN"},
+                          {u"", u"JPN"},
+                          {u"Released: 1", u"ENG"},
+                          {u"Erschienen: 1", u"GER"},
+                          {u"Publi\u00E9 en 1985", u"FRA"},
+                          {u"Pubblicato: 1", u"ITA"},
+                          {u"A\u00F1o: 1", u"SPA"},
+                          {u"Release: 1", u"NED"},
+                          {u"released: 1", u"ENG"},
+                          {u"Erschienen : 1", u"ENG"}}) {
         const Loaded info({Box("T_VCTitle", u"N"), Box("T_Year", c.year)});
         EXPECT_EQ(NoneRegion, c.language) << To_Utf8(c.year);
         EXPECT_EQ(info.txtName.Text(), u"N");
@@ -154,8 +164,9 @@ TEST(Selectors, ShowTheirLanguage) {
 }
 
 TEST(Set, WritesTheSelectedLanguage) {
-    Loaded info({Box("T_VCTitle_ENG", u"E"), Box("T_VCTitle_GER", u"G"), Box("T_Year_GER", u"Erschienen: 1"),
-                 Box("T_ESRB_FRA", u"Classement ESRB: E"), Box("T_Year", u"?")});
+    Loaded info({Box("T_VCTitle_ENG", u"E"), Box("T_VCTitle_GER", u"G"),
+                 Box("T_Year_GER", u"Erschienen: 1"), Box("T_ESRB_FRA", u"Classement ESRB: E"),
+                 Box("T_Year", u"?")});
     info.cmbRegion[0].Select(1);
     info.txtName.Set(u"Neu");
     info.txtYear.Set(u"2001");
@@ -187,7 +198,8 @@ TEST(SetAll, WritesEveryLanguageAndTheNeutralBox) {
     info.txtPlayers.Set(u"4");
     info.txtESRB.Set(u"T");
     info.txtSystem.Set(u"New");
-    for (const int index : {0, 1, 2, 3, 4, 5, -1}) info.cmdSetAll_Click(static_cast<std::int16_t>(index));
+    for (const int index : {0, 1, 2, 3, 4, 5, -1})
+        info.cmdSetAll_Click(static_cast<std::int16_t>(index));
     const std::string once = BrlytData;
     for (const int index : {0, 1, 2, 3, 4}) info.cmdSetAll_Click(static_cast<std::int16_t>(index));
     EXPECT_EQ(BrlytData, once);
@@ -200,8 +212,8 @@ TEST(SetAll, WritesEveryLanguageAndTheNeutralBox) {
 }
 
 TEST(SetAll, EndsWithTheNeutralWording) {
-    Loaded info({Box("T_VCTitle", u"N"), Box("T_Year", u"1985\u5E74\u767A\u58F2"), Box("T_Play", u"p"),
-                 Box("T_ESRB", u"r")});
+    Loaded info({Box("T_VCTitle", u"N"), Box("T_Year", u"1985\u5E74\u767A\u58F2"),
+                 Box("T_Play", u"p"), Box("T_ESRB", u"r")});
     ASSERT_EQ(NoneRegion, u"JPN");
     info.txtYear.Set(u"1999");
     info.txtPlayers.Set(u"3");

@@ -42,7 +42,8 @@ TEST(GetText, CutsTheTextOffTheRecordsEnd) {
         {"length beyond the record cannot be read", "\0H\0i\0\0\0\0"s, 0x270F + 1, u""},
     };
     for (const Case& c : cases) {
-        EXPECT_EQ(Get_Text(Layout_With({Record("B", c.stored, c.text_length)}), "B"), c.text) << c.what;
+        EXPECT_EQ(Get_Text(Layout_With({Record("B", c.stored, c.text_length)}), "B"), c.text)
+            << c.what;
     }
 }
 
@@ -62,7 +63,10 @@ TEST(GetText, TakesTheLastExactNameButTheFirstWithItsKey) {
         {"not a longer name", {Box("T_Year_ENG", u"x")}, "T_Year", u""},
         {"not a shorter name", {Box("T_Year", u"x")}, "T_Year_ENG", u""},
         {"case counts", {Box("t_year", u"x")}, "T_Year", u""},
-        {"stray tag that starts no record", {Section("usd1", "..txt1.."), Box("A", u"x")}, "A", u"x"},
+        {"stray tag that starts no record",
+         {Section("usd1", "..txt1.."), Box("A", u"x")},
+         "A",
+         u"x"},
         {"stray tag between", {Box("A", u"x"), Section("usd1", "txt1txt1")}, "A", u"x"},
     };
     for (const Case& c : cases) EXPECT_EQ(Get_Text(Layout_With(c.boxes), c.name), c.text) << c.what;
@@ -150,7 +154,8 @@ TEST(SetText, FindsItsBoxByThePrefix) {
     };
     for (const Case& c : cases) {
         std::vector<std::string> boxes;
-        for (const std::string& name : c.names) boxes.push_back(Box(name, std::u16string(name.size(), u'.')));
+        for (const std::string& name : c.names)
+            boxes.push_back(Box(name, std::u16string(name.size(), u'.')));
         const std::string after = Set_Text(Layout_With(boxes), c.name, u"fresh");
         std::string changed;
         for (const std::string& name : c.names) {
@@ -163,9 +168,10 @@ TEST(SetText, FindsItsBoxByThePrefix) {
 TEST(SetText, ReplacesEveryIdenticalRecord) {
     const std::string twin = Box("B", u"same"), other = Box("B", u"else");
     for (const char16_t* text : {u"x", u"a much longer text", u"four"}) {
-        EXPECT_EQ(Set_Text(Layout_With({twin, other, twin, Box("C", u"c"), twin}), "B", text).substr(16),
-                  Layout_With({Box("B", text), other, Box("B", text), Box("C", u"c"), Box("B", text)})
-                      .substr(16));
+        EXPECT_EQ(
+            Set_Text(Layout_With({twin, other, twin, Box("C", u"c"), twin}), "B", text).substr(16),
+            Layout_With({Box("B", text), other, Box("B", text), Box("C", u"c"), Box("B", text)})
+                .substr(16));
     }
 }
 
@@ -231,8 +237,9 @@ TEST(SetText, FollowsThePlainRulesOnRandomLayouts) {
     std::mt19937 random(20261122);
     const auto pick = [&](std::size_t count) { return random() % count; };
     const std::string names[] = {"T_Year", "T_Year_ENG", "T_Yea", "T_PF", "T_Play_NONE", "", "L"};
-    const std::u16string texts[] = {u"", u"1", u"ab", u"x\u7478\u7431y", u"same text", u"\u7478\u7431",
-                                    u"\0z", u"\xD800", u"a^b"};
+    const std::u16string texts[] = {
+        u"",    u"1",      u"ab", u"x\u7478\u7431y", u"same text", u"\u7478\u7431",
+        u"\0z", u"\xD800", u"a^b"};
     const auto any_box = [&] {
         std::string box = Box(names[pick(7)], texts[pick(9)]);
         if (pick(8) == 0) Write_U32(box, 4, static_cast<std::uint32_t>(pick(600)));
@@ -275,10 +282,23 @@ TEST(Padding, FollowsItsText) {
         const char16_t* text;
         std::size_t size;  ///< of 300 bytes afterwards; 0 when the text is refused
     };
-    for (const Case& c : {Case{u"12000", 12000}, {u"", 300}, {u"0", 300}, {u"+0", 300}, {u"+16", 316},
-                          {u"300", 300}, {u"301", 301}, {u"+007", 307}, {u"abc", 0}, {u"+", 0},
-                          {u"-5", 0}, {u"+-5", 0}, {u"12 ", 0}, {u"1.5", 0}, {u"\u0661", 0},
-                          {u"268435457", 0}, {u"+99999999999999999999", 0}}) {
+    for (const Case& c : {Case{u"12000", 12000},
+                          {u"", 300},
+                          {u"0", 300},
+                          {u"+0", 300},
+                          {u"+16", 316},
+                          {u"300", 300},
+                          {u"301", 301},
+                          {u"+007", 307},
+                          {u"abc", 0},
+                          {u"+", 0},
+                          {u"-5", 0},
+                          {u"+-5", 0},
+                          {u"12 ", 0},
+                          {u"1.5", 0},
+                          {u"\u0661", 0},
+                          {u"268435457", 0},
+                          {u"+99999999999999999999", 0}}) {
         const auto padding = Read_Padding(c.text);
         ASSERT_EQ(padding.has_value(), c.size != 0) << To_Utf8(c.text);
         if (!padding) continue;
@@ -300,7 +320,8 @@ TEST(CutPadding, CutsBehindTheLayoutsEnd) {
         {"a" + closing + "b" + closing + "c", "a" + closing + "b" + closing},
         {root + "abc" + closing + "d", root + "abc" + closing},
         {"abc" + root + "def" + root + "g", "abc" + root},
-        {"abcRootGroup" + std::string(10, '\0') + "x", "abcRootGroup" + std::string(10, '\0') + "x"},
+        {"abcRootGroup" + std::string(10, '\0') + "x",
+         "abcRootGroup" + std::string(10, '\0') + "x"},
         {"gre1\0\0\0\x0C rest"s, "gre1\0\0\0\x0C rest"s},
         {"", ""},
     };

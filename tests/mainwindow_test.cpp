@@ -39,7 +39,9 @@ class MainWindow : public testing::Test {
         return window->Form_Load();
     }
 
-    std::string On_Disk(const char* box) const { return To_Utf8(Get_Text(folder.Read(Layout), box)); }
+    std::string On_Disk(const char* box) const {
+        return To_Utf8(Get_Text(folder.Read(Layout), box));
+    }
 
     TempFolder folder;
     TestDialogs dialogs;
@@ -174,7 +176,8 @@ TEST_F(MainWindow, AFailedSaveLeavesEverythingAsItWas) {
         {"padding", [](MainWindow& t) { t.window->txtPad.Set(u"12k"); }},
         {"scheme", [](MainWindow& t) { t.folder.Write("schemes/Zebra.vccs", "1 2 3"); }},
         {"logo", [](MainWindow& t) { std::filesystem::remove(t.folder.Path() / "logos/New.tpl"); }},
-        {"layout", [](MainWindow& t) {
+        {"layout",
+         [](MainWindow& t) {
              std::filesystem::remove(t.folder.Path() / Layout);
              t.folder.Write(Layout + "/in the way"s, "");
          }},
@@ -249,8 +252,11 @@ TEST_F(MainWindow, ReplacesTheFirstTextureThatIsTheLogo) {
 
 TEST_F(MainWindow, SetForceSelectsByCode) {
     Start();
-    for (const auto& [code, selected] : {std::pair{u"jpn", u"JPN"}, {u"XXX", u"JPN"}, {u"", u"JPN"},
-                                         {u"None", u"NONE"}, {u"ita ", u"NONE"}}) {
+    for (const auto& [code, selected] : {std::pair{u"jpn", u"JPN"},
+                                         {u"XXX", u"JPN"},
+                                         {u"", u"JPN"},
+                                         {u"None", u"NONE"},
+                                         {u"ita ", u"NONE"}}) {
         std::u16string argument = code;
         window->SetForce(argument);
         EXPECT_EQ(window->cmbForce.Selected(), selected);
@@ -259,8 +265,10 @@ TEST_F(MainWindow, SetForceSelectsByCode) {
 
 TEST(RegionForce, RenamesTheFirstTitledLanguagesItems) {
     const std::string titles = Box("T_VCTitle_JPN", u"J") + Box("T_VCTitle_GER", u"G");
-    const std::string items = "T_YEAR_GER T_PLAY_GER T_ESRB_GER LGER LLGER T_Year_GER t_ESRB_GER LJPN";
-    const std::string forced = "T_YEAR_ITA T_PLAY_ITA T_ESRB_ITA LITA LLITA T_Year_GER t_ESRB_GER LJPN";
+    const std::string items =
+        "T_YEAR_GER T_PLAY_GER T_ESRB_GER LGER LLGER T_Year_GER t_ESRB_GER LJPN";
+    const std::string forced =
+        "T_YEAR_ITA T_PLAY_ITA T_ESRB_ITA LITA LLITA T_Year_GER t_ESRB_GER LJPN";
     std::string data = titles + items;
     EXPECT_EQ(&Region_Force(data, "ITA"), &data);
     EXPECT_EQ(data, titles + forced);
@@ -336,7 +344,8 @@ TEST_F(MainWindow, AppliesOptionsInTheirOrder) {
 }
 
 TEST_F(MainWindow, BatchOptionsReachTheSave) {
-    EXPECT_EQ(Start(u"-FORCE xx -force Jpn -PAD +8 -PAD \"+4\" -LOGO New.tpl -COLOR Zebra -color \"apple\""),
+    EXPECT_EQ(Start(u"-FORCE xx -force Jpn -PAD +8 -PAD \"+4\" -LOGO New.tpl -COLOR Zebra -color "
+                    u"\"apple\""),
               Form1::Done);
     EXPECT_EQ(window->cmbForce.Selected(), u"JPN");
     EXPECT_EQ(folder.Read(Layout).size(), Seven_Language_Banner().size() + 4);

@@ -14,7 +14,9 @@ TempFolder::TempFolder() {
     path_ = ::mkdtemp(name.data());
 }
 
-TempFolder::~TempFolder() { fs::remove_all(path_); }
+TempFolder::~TempFolder() {
+    fs::remove_all(path_);
+}
 
 void TempFolder::Write(const std::string& name, std::string_view bytes) const {
     fs::create_directories((path_ / name).parent_path());

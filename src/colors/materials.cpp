@@ -21,10 +21,10 @@ struct Target {
 };
 
 constexpr std::array<Target, ElementCount> Targets = {{
-    {"PFLine", false},   {"T_PF", false},      {"Shade", false},    {"Back0", false},
-    {"Back1", false},    {"Back2", false},     {"Back3", false},    {"Back4", false},
+    {"PFLine", false},   {"T_PF", false},      {"Shade", false},     {"Back0", false},
+    {"Back1", false},    {"Back2", false},     {"Back3", false},     {"Back4", false},
     {"YearLine", false}, {"PlayLine", false},  {"T_VCTitle_", true}, {"T_Play_", true},
-    {"T_Year_", true},   {"T_ESRB_", true},    {"VCPic", false},    {"VCPicBase", false},
+    {"T_Year_", true},   {"T_ESRB_", true},    {"VCPic", false},     {"VCPicBase", false},
     {"VCPicSha", false}, {"BackMask1", false}, {"BackMask2", false},
 }};
 

@@ -11,8 +11,8 @@ namespace {
 constexpr std::string_view Blanks = " \r\n";
 constexpr std::string_view Separators = " \r\n,";
 
-/// Takes the next number's text off the front: what stands up to a separator, and the separator itself,
-/// which may be one comma with blanks and line ends around it.
+/// Takes the next number's text off the front: what stands up to a separator, and the separator
+/// itself, which may be one comma with blanks and line ends around it.
 std::string_view Take_Number(std::string_view& rest) {
     const auto skip_blanks = [&] {
         rest.remove_prefix(std::min(rest.find_first_not_of(Blanks), rest.size()));

@@ -11,9 +11,15 @@
 /// A colour as the colour boxes hold it: red + 256 x green + 65536 x blue, each 0 to 255.
 using Color = std::uint32_t;
 
-constexpr std::uint8_t Red_Of(Color color) { return color & 0xFF; }
-constexpr std::uint8_t Green_Of(Color color) { return color >> 8 & 0xFF; }
-constexpr std::uint8_t Blue_Of(Color color) { return color >> 16 & 0xFF; }
+constexpr std::uint8_t Red_Of(Color color) {
+    return color & 0xFF;
+}
+constexpr std::uint8_t Green_Of(Color color) {
+    return color >> 8 & 0xFF;
+}
+constexpr std::uint8_t Blue_Of(Color color) {
+    return color >> 16 & 0xFF;
+}
 
 constexpr Color Make_Color(std::uint8_t red, std::uint8_t green, std::uint8_t blue) {
     return static_cast<Color>(red | green << 8 | blue << 16);
@@ -26,9 +32,9 @@ inline constexpr std::size_t ElementCount = 19;
 
 /// The elements' keys in the order of the scheme file's lines.
 inline constexpr std::array<std::u16string_view, ElementCount> ElementKeys = {
-    u"PFLINE",    u"T_PF",   u"Shade",  u"Back0",  u"Back1",    u"Back2",     u"Back3",
-    u"Back4",     u"YearLine", u"PlayLine", u"T_VCTitle", u"T_Play", u"T_Year", u"T_ESRB",
-    u"VCPic",     u"VCPicBase", u"VCPicSha", u"BackMask1", u"BackMask2"};
+    u"PFLINE", u"T_PF",      u"Shade",    u"Back0",     u"Back1",    u"Back2",  u"Back3",
+    u"Back4",  u"YearLine",  u"PlayLine", u"T_VCTitle", u"T_Play",   u"T_Year", u"T_ESRB",
+    u"VCPic",  u"VCPicBase", u"VCPicSha", u"BackMask1", u"BackMask2"};
 
 /// One pair for each element, in the order of `ElementKeys`.
 using Scheme = std::array<ColorPair, ElementCount>;
@@ -45,14 +51,14 @@ std::u16string Scheme_Folder(std::u16string_view program_folder);
 /// The file of the scheme called `name`.
 std::u16string Scheme_Path(std::u16string_view program_folder, std::u16string_view name);
 
-/// The contents of a scheme file: 19 lines ended by CR LF, each with red, green and blue of the first
-/// and of the second colour, each number between two blanks.
+/// The contents of a scheme file: 19 lines ended by CR LF, each with red, green and blue of the
+/// first and of the second colour, each number between two blanks.
 std::string Format_Scheme(const Scheme& scheme);
 
 /// Reads the 114 numbers of a scheme file's contents in sequence, whatever its lines: they are
-/// separated by blanks, a comma or line ends, and what follows the last one does not count. A text that
-/// ends early, something that is no whole number, and a number outside 0 to 255 give a reason and
-/// leave `scheme` as it was.
+/// separated by blanks, a comma or line ends, and what follows the last one does not count. A text
+/// that ends early, something that is no whole number, and a number outside 0 to 255 give a reason
+/// and leave `scheme` as it was.
 std::string Parse_Scheme(std::string_view contents, Scheme& scheme);
 
 /// Reads the file of the scheme called `name` whole. On failure `scheme` is left as it was.

@@ -30,7 +30,8 @@ struct NamedText {
 /// The display text of a box of `BrlytData`. A name with a code unit above 0xFF names no box.
 std::u16string Read_Box(std::u16string_view name);
 
-/// Writes each text into its box of `BrlytData`, in order. Names that no box can have are passed over.
+/// Writes each text into its box of `BrlytData`, in order. Names that no box can have are passed
+/// over.
 void Write_Boxes(const std::vector<NamedText>& texts);
 
 /// `Write_Boxes` for one box.

@@ -26,12 +26,9 @@ std::u16string Wrap(const Wording& wording, std::u16string_view value) {
 }
 
 constexpr Wording YearWordings[] = {
-    {u"ENG", u"Released: ", u""},
-    {u"GER", u"Erschienen: ", u""},
-    {u"FRA", year_words::French, u""},
-    {u"ITA", u"Pubblicato: ", u""},
-    {u"SPA", u"A\u00F1o: ", u""},
-    {u"NED", u"Release: ", u""},
+    {u"ENG", u"Released: ", u""},         {u"GER", u"Erschienen: ", u""},
+    {u"FRA", year_words::French, u""},    {u"ITA", u"Pubblicato: ", u""},
+    {u"SPA", u"A\u00F1o: ", u""},         {u"NED", u"Release: ", u""},
     {u"JPN", u"", u"\u5E74\u767A\u58F2"},
 };
 

@@ -15,12 +15,14 @@ using Compose = std::u16string (*)(std::u16string& value, std::u16string_view co
 
 /// The four fields that have a selector, in the selectors' order.
 struct Field {
-    TextBox GameInfo::* box;
+    TextBox GameInfo::*box;
     std::u16string_view prefix;
     Compose compose;
 };
 
-std::u16string As_It_Is(std::u16string& value, std::u16string_view /*code*/) { return value; }
+std::u16string As_It_Is(std::u16string& value, std::u16string_view /*code*/) {
+    return value;
+}
 
 constexpr std::array<Field, 4> Fields = {{
     {&GameInfo::txtName, box_prefix::Title, As_It_Is},
@@ -53,7 +55,8 @@ void Set_All(const GameInfo& info, GameInfo::Selector selector) {
     }
     // The entry "NONE" has just written the neutral box in English wording; this has the last word.
     if (!NoneRegion.empty()) {
-        texts.push_back({std::u16string(Neutral_Box(field.prefix)), Text_For(info, field, NoneRegion)});
+        texts.push_back(
+            {std::u16string(Neutral_Box(field.prefix)), Text_For(info, field, NoneRegion)});
     }
     Write_Boxes(texts);
 }
@@ -126,12 +129,18 @@ void GameInfo::cmbRegion_click(std::int16_t Index) {
     if (cmbRegion[selector].Index() == DropDownList::NoSelection) return;
     const std::u16string text = Read_Box(Selected_Box(selector));
     switch (selector) {
-        case title: txtName.Set(text); break;
+        case title:
+            txtName.Set(text);
+            break;
         case year:
             if (!text.empty()) txtYear.Set(bare_value::Year(text));
             break;
-        case players: txtPlayers.Set(bare_value::Players(text)); break;
-        case rating: txtESRB.Set(bare_value::Rating(text)); break;
+        case players:
+            txtPlayers.Set(bare_value::Players(text));
+            break;
+        case rating:
+            txtESRB.Set(bare_value::Rating(text));
+            break;
     }
 }
 
@@ -148,24 +157,44 @@ void GameInfo::Refill() {
     if (cmbRegion[title].Selected() == NoLanguage) NoneRegion = Get_Year_Lang();
 }
 
-void GameInfo::Show_System() { txtSystem.Set(Read_Box(SystemBox)); }
+void GameInfo::Show_System() {
+    txtSystem.Set(Read_Box(SystemBox));
+}
 
 void GameInfo::cmdSet_Click(std::int16_t Index) {
     switch (Index) {
-        case 0: Set_Selected(*this, title); break;
-        case 1: Set_Selected(*this, year); break;
-        case 2: Set_Selected(*this, rating); break;
-        default: break;
+        case 0:
+            Set_Selected(*this, title);
+            break;
+        case 1:
+            Set_Selected(*this, year);
+            break;
+        case 2:
+            Set_Selected(*this, rating);
+            break;
+        default:
+            break;
     }
 }
 
 void GameInfo::cmdSetAll_Click(std::int16_t Index) {
     switch (Index) {
-        case 0: Set_All(*this, title); break;
-        case 1: Set_All(*this, year); break;
-        case 2: Set_All(*this, players); break;
-        case 3: Write_Box(SystemBox, txtSystem.Text()); break;
-        case 4: Set_All(*this, rating); break;
-        default: break;
+        case 0:
+            Set_All(*this, title);
+            break;
+        case 1:
+            Set_All(*this, year);
+            break;
+        case 2:
+            Set_All(*this, players);
+            break;
+        case 3:
+            Write_Box(SystemBox, txtSystem.Text());
+            break;
+        case 4:
+            Set_All(*this, rating);
+            break;
+        default:
+            break;
     }
 }

@@ -9,13 +9,13 @@
 
 #include "platform/controls.h"
 
-/// The language in whose wording the loaded banner's language-neutral boxes are composed; empty for a
-/// banner with a name of its own for some language.
+/// The language in whose wording the loaded banner's language-neutral boxes are composed; empty for
+/// a banner with a name of its own for some language.
 inline std::u16string NoneRegion;  // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
 
-/// The language whose wording the neutral year box of `BrlytData` has: Japanese for a text without a
-/// colon, also for an empty one; English for words in front of the colon that are no language's. A
-/// French text, which has no colon, is told by the words that it begins with.
+/// The language whose wording the neutral year box of `BrlytData` has: Japanese for a text without
+/// a colon, also for an empty one; English for words in front of the colon that are no language's.
+/// A French text, which has no colon, is told by the words that it begins with.
 std::u16string Get_Year_Lang();
 
 /// The bare value in a stored text, as the fields show it.
@@ -42,12 +42,13 @@ class GameInfo {
     std::array<DropDownList, 4> cmbRegion;
 
     /// Shows the value of field `Index` for the language that its selector shows: 0 name, 1 year,
-    /// 2 players, 3 rating; any other index does nothing, and so does a selector without a selection.
-    /// A year stays as it is where the language has no year text; the other fields become empty.
+    /// 2 players, 3 rating; any other index does nothing, and so does a selector without a
+    /// selection. A year stays as it is where the language has no year text; the other fields
+    /// become empty.
     void cmbRegion_click(std::int16_t Index);
 
-    /// Empties the fields and fills them from `BrlytData`: each selector stops on the first language
-    /// with a value, or on "NONE". Sets `NoneRegion` when the name's selector stops there.
+    /// Empties the fields and fills them from `BrlytData`: each selector stops on the first
+    /// language with a value, or on "NONE". Sets `NoneRegion` when the name's selector stops there.
     void Refill();
 
     /// Shows the console's name as it is in `BrlytData`.
@@ -56,8 +57,8 @@ class GameInfo {
     /// Set for one field in the language of its selector: 0 name, 1 year, 2 rating; else nothing.
     void cmdSet_Click(std::int16_t Index);
 
-    /// Set for one field in every language and in the language-neutral box: 0 name, 1 year, 2 players,
-    /// 3 system, 4 rating; else nothing.
+    /// Set for one field in every language and in the language-neutral box: 0 name, 1 year, 2
+    /// players, 3 system, 4 rating; else nothing.
     void cmdSetAll_Click(std::int16_t Index);
 
     /// The box of a field for the entry that its selector shows. The selector has a selection.

@@ -44,7 +44,9 @@ std::string Quoted(std::u16string_view text) {
 }
 
 /// Names and paths: bytes of UTF-8, or of the layout's own.
-std::string Quoted(const std::string& text) { return Quoted(From_Utf8(text)); }
+std::string Quoted(const std::string& text) {
+    return Quoted(From_Utf8(text));
+}
 
 std::string Member(const char* key, const std::string& value) {
     return "\"" + std::string(key) + "\": " + value;
@@ -61,7 +63,9 @@ std::string Color_Json(const std::array<std::int16_t, 4>& color) {
     return Array(color, [](std::int16_t component) { return std::to_string(component); });
 }
 
-std::string Quoted_Name(const std::string& name) { return Quoted(name); }
+std::string Quoted_Name(const std::string& name) {
+    return Quoted(name);
+}
 
 std::string Box_Json(const TextBoxInfo& box) {
     return "{" + Member("name", Quoted(box.name)) + ", " + Member("text", Quoted(box.text)) + ", " +
@@ -98,8 +102,9 @@ std::string As_Text(const FileReport& report) {
     std::string text = report.file + "\n  header length " + std::to_string(info.header_length) +
                        ", file size " + std::to_string(info.file_size) + "\n";
     for (const TextBoxInfo& box : info.boxes) {
-        text += "  text     " + Filled_Up(box.name, 16) + " buffer " + Number(box.buffer_length, 5) +
-                " length " + Number(box.text_length, 5) + "  " + To_Utf8(box.text) + "\n";
+        text += "  text     " + Filled_Up(box.name, 16) + " buffer " +
+                Number(box.buffer_length, 5) + " length " + Number(box.text_length, 5) + "  " +
+                To_Utf8(box.text) + "\n";
     }
     for (const MaterialInfo& material : info.materials) {
         text += "  material " + Filled_Up(material.name, 16) + Color_Text(material.first) + "  " +

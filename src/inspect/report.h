@@ -16,6 +16,6 @@ struct FileReport {
 /// The report as text for a person, ending in a line end.
 std::string As_Text(const FileReport& report);
 
-/// The reports as one JSON array, in ASCII, ending in a line end. A lone surrogate of a text stays what
-/// it is as a \u escape.
+/// The reports as one JSON array, in ASCII, ending in a line end. A lone surrogate of a text stays
+/// what it is as a \u escape.
 std::string As_Json(const std::vector<FileReport>& reports);

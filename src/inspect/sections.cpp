@@ -59,7 +59,8 @@ void Read_Materials(const ChainSection& section, LayoutInfo& info) {
             info.faults.push_back("material " + std::to_string(i) + " lies outside its section");
             continue;
         }
-        MaterialInfo material{section.offset + at, Zero_Ended(bytes.substr(at, MaterialName)), {}, {}};
+        MaterialInfo material{
+            section.offset + at, Zero_Ended(bytes.substr(at, MaterialName)), {}, {}};
         for (std::size_t c = 0; c < 4; ++c) {
             const std::size_t colors = at + MaterialName + 2 * c;
             material.first[c] = static_cast<std::int16_t>(Read_U16(bytes, colors));
@@ -89,7 +90,9 @@ void Read_Section(const ChainSection& section, LayoutInfo& info) {
 
 }  // namespace
 
-bool Is_Layout(std::string_view data) { return data.size() >= HeaderSize && data.starts_with("RLYT"); }
+bool Is_Layout(std::string_view data) {
+    return data.size() >= HeaderSize && data.starts_with("RLYT");
+}
 
 LayoutInfo Read_Layout(std::string_view data) {
     LayoutInfo info;

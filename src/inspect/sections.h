@@ -1,5 +1,5 @@
-// The section chain of a layout, followed by its size fields. The inspect tool is the one place that
-// does so; the editor finds what it needs by searching.
+// The section chain of a layout, followed by its size fields. The inspect tool is the one place
+// that does so; the editor finds what it needs by searching.
 #pragma once
 
 #include <array>
@@ -22,9 +22,9 @@ struct TextBoxInfo {
     std::string name;
     std::u16string text;  ///< up to the first zero code unit, line feeds shown as "^"
     unsigned buffer_length = 0, text_length = 0;
-    std::size_t text_offset = 0;    ///< where the record says that its text begins
-    std::size_t section_size = 0;   ///< as stored, also where the data ends before
-    std::string_view record;        ///< what the data holds of it
+    std::size_t text_offset = 0;   ///< where the record says that its text begins
+    std::size_t section_size = 0;  ///< as stored, also where the data ends before
+    std::string_view record;       ///< what the data holds of it
 };
 
 struct MaterialInfo {

@@ -10,7 +10,9 @@ namespace {
 
 constexpr std::size_t MaterialKey = 20;
 
-std::string Number(std::size_t number) { return std::to_string(number); }
+std::string Number(std::size_t number) {
+    return std::to_string(number);
+}
 
 void Check_Header(std::string_view data, const LayoutInfo& info, std::vector<std::string>& found) {
     if (info.header_length > info.file_size) {
@@ -40,7 +42,8 @@ std::string Length_Fault(const TextBoxInfo& box) {
     const std::size_t stored = size - box.text_offset;
     if (box.text_length % 2 != 0) return "odd text length " + Number(box.text_length);
     if (box.text_length > stored) {
-        return "text length " + Number(box.text_length) + " with " + Number(stored) + " bytes stored";
+        return "text length " + Number(box.text_length) + " with " + Number(stored) +
+               " bytes stored";
     }
     const auto tail = record::Tail_Length(box.record);
     if (!tail || size - *tail != box.text_offset) {
@@ -80,7 +83,8 @@ void Check_Material(std::string_view data, const MaterialInfo& material,
     std::string key = material.name;
     key.resize(MaterialKey, '\0');
     if (data.find(key) == material.offset) return;
-    found.push_back("material " + material.name + ": the first place with this name is another one");
+    found.push_back("material " + material.name +
+                    ": the first place with this name is another one");
 }
 
 }  // namespace

@@ -24,7 +24,8 @@ std::optional<std::size_t> Read_Count(std::u16string_view digits) {
 /// Groups can be nested, so the layout ends with the last closing group, not with the first.
 std::size_t Find_Last(std::string_view data, std::string_view wanted) {
     std::size_t last = data.npos;
-    for (std::size_t at = data.find(wanted); at != data.npos; at = data.find(wanted, at + 1)) last = at;
+    for (std::size_t at = data.find(wanted); at != data.npos; at = data.find(wanted, at + 1))
+        last = at;
     return last;
 }
 

@@ -9,8 +9,8 @@
 /// Bytes 0 to 11 of a layout: up to and including the file length. Shorter data is no layout.
 inline constexpr std::size_t HeaderBytes = 12;
 
-/// `tmpFile` with its own length in bytes written at offset 8 (four bytes, big-endian). Data too short
-/// to hold that field is returned unchanged.
+/// `tmpFile` with its own length in bytes written at offset 8 (four bytes, big-endian). Data too
+/// short to hold that field is returned unchanged.
 std::string Set_File_Len(std::string tmpFile);
 
 /// What a padding text asks for.
@@ -23,14 +23,15 @@ struct Padding {
 /// not fill the disk.
 inline constexpr std::size_t MostPadding = std::size_t{256} << 20;
 
-/// The meaning of a padding text: empty for none, "+" and a whole number to append, a whole number to
-/// fill up. Nothing for any other text and for numbers above `MostPadding`.
+/// The meaning of a padding text: empty for none, "+" and a whole number to append, a whole number
+/// to fill up. Nothing for any other text and for numbers above `MostPadding`.
 std::optional<Padding> Read_Padding(std::u16string_view text);
 
-/// `TheFile` with the zero bytes that `padding` asks for behind it; unchanged when it is long enough.
+/// `TheFile` with the zero bytes that `padding` asks for behind it; unchanged when it is long
+/// enough.
 std::string AddPadding(std::string TheFile, const Padding& padding);
 
-/// `TheFile` without its padding: cut behind the closing group section ("gre1", size 8), the last one
-/// where there are several; without one, behind the first empty root group ("RootGroup" and eleven
-/// zero bytes); with neither, unchanged.
+/// `TheFile` without its padding: cut behind the closing group section ("gre1", size 8), the last
+/// one where there are several; without one, behind the first empty root group ("RootGroup" and
+/// eleven zero bytes); with neither, unchanged.
 std::string CutPadding(std::string TheFile);

@@ -25,8 +25,8 @@ bool Passes(std::string_view piece, std::string_view wanted) {
            std::memcmp(piece.data() + NameInPiece, wanted.data(), wanted.size()) == 0;
 }
 
-/// Moves what lies between the places together and puts `fresh`, no longer than the old stretch, into
-/// each of them.
+/// Moves what lies between the places together and puts `fresh`, no longer than the old stretch,
+/// into each of them.
 void Splice_Shorter(std::string& data, const std::vector<std::size_t>& places, std::size_t old_size,
                     std::string_view fresh) {
     char* out = data.data() + places.front();
@@ -101,8 +101,9 @@ std::vector<std::size_t> Pieces::Occurrences(std::string_view data, std::string_
     return places;
 }
 
-/// Moves the tags along. A tag can neither cross the start of a record, which is itself a tag, nor the
-/// end of a fresh one, which is a zero byte, so only the fresh record itself has to be searched.
+/// Moves the tags along. A tag can neither cross the start of a record, which is itself a tag, nor
+/// the end of a fresh one, which is a zero byte, so only the fresh record itself has to be
+/// searched.
 void Pieces::Follow_Replacement(const std::vector<std::size_t>& places, std::size_t old_size,
                                 std::string_view fresh) {
     const std::vector<std::size_t> inside = Find_Tags(fresh);

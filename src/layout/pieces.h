@@ -20,9 +20,9 @@ class Pieces {
     explicit Pieces(std::string_view data);
 
     /// The offset of the record that a lookup of `name` takes. The last piece that passes the test
-    /// tells the section size and the four bytes after it; the first place in the data with the tag,
-    /// those eight bytes and the name is the record. The piece in front of the first "txt1" is tested
-    /// like the others, so nothing may be found although a piece passed.
+    /// tells the section size and the four bytes after it; the first place in the data with the
+    /// tag, those eight bytes and the name is the record. The piece in front of the first "txt1" is
+    /// tested like the others, so nothing may be found although a piece passed.
     std::optional<std::size_t> Find_Record(std::string_view data, std::string_view name,
                                            Test test) const;
 

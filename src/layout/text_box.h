@@ -1,8 +1,8 @@
 // Reading and writing the texts of a layout's text boxes. A layout is one string of bytes, found by
 // searching and changed by replacing stretches of it; nothing here keeps a parsed form of it.
 //
-// Names are byte strings compared byte for byte. Display texts are UTF-16 code units, lone surrogates
-// included, in which "^" stands for a line feed.
+// Names are byte strings compared byte for byte. Display texts are UTF-16 code units, lone
+// surrogates included, in which "^" stands for a line feed.
 #pragma once
 
 #include <cstdint>
@@ -11,9 +11,9 @@
 #include <string_view>
 
 /// The display text of the box called `name`, or an empty text where there is no such box or its
-/// record cannot be read. The box is the last piece of the data split at "txt1" that carries the name
-/// followed by two zero bytes, but its record is looked for from the front: the first one with the
-/// same section size, the same four bytes after it and the same name is the one read.
+/// record cannot be read. The box is the last piece of the data split at "txt1" that carries the
+/// name followed by two zero bytes, but its record is looked for from the front: the first one with
+/// the same section size, the same four bytes after it and the same name is the one read.
 std::u16string Get_Text(std::string_view data, std::string_view name);
 
 /// `data` with the text of one box replaced, its section size, buffer length and text length made
@@ -42,8 +42,8 @@ std::string Rewrite_Texts(std::string data, std::span<const std::string> names);
 /// code units left out. A last byte without a partner is left out too.
 std::u16string Decode_Text(std::string_view bytes);
 
-/// The stored bytes of a display text: each code unit high byte first, "^" stored as a line feed. No
-/// terminator.
+/// The stored bytes of a display text: each code unit high byte first, "^" stored as a line feed.
+/// No terminator.
 std::string Encode_Text(std::u16string_view text);
 
 /// The remainder of `value` divided by `divisor`, both positive.

@@ -13,13 +13,17 @@
 
 namespace {
 
-std::u16string_view First_Word(std::u16string_view piece) { return piece.substr(0, piece.find(u' ')); }
+std::u16string_view First_Word(std::u16string_view piece) {
+    return piece.substr(0, piece.find(u' '));
+}
 
 std::u16string_view Last_Three(std::u16string_view word) {
     return word.substr(word.size() - std::min<std::size_t>(word.size(), 3));
 }
 
-std::u16string Without_Quotes(std::u16string_view value) { return Replace_All(value, u"\"", u""); }
+std::u16string Without_Quotes(std::u16string_view value) {
+    return Replace_All(value, u"\"", u"");
+}
 
 void Write_Title(std::u16string_view word, std::u16string& value) {
     Write_Box(std::u16string(box_prefix::Title).append(Last_Three(word)), value);
@@ -116,7 +120,8 @@ void Form1::Take_Option(std::u16string_view piece) {
         if (word != option.word) continue;
         if (piece.size() < option.skipped) return;
         const std::u16string_view value = Trim(piece.substr(option.skipped));
-        (this->*option.apply)(option.quotes_removed ? Without_Quotes(value) : std::u16string(value));
+        (this->*option.apply)(option.quotes_removed ? Without_Quotes(value)
+                                                    : std::u16string(value));
         return;
     }
     if (word == u"2" || word == u"3" || word == u"4" || word == u"5") {
@@ -174,7 +179,9 @@ void Form1::Option_Esrb(std::u16string_view value) {
     cmdSetAll_Click(4);
 }
 
-void Form1::Option_Pad(std::u16string_view value) { txtPad.Set(value); }
+void Form1::Option_Pad(std::u16string_view value) {
+    txtPad.Set(value);
+}
 
 void Form1::Fail(int status, const Failure& failure) {
     status_ = status;

@@ -58,7 +58,9 @@ void Form1::Store_Path() const {
     static_cast<void>(Replace_File(Configuration_Path(), line, Durability::unsynced));
 }
 
-std::u16string Form1::Layout_Path() const { return Resolve(process_.program_folder, txtSrc.Text()); }
+std::u16string Form1::Layout_Path() const {
+    return Resolve(process_.program_folder, txtSrc.Text());
+}
 
 void Form1::txtSrc_Change() {
     BrlytData.clear();

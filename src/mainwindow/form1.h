@@ -33,11 +33,12 @@ class Form1 {
     FileList File1{".vccs"}, File2{".tpl"};
 
     /// Start-up. Loads the layout that the configuration names; then shows the window and fills its
-    /// lists, or, with command-line text, runs it and saves. The result is the exit status of a program
-    /// that ends here; nothing when the window waits for the user.
+    /// lists, or, with command-line text, runs it and saves. The result is the exit status of a
+    /// program that ends here; nothing when the window waits for the user.
     std::optional<int> Form_Load();
 
-    /// Empties `BrlytData`, and loads and remembers the file that the path box names, if there is one.
+    /// Empties `BrlytData`, and loads and remembers the file that the path box names, if there is
+    /// one.
     void txtSrc_Change();
 
     /// Lets the user choose a file. One below the program's folder is named relative to it.
@@ -48,8 +49,8 @@ class Form1 {
     void cmdSet_Click(std::int16_t Index) { info.cmdSet_Click(Index); }
     void cmdSetAll_Click(std::int16_t Index) { info.cmdSetAll_Click(Index); }
 
-    /// Saves the layout and loads the saved file. A failure is reported and leaves the file, the logo
-    /// texture and `BrlytData` as they were.
+    /// Saves the layout and loads the saved file. A failure is reported and leaves the file, the
+    /// logo texture and `BrlytData` as they were.
     void cmdSave_Click();
 
     /// Fills the scheme list with "Current Brlyt", which it selects, and the names of the schemes.
@@ -58,18 +59,18 @@ class Form1 {
     /// Fills the logo list with "Current Logo", which it selects, and the logo files.
     void RefreshLogoList();
 
-    /// Puts the logo file `lgPath` in the place of the banner's logo texture, the first ".tpl" file in
-    /// the "timg" folder beside the layout's folder whose name begins with "my_Back". A bare name is
-    /// taken from the logos folder, "\..." from the program's folder, a full path as it is; `lgPath`
-    /// becomes the path used. A banner without such a folder or texture is left alone.
+    /// Puts the logo file `lgPath` in the place of the banner's logo texture, the first ".tpl" file
+    /// in the "timg" folder beside the layout's folder whose name begins with "my_Back". A bare
+    /// name is taken from the logos folder, "\..." from the program's folder, a full path as it is;
+    /// `lgPath` becomes the path used. A banner without such a folder or texture is left alone.
     Outcome ReplaceLogo(std::u16string& lgPath);
 
-    /// Selects the entry of the force list that equals `REG` in capitals, if there is one. `REG` itself
-    /// becomes capitals.
+    /// Selects the entry of the force list that equals `REG` in capitals, if there is one. `REG`
+    /// itself becomes capitals.
     void SetForce(std::u16string& REG);
 
-    /// Applies the command line: a layout path, then an option behind each hyphen. Stops at the first
-    /// failure, which is reported and gives the run its exit status.
+    /// Applies the command line: a layout path, then an option behind each hyphen. Stops at the
+    /// first failure, which is reported and gives the run its exit status.
     void ParseClo();
 
  private:

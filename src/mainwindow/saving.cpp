@@ -14,8 +14,8 @@
 
 namespace {
 
-/// Every text box that the save passes through the writer: language by language the four fields, then
-/// the system.
+/// Every text box that the save passes through the writer: language by language the four fields,
+/// then the system.
 std::vector<std::string> Boxes_To_Rewrite() {
     std::vector<std::string> names;
     for (const std::u16string_view code : LanguageList) {
@@ -56,8 +56,9 @@ void Form1::cmdSave_Click() {
     txtSrc_Change();
 }
 
-/// Everything that can be refused is refused before anything is changed. What fails later leaves the
-/// data in memory as it was: a second try must not find its own padding counted into the layout.
+/// Everything that can be refused is refused before anything is changed. What fails later leaves
+/// the data in memory as it was: a second try must not find its own padding counted into the
+/// layout.
 Outcome Form1::Save() {
     if (BrlytData.size() < HeaderBytes) return Failure{txtSrc.Text(), "No layout is loaded"};
     const auto padding = Read_Padding(txtPad.Text());

@@ -2,4 +2,6 @@
 
 #include "platform/files.h"
 
-void FileList::Set_Path(const std::u16string& folder) { names_ = List_Files(folder, ending_); }
+void FileList::Set_Path(const std::u16string& folder) {
+    names_ = List_Files(folder, ending_);
+}

@@ -1,8 +1,9 @@
 // The controls of the windows as state and events, without drawing. The windows' logic is written
 // against these types; a view mirrors them into a toolkit's widgets, or nothing does.
 //
-// Changing a text or a selection from code runs the event's handler before the call returns, and only
-// when the value changes. What a person does comes in through the member functions that say so.
+// Changing a text or a selection from code runs the event's handler before the call returns, and
+// only when the value changes. What a person does comes in through the member functions that say
+// so.
 #pragma once
 
 #include <functional>
@@ -57,7 +58,8 @@ class DropDownList : public Control {
 
     Event Click;
 
-    explicit DropDownList(std::vector<std::u16string> entries = {}) : entries_(std::move(entries)) {}
+    explicit DropDownList(std::vector<std::u16string> entries = {})
+        : entries_(std::move(entries)) {}
 
     const std::vector<std::u16string>& Entries() const { return entries_; }
     int Count() const { return static_cast<int>(entries_.size()); }
@@ -66,7 +68,8 @@ class DropDownList : public Control {
 
     /// The text of the selected entry; empty when none is selected.
     std::u16string Selected() const {
-        return index_ == NoSelection ? std::u16string() : entries_[static_cast<std::size_t>(index_)];
+        return index_ == NoSelection ? std::u16string()
+                                     : entries_[static_cast<std::size_t>(index_)];
     }
 
     /// Empties the list, which leaves nothing selected and raises no event.
@@ -125,8 +128,8 @@ class Form : public Control {
     bool enabled_ = true;
 };
 
-/// Enumerates the files of a folder that match a pattern. The listing is that of the moment when the
-/// folder was last set.
+/// Enumerates the files of a folder that match a pattern. The listing is that of the moment when
+/// the folder was last set.
 class FileList {
  public:
     /// `ending`: what the names end in, for example ".tpl" for the pattern "*.tpl".

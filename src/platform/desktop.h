@@ -22,8 +22,8 @@ class Dialogs {
     /// Tells the user what went wrong with what.
     virtual void Report(const Failure& failure) = 0;
 
-    /// The full path of a file of the user's choice, or an empty text when there was none. `filter`:
-    /// pairs of a description and a pattern, all separated by "|".
+    /// The full path of a file of the user's choice, or an empty text when there was none.
+    /// `filter`: pairs of a description and a pattern, all separated by "|".
     virtual std::u16string Open_File(const std::u16string& filter) = 0;
 };
 

@@ -3,8 +3,8 @@
 #include <optional>
 #include <string>
 
-/// Why something could not be done: what it concerns (a file as the user named it, or a control) and
-/// the reason, a short text without a full stop.
+/// Why something could not be done: what it concerns (a file as the user named it, or a control)
+/// and the reason, a short text without a full stop.
 struct Failure {
     std::u16string subject;
     std::string reason;

@@ -16,9 +16,13 @@ constexpr bool Posix = false;
 constexpr bool Posix = true;
 #endif
 
-bool Is_Separator(char16_t unit) { return unit == u'\\' || unit == u'/'; }
+bool Is_Separator(char16_t unit) {
+    return unit == u'\\' || unit == u'/';
+}
 
-char Small_Letter(char byte) { return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte + 32) : byte; }
+char Small_Letter(char byte) {
+    return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte + 32) : byte;
+}
 
 std::string Without_Case(std::string name) {
     std::transform(name.begin(), name.end(), name.begin(), Small_Letter);
@@ -81,13 +85,15 @@ bool Folder_Exists(const std::u16string& path) {
 std::vector<std::u16string> List_Files(const std::u16string& folder, std::string_view ending) {
     std::vector<std::string> names = Regular_Files(folder);
     std::erase_if(names, [&](const std::string& name) {
-        return name.starts_with('.') || !Without_Case(name).ends_with(Without_Case(std::string(ending)));
+        return name.starts_with('.') ||
+               !Without_Case(name).ends_with(Without_Case(std::string(ending)));
     });
     std::sort(names.begin(), names.end(), [](const std::string& a, const std::string& b) {
         const std::string x = Without_Case(a), y = Without_Case(b);
         return x != y ? x < y : a < b;
     });
     std::vector<std::u16string> texts;
+    texts.reserve(names.size());
     for (const std::string& name : names) texts.push_back(From_Utf8(name));
     return texts;
 }

@@ -1,6 +1,6 @@
 // Paths and files. A path text is kept as the user composed it; only here, where it meets the file
-// system, are its separators converted. On every system "\" separates the parts of a path, beside the
-// system's own separator.
+// system, are its separators converted. On every system "\" separates the parts of a path, beside
+// the system's own separator.
 #pragma once
 
 #include <string>
@@ -21,16 +21,16 @@ std::u16string With_Backslashes(std::u16string_view path);
 /// `path` with `program_folder` in front of it where it begins with "\"; otherwise unchanged.
 std::u16string Resolve(std::u16string_view program_folder, std::u16string_view path);
 
-/// Whether a search for an ordinary file finds something: a regular file, also through a link. A path
-/// that ends in a separator finds any regular file of that folder.
+/// Whether a search for an ordinary file finds something: a regular file, also through a link. A
+/// path that ends in a separator finds any regular file of that folder.
 bool Ordinary_File_Exists(const std::u16string& path);
 
 /// Whether `path` names a folder, with or without a separator at its end.
 bool Folder_Exists(const std::u16string& path);
 
-/// The names of the regular files of `folder` that end in `ending` whatever its case (".tpl"), sorted
-/// by name without case. Hidden files, whose names begin with a dot, are left out. Empty when the
-/// folder cannot be read.
+/// The names of the regular files of `folder` that end in `ending` whatever its case (".tpl"),
+/// sorted by name without case. Hidden files, whose names begin with a dot, are left out. Empty
+/// when the folder cannot be read.
 std::vector<std::u16string> List_Files(const std::u16string& folder, std::string_view ending);
 
 /// Reads a regular file whole into `bytes`. On failure `bytes` is left as it was.
@@ -44,9 +44,10 @@ enum class Durability {
 
 /// Puts a file with exactly `bytes` in the place of `path`, or makes a new one there. The bytes are
 /// written to a temporary file in the same folder, which takes over mode and owner of the old file
-/// and is then renamed over it, so that at each moment the old or the new file is there whole. A link
-/// stays a link: the file it leads to is replaced. A file without write permission, a folder, a pipe
-/// and a device are refused. On failure the old file is untouched and no temporary file is left.
+/// and is then renamed over it, so that at each moment the old or the new file is there whole. A
+/// link stays a link: the file it leads to is replaced. A file without write permission, a folder,
+/// a pipe and a device are refused. On failure the old file is untouched and no temporary file is
+/// left.
 Outcome Replace_File(const std::u16string& path, std::string_view bytes, Durability durability);
 
 /// The folder of the running executable, without a separator at its end.

@@ -20,7 +20,9 @@ struct StepFailed {
     std::string reason;
 };
 
-[[noreturn]] void Fail(int error) { throw StepFailed{std::strerror(error)}; }
+[[noreturn]] void Fail(int error) {
+    throw StepFailed{std::strerror(error)};
+}
 
 /// A file descriptor that closes itself where a failure leaves the steps early.
 class Descriptor {
@@ -71,8 +73,8 @@ std::string Read_Whole(const std::string& path) {
     std::string bytes(static_cast<std::size_t>(info.st_size) + 1, '\0');
     std::size_t filled = 0;
     for (;;) {
-        const auto count = Retry(
-            [&] { return ::read(file.get(), bytes.data() + filled, bytes.size() - filled); });
+        const auto count =
+            Retry([&] { return ::read(file.get(), bytes.data() + filled, bytes.size() - filled); });
         if (count == 0) break;
         filled += static_cast<std::size_t>(count);
         if (filled == bytes.size()) bytes.resize(bytes.size() * 2);
@@ -118,7 +120,8 @@ class TemporaryFile {
     }
 
     void Take_Over(const struct stat& old) {
-        // The owner can be kept only by a privileged user; changing it clears mode bits, so it is first.
+        // The owner can be kept only by a privileged user; changing it clears mode bits, so it is
+        // first.
         if (::fchown(file_.get(), old.st_uid, old.st_gid) != 0 && errno != EPERM) Fail(errno);
         Retry([&] { return ::fchmod(file_.get(), old.st_mode & 07777); });
     }
@@ -160,8 +163,8 @@ std::string Folder_Of(const std::string& path) {
 void Replace(const std::string& path, std::string_view bytes, Durability durability) {
     const std::string target = Follow_Links(path);
     const std::string folder_path = Folder_Of(target);
-    const Descriptor folder(Retry(
-        [&] { return ::open(folder_path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); }));
+    const Descriptor folder(
+        Retry([&] { return ::open(folder_path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); }));
 
     struct stat old {};
     const bool exists = ::stat(target.c_str(), &old) == 0;

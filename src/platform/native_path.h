@@ -3,5 +3,6 @@
 #include <filesystem>
 #include <string_view>
 
-/// `path` as the file system takes it. A path with a zero code unit names nothing and becomes empty.
+/// `path` as the file system takes it. A path with a zero code unit names nothing and becomes
+/// empty.
 std::filesystem::path Native_Path(std::u16string_view path);

@@ -10,8 +10,12 @@ namespace {
 constexpr char16_t EscapedByte = 0xDC00;
 constexpr char32_t Replacement = 0xFFFD;
 
-bool Is_High_Surrogate(char16_t unit) { return unit >= 0xD800 && unit <= 0xDBFF; }
-bool Is_Low_Surrogate(char16_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; }
+bool Is_High_Surrogate(char16_t unit) {
+    return unit >= 0xD800 && unit <= 0xDBFF;
+}
+bool Is_Low_Surrogate(char16_t unit) {
+    return unit >= 0xDC00 && unit <= 0xDFFF;
+}
 
 }  // namespace
 
@@ -41,7 +45,8 @@ std::string To_Utf8(std::u16string_view text) {
             bytes += static_cast<char>(unit - EscapedByte);
         } else {
             const bool lone = Is_High_Surrogate(unit) || Is_Low_Surrogate(unit);
-            utf8::append(lone ? Replacement : static_cast<char32_t>(unit), std::back_inserter(bytes));
+            utf8::append(lone ? Replacement : static_cast<char32_t>(unit),
+                         std::back_inserter(bytes));
         }
     }
     return bytes;
@@ -80,11 +85,12 @@ std::u16string Capitals(std::u16string_view text) {
 
 std::u16string Replace_All(std::u16string_view text, std::u16string_view what,
                            std::u16string_view with) {
+    if (what.empty()) return std::u16string(text);
     std::u16string result;
     std::size_t at = 0;
-    for (std::size_t hit; !what.empty() && (hit = text.find(what, at)) != text.npos;
-         at = hit + what.size()) {
+    for (std::size_t hit = text.find(what); hit != text.npos; hit = text.find(what, at)) {
         result.append(text.substr(at, hit - at)).append(with);
+        at = hit + what.size();
     }
     return result.append(text.substr(at));
 }

@@ -1,5 +1,5 @@
-// Texts between UTF-16 code units, which the windows and the layout speak, and bytes, which files and
-// terminals speak. The only place where encodings are converted.
+// Texts between UTF-16 code units, which the windows and the layout speak, and bytes, which files
+// and terminals speak. The only place where encodings are converted.
 #pragma once
 
 #include <optional>
@@ -25,8 +25,8 @@ std::u16string_view Trim(std::u16string_view text);
 /// `text` with the letters a to z turned into capitals and everything else as it is.
 std::u16string Capitals(std::u16string_view text);
 
-/// `text` with every occurrence of `what`, from left to right and without overlap, replaced by `with`.
-/// An empty `what` occurs nowhere.
+/// `text` with every occurrence of `what`, from left to right and without overlap, replaced by
+/// `with`. An empty `what` occurs nowhere.
 std::u16string Replace_All(std::u16string_view text, std::u16string_view what,
                            std::u16string_view with);
 

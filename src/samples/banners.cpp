@@ -83,12 +83,16 @@ struct Picture {
 };
 
 constexpr Picture Pictures[] = {
-    {"Back0", u"Back0", {0, 0, 608, 456}, 0},    {"Back1", u"Back1", {0, 120, 608, 80}, 0},
-    {"Back2", u"Back2", {0, 40, 608, 80}, 0},    {"Back3", u"Back3", {0, -40, 608, 80}, 0},
-    {"Back4", u"Back4", {0, -120, 608, 80}, 0},  {"Shade", u"Shade", {0, -200, 608, 56}, 2},
+    {"Back0", u"Back0", {0, 0, 608, 456}, 0},
+    {"Back1", u"Back1", {0, 120, 608, 80}, 0},
+    {"Back2", u"Back2", {0, 40, 608, 80}, 0},
+    {"Back3", u"Back3", {0, -40, 608, 80}, 0},
+    {"Back4", u"Back4", {0, -120, 608, 80}, 0},
+    {"Shade", u"Shade", {0, -200, 608, 56}, 2},
     {"BackMask1", u"BackMask1", {0, -90, 608, 60}, 2},
     {"BackMask2", u"BackMask2", {0, -170, 608, 110}, 2},
-    {"PFLine", u"PFLINE", {0, 205, 608, 30}, 2}, {"YearLine", u"YearLine", {-190, 52, 200, 4}, 2},
+    {"PFLine", u"PFLINE", {0, 205, 608, 30}, 2},
+    {"YearLine", u"YearLine", {-190, 52, 200, 4}, 2},
     {"PlayLine", u"PlayLine", {-190, -20, 200, 4}, 2},
     {"VCPicSha", u"VCPicSha", {124, 16, 236, 178}, 2},
     {"VCPicBase", u"VCPicBase", {120, 20, 232, 174}, 2},
@@ -100,14 +104,15 @@ class Banner {
  public:
     Banner() {
         for (const Picture& picture : Pictures) {
-            const unsigned material = materials_.Add(picture.name, picture.element, picture.texture);
+            const unsigned material =
+                materials_.Add(picture.name, picture.element, picture.texture);
             panes_.push_back(Picture_Section(picture.name, material, picture.place));
         }
         Add_Text("T_PF", u"T_PF", Sample.system, {190, 205, 200, 26}, 18);
     }
 
-    /// The four texts of one language and its group. The group has three members: the title, the pane
-    /// with year and players, and the rating.
+    /// The four texts of one language and its group. The group has three members: the title, the
+    /// pane with year and players, and the rating.
     void Add_Language(std::u16string_view code) {
         const std::string name = To_Utf8(code), info = "N_Info_" + name;
         Add_Box(TitleBox, code, "_" + name);
@@ -151,8 +156,7 @@ class Banner {
     void Add_Text(const std::string& name, std::u16string_view element, std::u16string_view text,
                   Place place, float font_size) {
         const unsigned material = materials_.Add(name, element);
-        panes_.push_back(
-            Text_Box_Section(Clean_Text_Box(name, text, material, place, font_size)));
+        panes_.push_back(Text_Box_Section(Clean_Text_Box(name, text, material, place, font_size)));
     }
 
     void Add_Box(const BoxKind& kind, std::u16string_view code, const std::string& ending) {

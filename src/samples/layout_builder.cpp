@@ -45,11 +45,17 @@ ByteWriter& ByteWriter::U8(unsigned value) {
     return *this;
 }
 
-ByteWriter& ByteWriter::U16(unsigned value) { return U8(value >> 8).U8(value); }
+ByteWriter& ByteWriter::U16(unsigned value) {
+    return U8(value >> 8).U8(value);
+}
 
-ByteWriter& ByteWriter::U32(std::uint32_t value) { return U16(value >> 16).U16(value & 0xFFFF); }
+ByteWriter& ByteWriter::U32(std::uint32_t value) {
+    return U16(value >> 16).U16(value & 0xFFFF);
+}
 
-ByteWriter& ByteWriter::F32(float value) { return U32(std::bit_cast<std::uint32_t>(value)); }
+ByteWriter& ByteWriter::F32(float value) {
+    return U32(std::bit_cast<std::uint32_t>(value));
+}
 
 ByteWriter& ByteWriter::Name(std::string_view text, std::size_t width) {
     const std::string_view kept = text.substr(0, width);
@@ -144,7 +150,9 @@ std::string Group_Section(std::string_view name, const std::vector<std::string>&
     return Section("grp1", body.Data());
 }
 
-std::string Empty_Section(std::string_view tag) { return Section(tag, {}); }
+std::string Empty_Section(std::string_view tag) {
+    return Section(tag, {});
+}
 
 std::string Layout_File(const std::vector<std::string>& sections) {
     std::string all;

@@ -1,5 +1,5 @@
-// Builds layout files, piece by piece as the format has them. The samples and the tests are made with
-// it; the editor itself never builds a layout.
+// Builds layout files, piece by piece as the format has them. The samples and the tests are made
+// with it; the editor itself never builds a layout.
 #pragma once
 
 #include <array>

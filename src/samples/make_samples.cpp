@@ -4,10 +4,10 @@
 #include <cstdio>
 #include <filesystem>
 #include <numbers>
+#include <stdexcept>
 #include <string>
 
 #include "colors/scheme.h"
-#include "platform/desktop.h"
 #include "platform/files.h"
 #include "platform/text.h"
 #include "samples/banners.h"
@@ -19,18 +19,16 @@ namespace fs = std::filesystem;
 
 constexpr int LogoWidth = 256, LogoHeight = 64;
 
-bool failed = false;
-
 void Write(const fs::path& path, std::string_view bytes) {
     fs::create_directories(path.parent_path());
     const auto failure = Replace_File(From_Utf8(path.string()), bytes, Durability::unsynced);
-    if (!failure) return;
-    ConsoleDialogs().Report(*failure);
-    failed = true;
+    if (failure) throw std::runtime_error(path.string() + ": " + failure->reason);
 }
 
 /// 1 inside a shape, 0 outside, and a soft edge one pixel wide; `distance` is negative inside.
-double Inside(double distance) { return std::fmin(1, std::fmax(0, 0.5 - distance)); }
+double Inside(double distance) {
+    return std::fmin(1, std::fmax(0, 0.5 - distance));
+}
 
 double Ring(int x, int y, double centre_x, double radius, double thickness) {
     const double distance = std::hypot(x - centre_x, y - LogoHeight / 2.0);
@@ -39,7 +37,8 @@ double Ring(int x, int y, double centre_x, double radius, double thickness) {
 
 Pixel Rings(int x, int y) {
     double light = 0;
-    for (const double centre : {64.0, 128.0, 192.0}) light = std::fmax(light, Ring(x, y, centre, 24, 6));
+    for (const double centre : {64.0, 128.0, 192.0})
+        light = std::fmax(light, Ring(x, y, centre, 24, 6));
     return {light, light, light, light};
 }
 
@@ -58,7 +57,8 @@ Pixel Comet(int x, int y) {
 
 Pixel Waves(int x, int y) {
     const double wave = 32 + 14 * std::sin(x * 2 * std::numbers::pi / 64);
-    const double light = std::fmax(Inside(std::abs(y - wave) - 4), 0.5 * Inside(std::abs(y - wave - 14) - 2));
+    const double light =
+        std::fmax(Inside(std::abs(y - wave) - 4), 0.5 * Inside(std::abs(y - wave - 14) - 2));
     return {0.3 * light, 0.7 * light, light, light};
 }
 
@@ -81,8 +81,9 @@ void Write_Banner(const fs::path& samples, const std::string& name, const std::s
           Texture_File(TextureFormat::rgb5a3, 128, 96, [](int x, int y) {
               return Pixel{x / 127.0, y / 95.0, 0.5, 1};
           }));
-    Write(arc / "timg" / "my_White.tpl",
-          Texture_File(TextureFormat::i4, 8, 8, [](int, int) { return Pixel{1, 1, 1, 1}; }));
+    Write(arc / "timg" / "my_White.tpl", Texture_File(TextureFormat::i4, 8, 8, [](int, int) {
+              return Pixel{1, 1, 1, 1};
+          }));
 }
 
 void Write_Program_Folder(const fs::path& folder) {
@@ -111,6 +112,11 @@ int main(int argc, char** argv) {
         std::fputs("usage: make-samples FOLDER\n", stderr);
         return 1;
     }
-    Write_Program_Folder(argv[1]);
-    return failed ? 1 : 0;
+    try {
+        Write_Program_Folder(argv[1]);
+    } catch (const std::exception& failure) {
+        std::fprintf(stderr, "make-samples: %s\n", failure.what());
+        return 1;
+    }
+    return 0;
 }

@@ -18,7 +18,9 @@ constexpr Color Hex(unsigned rgb) {
 
 /// The colour `part` of 8 on the way from `from` to `to`.
 constexpr Color Between(Color from, Color to, int part) {
-    const auto mix = [part](int a, int b) { return static_cast<std::uint8_t>(a + (b - a) * part / 8); };
+    const auto mix = [part](int a, int b) {
+        return static_cast<std::uint8_t>(a + (b - a) * part / 8);
+    };
     return Make_Color(mix(Red_Of(from), Red_Of(to)), mix(Green_Of(from), Green_Of(to)),
                       mix(Blue_Of(from), Blue_Of(to)));
 }
@@ -26,25 +28,25 @@ constexpr Color Between(Color from, Color to, int part) {
 constexpr Scheme From_Palette(const Palette& p) {
     const Color shadow = Between(p.floor, Hex(0x000000), 5);
     return {{
-        {p.bar_edge, p.bar},                        // PFLINE
+        {p.bar_edge, p.bar},                          // PFLINE
         {Between(p.bar, p.bar_edge, 4), p.bar_text},  // T_PF
-        {shadow, p.floor},                          // Shade
-        {p.paper, p.pattern},                       // Back0
-        {p.paper, p.pattern},                       // Back1
-        {p.paper, Between(p.pattern, p.paper, 2)},  // Back2
-        {p.paper, Between(p.pattern, p.floor, 2)},  // Back3
-        {p.paper, Between(p.pattern, p.paper, 3)},  // Back4
-        {p.paper, p.line},                          // YearLine
-        {p.paper, p.line},                          // PlayLine
-        {shadow, p.title},                          // T_VCTitle
-        {p.paper, p.ink},                           // T_Play
-        {p.paper, p.ink},                           // T_Year
-        {shadow, p.rating},                         // T_ESRB
-        {p.frame, p.screen},                        // VCPic
-        {shadow, p.screen},                         // VCPicBase
-        {shadow, Between(p.floor, shadow, 4)},      // VCPicSha
-        {p.paper, p.floor},                         // BackMask1
-        {shadow, p.floor},                          // BackMask2
+        {shadow, p.floor},                            // Shade
+        {p.paper, p.pattern},                         // Back0
+        {p.paper, p.pattern},                         // Back1
+        {p.paper, Between(p.pattern, p.paper, 2)},    // Back2
+        {p.paper, Between(p.pattern, p.floor, 2)},    // Back3
+        {p.paper, Between(p.pattern, p.paper, 3)},    // Back4
+        {p.paper, p.line},                            // YearLine
+        {p.paper, p.line},                            // PlayLine
+        {shadow, p.title},                            // T_VCTitle
+        {p.paper, p.ink},                             // T_Play
+        {p.paper, p.ink},                             // T_Year
+        {shadow, p.rating},                           // T_ESRB
+        {p.frame, p.screen},                          // VCPic
+        {shadow, p.screen},                           // VCPicBase
+        {shadow, Between(p.floor, shadow, 4)},        // VCPicSha
+        {p.paper, p.floor},                           // BackMask1
+        {shadow, p.floor},                            // BackMask2
     }};
 }
 
@@ -76,6 +78,7 @@ constexpr Palette Palettes[] = {
 
 std::vector<NamedScheme> Shipped_Schemes() {
     std::vector<NamedScheme> schemes;
-    for (const Palette& palette : Palettes) schemes.push_back({palette.name, From_Palette(palette)});
+    for (const Palette& palette : Palettes)
+        schemes.push_back({palette.name, From_Palette(palette)});
     return schemes;
 }

@@ -22,9 +22,15 @@ unsigned Rgb5a3(const Pixel& p) {
 
 void Append_Pixel(ByteWriter& out, TextureFormat format, const Pixel& p, const Pixel& next) {
     switch (format) {
-        case TextureFormat::i4: out.U8(Level(p.green, 15) << 4 | Level(next.green, 15)); break;
-        case TextureFormat::ia8: out.U8(Level(p.alpha, 255)).U8(Level(p.green, 255)); break;
-        case TextureFormat::rgb5a3: out.U16(Rgb5a3(p)); break;
+        case TextureFormat::i4:
+            out.U8(Level(p.green, 15) << 4 | Level(next.green, 15));
+            break;
+        case TextureFormat::ia8:
+            out.U8(Level(p.alpha, 255)).U8(Level(p.green, 255));
+            break;
+        case TextureFormat::rgb5a3:
+            out.U16(Rgb5a3(p));
+            break;
     }
 }
 

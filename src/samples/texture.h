@@ -13,6 +13,7 @@ struct Pixel {
     double red = 0, green = 0, blue = 0, alpha = 1;
 };
 
-/// A whole texture file of `width` x `height` pixels, both multiples of 8; `pixel(x, y)` gives each.
+/// A whole texture file of `width` x `height` pixels, both multiples of 8; `pixel(x, y)` gives
+/// each.
 std::string Texture_File(TextureFormat format, int width, int height,
                          const std::function<Pixel(int x, int y)>& pixel);
