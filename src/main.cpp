@@ -17,7 +17,7 @@ namespace {
 int Start_Window(char** argv) {
     const std::u16string window = Program_Folder() + u"/bannersmith-window";
     ::execv(To_Utf8(window).c_str(), argv);
-    ConsoleDialogs().Report(
+    NoDesktop().Report(
         {window, std::string("The windows cannot be started: ") + std::strerror(errno)});
     return 1;
 }

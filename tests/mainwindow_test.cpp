@@ -35,7 +35,7 @@ class MainWindow : public testing::Test {
 
     /// Starts the window, or the batch run of a command line.
     std::optional<int> Start(const std::u16string& command_line = u"") {
-        window = std::make_unique<Form1>(Process{folder.Text(), command_line}, dialogs);
+        window = std::make_unique<Form1>(Process{folder.Text(), command_line}, desktop);
         return window->Form_Load();
     }
 
@@ -44,7 +44,7 @@ class MainWindow : public testing::Test {
     }
 
     TempFolder folder;
-    TestDialogs dialogs;
+    TestDesktop desktop;
     std::unique_ptr<Form1> window;
 };
 
@@ -65,8 +65,8 @@ TEST_F(MainWindow, NeedsItsConfiguration) {
     EXPECT_EQ(Start(), Form1::Failed);
     std::filesystem::remove(folder.Path() / Configuration);
     EXPECT_EQ(Start(u"-PAD 0"), Form1::Failed);
-    ASSERT_EQ(dialogs.failures.size(), 2U);
-    EXPECT_EQ(dialogs.failures[1].subject, folder.Text() + u"\\cfgs\\vcinfopath.cfg");
+    ASSERT_EQ(desktop.failures.size(), 2U);
+    EXPECT_EQ(desktop.failures[1].subject, folder.Text() + u"\\cfgs\\vcinfopath.cfg");
     EXPECT_FALSE(window->form.Visible());
 }
 
@@ -110,25 +110,25 @@ TEST_F(MainWindow, FollowsThePathBoxAtEachKeystroke) {
     NoneRegion = u"JPN";
     window->txtSrc.Set(u"\\logos\\");
     EXPECT_EQ(NoneRegion, u"");
-    EXPECT_TRUE(dialogs.failures.empty());
+    EXPECT_TRUE(desktop.failures.empty());
 }
 
 TEST_F(MainWindow, BrowsesForAFile) {
     Start();
     window->cmdFileBrowse_Click();
-    EXPECT_EQ(dialogs.filter, u"Brlyt Files (*.brlyt)|*.brlyt|All Files (*.*)|*.*");
+    EXPECT_EQ(desktop.filter, u"Brlyt Files (*.brlyt)|*.brlyt|All Files (*.*)|*.*");
     EXPECT_EQ(window->txtSrc.Text(), u"\\b\\arc\\blyt\\banner.brlyt") << "a cancel changes nothing";
     folder.Write("c/arc/blyt/other.brlyt", Neutral_Banner());
-    dialogs.file = folder.Text() + u"/c/arc/blyt/other.brlyt";
+    desktop.file = folder.Text() + u"/c/arc/blyt/other.brlyt";
     window->cmdFileBrowse_Click();
     EXPECT_EQ(window->txtSrc.Text(), u"\\c/arc/blyt/other.brlyt");
     EXPECT_EQ(folder.Read(Configuration), "\\c/arc/blyt/other.brlyt\r\n");
     EXPECT_EQ(BrlytData, Neutral_Banner());
     const TempFolder elsewhere;
     elsewhere.Write("x.brlyt", Neutral_Banner());
-    dialogs.file = elsewhere.Text() + u"/x.brlyt";
+    desktop.file = elsewhere.Text() + u"/x.brlyt";
     window->cmdFileBrowse_Click();
-    EXPECT_EQ(window->txtSrc.Text(), dialogs.file);
+    EXPECT_EQ(window->txtSrc.Text(), desktop.file);
 }
 
 TEST_F(MainWindow, SavesOnlyWhatTheWriterChanges) {
@@ -138,7 +138,7 @@ TEST_F(MainWindow, SavesOnlyWhatTheWriterChanges) {
     folder.Write(Layout, layout + std::string(999, '\0'));
     Start();
     window->cmdSave_Click();
-    EXPECT_EQ(dialogs.messages, std::vector<std::u16string>{u"File Successfully Saved!"});
+    EXPECT_EQ(desktop.messages, std::vector<std::u16string>{u"File Successfully Saved!"});
     std::string expected = Seven_Language_Banner();
     EXPECT_EQ(BrlytData, expected);
     expected.resize(12000, '\0');
@@ -164,7 +164,7 @@ TEST_F(MainWindow, SavesWithLooksForceAndPadding) {
     EXPECT_NE(saved.find("T_ESRB_ENG"), saved.npos);
     EXPECT_EQ(folder.Read(Texture), "new texture");
     EXPECT_EQ(window->cmbFileList.Index(), 2) << "the lists keep their selections";
-    EXPECT_TRUE(dialogs.failures.empty());
+    EXPECT_TRUE(desktop.failures.empty());
 }
 
 TEST_F(MainWindow, AFailedSaveLeavesEverythingAsItWas) {
@@ -190,15 +190,15 @@ TEST_F(MainWindow, AFailedSaveLeavesEverythingAsItWas) {
         window->info.txtYear.Set(u"2020");
         window->cmdSetAll_Click(1);
         const std::string before = BrlytData;
-        dialogs.failures.clear();
+        desktop.failures.clear();
         c.spoil(*this);
         const auto names = folder.Names();
         window->cmdSave_Click();
         EXPECT_EQ(BrlytData, before) << c.what;
         EXPECT_EQ(folder.Names(), names) << c.what;
         EXPECT_EQ(folder.Read(Texture), "old texture") << c.what;
-        EXPECT_EQ(dialogs.failures.size(), 1U) << c.what;
-        EXPECT_TRUE(dialogs.messages.empty()) << c.what;
+        EXPECT_EQ(desktop.failures.size(), 1U) << c.what;
+        EXPECT_TRUE(desktop.messages.empty()) << c.what;
         folder.Write("schemes/Zebra.vccs", Format_Scheme(Scheme{}));
     }
 }
@@ -213,7 +213,7 @@ TEST_F(MainWindow, RefusesToSaveNothing) {
     window->txtSrc.Set(u"\\none.brlyt");
     window->cmdSave_Click();
     EXPECT_EQ(folder.Read("none.brlyt"), "(none)");
-    EXPECT_EQ(dialogs.failures.size(), 3U);
+    EXPECT_EQ(desktop.failures.size(), 3U);
 }
 
 TEST_F(MainWindow, ReplacesTheFirstTextureThatIsTheLogo) {
@@ -299,7 +299,7 @@ TEST_F(MainWindow, TakesTheLayoutPathFromTheCommandLine) {
         EXPECT_EQ(folder.Read(Configuration), To_Utf8(c.stored) + "\r\n");
         folder.Write(Layout, Seven_Language_Banner());
     }
-    EXPECT_TRUE(dialogs.messages.empty());
+    EXPECT_TRUE(desktop.messages.empty());
     EXPECT_FALSE(window->form.Visible());
 }
 
@@ -340,7 +340,7 @@ TEST_F(MainWindow, AppliesOptionsInTheirOrder) {
         EXPECT_EQ(Start(c.options), Form1::Done);
         EXPECT_EQ(On_Disk(c.box), c.text) << To_Utf8(c.options);
     }
-    EXPECT_TRUE(dialogs.failures.empty());
+    EXPECT_TRUE(desktop.failures.empty());
 }
 
 TEST_F(MainWindow, BatchOptionsReachTheSave) {
@@ -367,10 +367,10 @@ TEST_F(MainWindow, AFailedRunChangesNoBanner) {
         {u"b -LOGO New.tpl", 2, "\\b"},
     };
     for (const Case& c : cases) {
-        dialogs.failures.clear();
+        desktop.failures.clear();
         EXPECT_EQ(Start(c.command_line), c.status);
-        ASSERT_EQ(dialogs.failures.size(), 1U) << To_Utf8(c.command_line);
-        EXPECT_TRUE(To_Utf8(dialogs.failures[0].subject).ends_with(c.subject));
+        ASSERT_EQ(desktop.failures.size(), 1U) << To_Utf8(c.command_line);
+        EXPECT_TRUE(To_Utf8(desktop.failures[0].subject).ends_with(c.subject));
         EXPECT_EQ(folder.Read(Layout), Seven_Language_Banner());
         EXPECT_EQ(folder.Read(Texture), "old texture");
     }

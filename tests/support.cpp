@@ -38,6 +38,14 @@ std::vector<std::string> TempFolder::Names() const {
     return names;
 }
 
+std::u16string TestDesktop::In_Code_Page(std::u16string_view text) {
+    std::u16string kept(text);
+    for (char16_t& unit : kept) {
+        if (code_page_lacks.find(unit) != code_page_lacks.npos) unit = u'?';
+    }
+    return kept;
+}
+
 std::string Layout_With(std::vector<std::string> sections) {
     sections.push_back(Empty_Section("gre1"));
     return Layout_File(sections);

@@ -1,4 +1,4 @@
-// What the tests share: temporary folders with real files, dialogs that answer as told, layouts.
+// What the tests share: temporary folders with real files, a desktop that answers as told, layouts.
 #pragma once
 
 #include <filesystem>
@@ -32,11 +32,14 @@ class TempFolder {
 };
 
 /// Notes what it is shown and answers what it is told to.
-class TestDialogs : public Dialogs {
+class TestDesktop : public Desktop {
  public:
     std::vector<std::u16string> messages;
     std::vector<Failure> failures;
     std::u16string file, filter;
+    std::u16string answer, question;
+    Color color = 0;
+    std::u16string code_page_lacks;  ///< characters that the system's code page has not
 
     void Message(const std::u16string& text) override { messages.push_back(text); }
     void Report(const Failure& failure) override { failures.push_back(failure); }
@@ -44,6 +47,16 @@ class TestDialogs : public Dialogs {
         filter = wanted;
         return file;
     }
+    std::u16string Ask(const std::u16string& prompt, const std::u16string& title) override {
+        question = title + u"|" + prompt;
+        return answer;
+    }
+    Color Choose_Color(Color before) override { return color ? color : before; }
+    /// Each character as wide as the font is high.
+    float Text_Width(std::u16string_view text, const Font& font) override {
+        return static_cast<float>(text.size()) * font.points * 20;
+    }
+    std::u16string In_Code_Page(std::u16string_view text) override;
 };
 
 /// A minimal layout: header, sections, closing group.

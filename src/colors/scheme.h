@@ -6,10 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/desktop.h"
 #include "platform/failure.h"
-
-/// A colour as the colour boxes hold it: red + 256 x green + 65536 x blue, each 0 to 255.
-using Color = std::uint32_t;
 
 constexpr std::uint8_t Red_Of(Color color) {
     return color & 0xFF;

@@ -61,6 +61,16 @@ void Splice_Longer(std::string& data, const std::vector<std::size_t>& places, st
 
 Pieces::Pieces(std::string_view data) : tags_(Find_Tags(data)) {}
 
+std::vector<std::string_view> Pieces::Behind_Tags(std::string_view data) const {
+    std::vector<std::string_view> pieces;
+    for (std::size_t k = 0; k < tags_.size(); ++k) {
+        const std::size_t end = k + 1 < tags_.size() ? tags_[k + 1] : data.size();
+        const std::size_t start = tags_[k] + record::Tag.size();
+        pieces.push_back(data.substr(start, end - start));
+    }
+    return pieces;
+}
+
 std::optional<std::size_t> Pieces::Find_Record(std::string_view data, std::string_view name,
                                                Test test) const {
     std::string wanted(name);

@@ -19,6 +19,9 @@ class Pieces {
 
     explicit Pieces(std::string_view data);
 
+    /// What stands behind each tag, up to the next one or the end of the data, in order.
+    std::vector<std::string_view> Behind_Tags(std::string_view data) const;
+
     /// The offset of the record that a lookup of `name` takes. The last piece that passes the test
     /// tells the section size and the four bytes after it; the first place in the data with the
     /// tag, those eight bytes and the name is the record. The piece in front of the first "txt1" is

@@ -80,6 +80,17 @@ std::string Rewrite_Texts(std::string data, std::span<const std::string> names) 
     return data;
 }
 
+std::vector<std::string> Text_Box_Names(std::string_view data) {
+    constexpr std::size_t NameInPiece = record::Name - record::Tag.size(), MostBytes = 20;
+    std::vector<std::string> names;
+    for (const std::string_view piece : Pieces(data).Behind_Tags(data)) {
+        std::string name(piece.substr(std::min(NameInPiece, piece.size()), MostBytes));
+        std::erase(name, '\0');
+        names.push_back(std::move(name));
+    }
+    return names;
+}
+
 std::u16string Decode_Text(std::string_view bytes) {
     std::u16string text;
     text.reserve(bytes.size() / 2);

@@ -9,6 +9,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 /// The display text of the box called `name`, or an empty text where there is no such box or its
 /// record cannot be read. The box is the last piece of the data split at "txt1" that carries the
@@ -37,6 +38,11 @@ std::string Set_Texts(std::string data, std::span<const BoxText> texts);
 /// Passes each named box once through the writer: its text is read with `Get_Text` and written back
 /// with `Set_Text`, name after name, looking for the data's pieces only once.
 std::string Rewrite_Texts(std::string data, std::span<const std::string> names);
+
+/// The names of the data's text boxes in the order of their records, the same name as often as it
+/// occurs: for each "txt1" the 20 bytes where a record has its name, or fewer at the end of the
+/// piece, without their zero bytes.
+std::vector<std::string> Text_Box_Names(std::string_view data);
 
 /// The display text of stored bytes: pairs of bytes, high byte first, line feeds shown as "^", zero
 /// code units left out. A last byte without a partner is left out too.

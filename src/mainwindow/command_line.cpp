@@ -185,5 +185,5 @@ void Form1::Option_Pad(std::u16string_view value) {
 
 void Form1::Fail(int status, const Failure& failure) {
     status_ = status;
-    dialogs_.Report(failure);
+    desktop_.Report(failure);
 }

@@ -15,10 +15,10 @@ constexpr std::u16string_view CurrentLogo = u"Current Logo";
 
 }  // namespace
 
-Form1::Form1(Process process, Dialogs& dialogs)
+Form1::Form1(Process process, Desktop& desktop)
     : cmbForce({LanguageList.begin(), LanguageList.end()}),
       process_(std::move(process)),
-      dialogs_(dialogs) {
+      desktop_(desktop) {
     txtSrc.Change = [this] { txtSrc_Change(); };
 }
 
@@ -26,13 +26,15 @@ std::optional<int> Form1::Form_Load() {
     cmbForce.Select(cmbForce.Count() - 1);
     std::u16string line;
     if (const auto failure = Read_Configuration(line)) {
-        dialogs_.Report(*failure);
+        desktop_.Report(*failure);
         return Failed;
     }
     if (!line.empty()) txtSrc.Set(line);
 
     if (!process_.command_line.empty()) return Run_Batch();
     form.Show();
+    on_disk_ = BrlytData;
+    Tell_What_Is_Loaded();
     RefreshColorList_Here();
     RefreshLogoList();
     return std::nullopt;
@@ -65,10 +67,14 @@ std::u16string Form1::Layout_Path() const {
 void Form1::txtSrc_Change() {
     BrlytData.clear();
     const std::u16string path = Layout_Path();
-    if (!Ordinary_File_Exists(path)) return;
-    BrlytPath = path;
-    Load_Brlyt();
-    Store_Path();
+    if (Ordinary_File_Exists(path)) {
+        BrlytPath = path;
+        Load_Brlyt();
+        Store_Path();
+    }
+    if (!form.Visible()) return;
+    on_disk_ = BrlytData;
+    Tell_What_Is_Loaded();
 }
 
 void Form1::Load_Brlyt() {
@@ -81,10 +87,10 @@ void Form1::Load_Brlyt() {
 
 void Form1::cmdFileBrowse_Click() {
     const std::u16string file =
-        dialogs_.Open_File(u"Brlyt Files (*.brlyt)|*.brlyt|All Files (*.*)|*.*");
+        desktop_.Open_File(u"Brlyt Files (*.brlyt)|*.brlyt|All Files (*.*)|*.*");
     if (file.empty()) return;
     txtSrc.Set(file);
-    // Dialogs answer with the platform's own separator, so the program's folder is looked for with
+    // Desktop answer with the platform's own separator, so the program's folder is looked for with
     // either one behind it.
     const std::u16string& folder = process_.program_folder;
     for (const char16_t separator : {u'\\', u'/'}) {
@@ -103,6 +109,34 @@ void Form1::RefreshLogoList() {
     cmbLogo.Add(CurrentLogo);
     for (const std::u16string& name : File2.Names()) cmbLogo.Add(name);
     cmbLogo.Select(0);
+}
+
+void Form1::cmdEditColor_Click() {
+    ColorWindow = std::make_unique<frmColor>(MainWindowForColors{form, txtSrc, cmbFileList, info},
+                                             process_.program_folder, desktop_);
+    ColorWindowMade.Raise();
+    ColorWindow->Form_Load();
+    ColorWindow->form.Show();
+    ColorWindow->cmbFileList.Select(cmbFileList.Index());
+    form.Set_Enabled(false);
+}
+
+void Form1::Close_Color_Window() {
+    ColorWindow->Form_Unload();
+    ColorWindow.reset();
+}
+
+void Form1::cmdHC_Click() {
+    TextEditor = std::make_unique<frmHC>(form, info);
+    TextEditorMade.Raise();
+    TextEditor->Form_Load();
+    TextEditor->form.Show();
+}
+
+void Form1::Close_Text_Editor() {
+    TextEditor->Form_Unload();
+    TextEditor.reset();
+    Tell_What_Is_Loaded();
 }
 
 void Form1::SetForce(std::u16string& REG) {

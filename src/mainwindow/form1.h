@@ -3,13 +3,17 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "colors/frm_color.h"
 #include "gameinfo/game_info.h"
 #include "layout/file_length.h"
+#include "manualeditor/frm_hc.h"
 #include "platform/controls.h"
 #include "platform/desktop.h"
 
@@ -20,8 +24,8 @@ class Form1 {
     static constexpr int Failed = 1;    ///< the layout file and the logo texture are as they were
     static constexpr int NoLayout = 2;  ///< the command line names no layout that can be read
 
-    /// `dialogs` must outlive the window.
-    Form1(Process process, Dialogs& dialogs);
+    /// `desktop` must outlive the window.
+    Form1(Process process, Desktop& desktop);
     Form1(const Form1&) = delete;
     Form1& operator=(const Form1&) = delete;
 
@@ -31,6 +35,13 @@ class Form1 {
     TextBox txtPad{u"12000"};
     DropDownList cmbFileList, cmbLogo, cmbForce;
     FileList File1{".vccs"}, File2{".tpl"};
+    Label lblLoaded;       ///< what is loaded: file, languages, size, unsaved changes
+    Label lblLastCommand;  ///< what the last command changed
+
+    /// The other two windows while they are open. A view is made on the event, before they load.
+    std::unique_ptr<frmColor> ColorWindow;
+    std::unique_ptr<frmHC> TextEditor;
+    Event ColorWindowMade, TextEditorMade;
 
     /// Start-up. Loads the layout that the configuration names; then shows the window and fills its
     /// lists, or, with command-line text, runs it and saves. The result is the exit status of a
@@ -46,8 +57,21 @@ class Form1 {
 
     void cmbRegion_click(std::int16_t Index) { info.cmbRegion_click(Index); }
     void cmbRegion_Change(std::int16_t Index) { cmbRegion_click(Index); }
-    void cmdSet_Click(std::int16_t Index) { info.cmdSet_Click(Index); }
-    void cmdSetAll_Click(std::int16_t Index) { info.cmdSetAll_Click(Index); }
+    /// Set and Set All of the fields, see `GameInfo`.
+    void cmdSet_Click(std::int16_t Index);
+    void cmdSetAll_Click(std::int16_t Index);
+
+    /// Open the colour window and the manual text editor and return at once; this window is
+    /// disabled until the other one is closed.
+    void cmdEditColor_Click();
+    void cmdHC_Click();
+
+    /// The user closed the other window: it is unloaded and no longer there.
+    void Close_Color_Window();
+    void Close_Text_Editor();
+
+    /// Whether the layout in memory differs from the file as it was loaded or saved last.
+    bool Has_Unsaved_Changes() const;
 
     /// Saves the layout and loads the saved file. A failure is reported and leaves the file, the
     /// logo texture and `BrlytData` as they were.
@@ -92,6 +116,9 @@ class Form1 {
     Outcome Apply_Chosen_Looks();
     void Put_Textures_Back();
 
+    void Tell_Changes(std::u16string_view command, const std::function<void()>& run);
+    void Tell_What_Is_Loaded();
+
     int Run_Batch();
     void Take_Layout_Path(std::u16string_view piece);
     void Take_Option(std::u16string_view piece);
@@ -109,8 +136,9 @@ class Form1 {
     void Option_Pad(std::u16string_view value);
 
     Process process_;
-    Dialogs& dialogs_;
+    Desktop& desktop_;
     std::u16string BrlytPath;
     std::vector<Texture> replaced_;  ///< textures as they were before replacements not yet saved
+    std::string on_disk_;  ///< the layout as loaded, to tell unsaved changes; only with a window
     int status_ = Done;
 };

@@ -22,7 +22,7 @@ bool Answer_About(const std::u16string& command_line, const std::string& program
 }
 
 int Run_Batch_Mode(const std::u16string& command_line) {
-    ConsoleDialogs dialogs;
-    Form1 window({Program_Folder(), command_line}, dialogs);
+    NoDesktop desktop;
+    Form1 window({Program_Folder(), command_line}, desktop);
     return window.Form_Load().value_or(Form1::Done);
 }

@@ -52,8 +52,9 @@ void Form1::cmdSave_Click() {
         return;
     }
     replaced_.clear();
-    if (process_.command_line.empty()) dialogs_.Message(u"File Successfully Saved!");
+    if (process_.command_line.empty()) desktop_.Message(u"File Successfully Saved!");
     txtSrc_Change();
+    lblLastCommand.Set(u"Saved");
 }
 
 /// Everything that can be refused is refused before anything is changed. What fails later leaves
@@ -132,6 +133,6 @@ void Form1::Put_Textures_Back() {
     for (; !replaced_.empty(); replaced_.pop_back()) {
         const Texture& texture = replaced_.back();
         const auto failure = Replace_File(texture.path, texture.bytes, Durability::synced);
-        if (failure) dialogs_.Report(*failure);
+        if (failure) desktop_.Report(*failure);
     }
 }

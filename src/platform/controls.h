@@ -11,6 +11,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/desktop.h"
+
 /// What happens on an event: nothing until a handler is set.
 class Event {
  public:
@@ -114,6 +116,7 @@ class Form : public Control {
     bool Visible() const { return visible_; }
     bool Enabled() const { return enabled_; }
 
+    /// Shows the window and returns at once.
     void Show() { Change(visible_, true); }
     void Set_Enabled(bool enabled) { Change(enabled_, enabled); }
 
@@ -143,4 +146,36 @@ class FileList {
  private:
     std::string ending_;
     std::vector<std::u16string> names_;
+};
+
+/// A text that the user cannot edit.
+class Label : public Control {
+ public:
+    const std::u16string& Caption() const { return caption_; }
+
+    void Set(std::u16string_view caption) {
+        if (caption == caption_) return;
+        caption_ = caption;
+        Shown.Raise();
+    }
+
+ private:
+    std::u16string caption_;
+};
+
+/// A box of one colour that can be clicked.
+class ColorBox : public Control {
+ public:
+    Color Value() const { return color_; }
+
+    void Set(Color color) {
+        if (color == color_) return;
+        color_ = color;
+        Shown.Raise();
+    }
+
+ private:
+    static constexpr Color LightGrey = 0xE0E0E0;
+
+    Color color_ = LightGrey;
 };

@@ -4,14 +4,30 @@
 
 #include "platform/text.h"
 
-void ConsoleDialogs::Message(const std::u16string& /*text*/) {}
+void NoDesktop::Message(const std::u16string& /*text*/) {}
 
-void ConsoleDialogs::Report(const Failure& failure) {
+void NoDesktop::Report(const Failure& failure) {
     const std::string line =
         "bannersmith: " + To_Utf8(failure.subject) + ": " + failure.reason + "\n";
     std::fwrite(line.data(), 1, line.size(), stderr);
 }
 
-std::u16string ConsoleDialogs::Open_File(const std::u16string& /*filter*/) {
+std::u16string NoDesktop::Open_File(const std::u16string& /*filter*/) {
     return {};
+}
+
+std::u16string NoDesktop::Ask(const std::u16string& /*prompt*/, const std::u16string& /*title*/) {
+    return {};
+}
+
+Color NoDesktop::Choose_Color(Color color) {
+    return color;
+}
+
+float NoDesktop::Text_Width(std::u16string_view /*text*/, const Font& /*font*/) {
+    return 0;
+}
+
+std::u16string NoDesktop::In_Code_Page(std::u16string_view text) {
+    return std::u16string(text);
 }

@@ -1,0 +1,91 @@
+// What the main window tells about the layout and about the last command, beside the fields.
+#include <array>
+
+#include "gameinfo/boxes.h"
+#include "gameinfo/languages.h"
+#include "layout/mod_globals.h"
+#include "layout/text_box.h"
+#include "mainwindow/form1.h"
+#include "platform/files.h"
+#include "platform/text.h"
+
+namespace {
+
+constexpr std::array<std::u16string_view, 3> SetNames = {u"Name", u"Year", u"ESRB Rating"};
+constexpr std::array<std::u16string_view, 5> SetAllNames = {u"Name", u"Year", u"Players",
+                                                            u"System", u"ESRB Rating"};
+
+std::u16string Number(std::size_t number) { return From_Utf8(std::to_string(number)); }
+
+/// The codes of the languages that have a title, or whose wording the one text for all has.
+std::u16string Languages_Present() {
+    std::u16string codes;
+    for (const std::u16string_view code : LanguageList) {
+        if (code == NoLanguage) continue;
+        if (Read_Box(std::u16string(box_prefix::Title).append(code)).empty()) continue;
+        codes.append(codes.empty() ? u"" : u" ").append(code);
+    }
+    if (!codes.empty()) return codes;
+    return NoneRegion.empty() ? u"no titles" : u"one text for all languages";
+}
+
+/// The text boxes that the fields write, as far as their texts differ between two layouts.
+std::vector<std::string> Changed_Boxes(const std::string& before, const std::string& after) {
+    std::vector<std::string> changed;
+    const auto compare = [&](const std::string& name) {
+        if (Get_Text(before, name) != Get_Text(after, name)) changed.push_back(name);
+    };
+    for (const std::u16string_view prefix :
+         {box_prefix::Title, box_prefix::Year, box_prefix::Players, box_prefix::Rating}) {
+        for (const std::u16string_view code : LanguageList) {
+            compare(code == NoLanguage ? To_Utf8(Neutral_Box(prefix)) : To_Utf8(prefix) + To_Utf8(code));
+        }
+    }
+    compare(To_Utf8(SystemBox));
+    return changed;
+}
+
+std::u16string Describe(const std::vector<std::string>& boxes) {
+    if (boxes.empty()) return u"nothing changed";
+    std::u16string text = Number(boxes.size()) + (boxes.size() == 1 ? u" text" : u" texts") + u" changed:";
+    for (const std::string& name : boxes) text += u" " + From_Bytes(name);
+    return text;
+}
+
+}  // namespace
+
+void Form1::cmdSet_Click(std::int16_t Index) {
+    const auto field = static_cast<std::size_t>(Index);
+    Tell_Changes(field < SetNames.size() ? SetNames[field] : u"", [&] { info.cmdSet_Click(Index); });
+}
+
+void Form1::cmdSetAll_Click(std::int16_t Index) {
+    const auto field = static_cast<std::size_t>(Index);
+    Tell_Changes(field < SetAllNames.size() ? SetAllNames[field] : u"",
+                 [&] { info.cmdSetAll_Click(Index); });
+}
+
+/// Without a window nobody is told, so nothing is compared.
+void Form1::Tell_Changes(std::u16string_view command, const std::function<void()>& run) {
+    if (!form.Visible()) {
+        run();
+        return;
+    }
+    const std::string before = BrlytData;
+    run();
+    lblLastCommand.Set(std::u16string(command) + u": " + Describe(Changed_Boxes(before, BrlytData)));
+    Tell_What_Is_Loaded();
+}
+
+bool Form1::Has_Unsaved_Changes() const { return BrlytData != on_disk_; }
+
+void Form1::Tell_What_Is_Loaded() {
+    if (BrlytData.empty()) {
+        lblLoaded.Set(u"No layout loaded");
+        return;
+    }
+    const std::u16string path = With_Backslashes(txtSrc.Text());
+    lblLoaded.Set(path.substr(path.rfind(u'\\') + 1) + u"  |  " + Languages_Present() + u"  |  " +
+                  Number(BrlytData.size()) + u" bytes  |  " +
+                  (Has_Unsaved_Changes() ? u"unsaved changes" : u"saved"));
+}
