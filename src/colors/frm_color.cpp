@@ -17,8 +17,8 @@ namespace {
 
 constexpr std::u16string_view NotFound = u"NF";
 
-/// Where the colours of an element are read: in a material, or in that of the language which a selector
-/// of the main window shows.
+/// Where the colours of an element are read: in a material, or in that of the language which a
+/// selector of the main window shows.
 struct Source {
     Element element;
     std::u16string_view material;
@@ -78,10 +78,7 @@ std::u16string VbColor2RGB(Color color) {
 }
 
 frmColor::frmColor(MainWindowForColors main, std::u16string program_folder, Desktop& desktop)
-    : preview(desktop),
-      main_(main),
-      program_folder_(std::move(program_folder)),
-      desktop_(desktop) {
+    : preview(desktop), main_(main), program_folder_(std::move(program_folder)), desktop_(desktop) {
     cmbFileList.Click = [this] { cmbFileList_Click(); };
     for (TextBox* box : {&txtR, &txtG, &txtB}) box->Change = [this] { UpDatePicClr(); };
 }
@@ -167,7 +164,8 @@ void frmColor::cmdSaveScheme_Click() {
 
 frmColor::Boxes* frmColor::Find_Boxes(std::u16string_view key) {
     const auto found = std::find(ElementKeys.begin(), ElementKeys.end(), key);
-    return found == ElementKeys.end() ? nullptr : &pic[static_cast<std::size_t>(found - ElementKeys.begin())];
+    return found == ElementKeys.end() ? nullptr
+                                      : &pic[static_cast<std::size_t>(found - ElementKeys.begin())];
 }
 
 /// Each of the three texts runs `UpDatePicClr` as it changes.
@@ -224,4 +222,6 @@ void frmColor::Load_Scheme_Colors(std::u16string_view name) {
     MakePreview();
 }
 
-void frmColor::MakePreview() { preview.Draw(Colors(), main_.info); }
+void frmColor::MakePreview() {
+    preview.Draw(Colors(), main_.info);
+}

@@ -1,5 +1,5 @@
-// The colour window: the colours of a banner as pairs of boxes, read from a layout or a scheme, edited
-// box by box, saved as a scheme. It never writes a layout.
+// The colour window: the colours of a banner as pairs of boxes, read from a layout or a scheme,
+// edited box by box, saved as a scheme. It never writes a layout.
 #pragma once
 
 #include <array>
@@ -45,8 +45,8 @@ class frmColor {
     /// Enables the main window again and gives it this window's scheme selection.
     void Form_Unload();
 
-    /// Refills this window's scheme list and, unless `dont_Set`, the main window's. Nothing is selected
-    /// afterwards.
+    /// Refills this window's scheme list and, unless `dont_Set`, the main window's. Nothing is
+    /// selected afterwards.
     void RefreshColorList(bool dont_Set = false);
 
     /// Loads the selected scheme; the first entry reads the layout, and no selection does nothing.
@@ -62,12 +62,12 @@ class frmColor {
     /// Puts the swatch's colour into the box being edited, if there is one, and draws the preview.
     void cmdColor_Click();
 
-    /// Sets the swatch from the three numbers: fractions are rounded, to the even one in the middle,
-    /// and cut to 0 to 255. Texts that are no 16-bit number leave it as it is.
+    /// Sets the swatch from the three numbers: fractions are rounded, to the even one in the
+    /// middle, and cut to 0 to 255. Texts that are no 16-bit number leave it as it is.
     void UpDatePicClr();
 
-    /// Puts the scheme's colours into the boxes and draws the preview. A scheme that cannot be read is
-    /// reported and changes nothing.
+    /// Puts the scheme's colours into the boxes and draws the preview. A scheme that cannot be read
+    /// is reported and changes nothing.
     void Load_Scheme_Colors(std::u16string_view name);
 
     void MakePreview();

@@ -32,7 +32,7 @@ void Preview::Draw_Colors(const Scheme& colors) {
         shape.border = color(Element::PFLINE, 0);
     }
     lblT_PF.color = color(Element::T_PF, 1);
-    shpBack1.fill = shpBack1.border = color(Element::Back1, 0);
+    shpBack1.fill = color(Element::Back1, 0);
     lblT_Year.color = color(Element::T_Year, 1);
     lblT_Play.color = color(Element::T_Play, 1);
     lblT_ESRB.color = color(Element::T_ESRB, 1);
@@ -49,7 +49,7 @@ void Preview::Draw_Colors(const Scheme& colors) {
                                shpBackMask1.top, shpBackMask1.Bottom(), shpBackMask1.left,
                                shpBackMask1.Right());
 
-    shpBackMask2.fill = shpBackMask2.border = color(Element::BackMask2, 1);
+    shpBackMask2.fill = color(Element::BackMask2, 1);
     lblT_VCTitle.color = color(Element::T_VCTitle, 1);
     lblBack1[0].color = color(Element::Back1, 1);
     lblBack1[1].color = color(Element::Back2, 1);
@@ -74,8 +74,8 @@ void Preview::Show_Texts(const GameInfo& info) {
     }
 }
 
-/// The console's name keeps its right edge. A name that the measuring label cannot show gets room for
-/// characters that are wider than the ones that were measured.
+/// The console's name keeps its right edge. A name that the measuring label cannot show gets room
+/// for characters that are wider than the ones that were measured.
 void Preview::Show_Console(std::u16string_view text) {
     const std::u16string measured = desktop_.In_Code_Page(text);
     const float right = lbl_PFSize.Right();

@@ -74,6 +74,7 @@ void Form1::txtSrc_Change() {
     }
     if (!form.Visible()) return;
     on_disk_ = BrlytData;
+    lblLastCommand.Set(u"");
     Tell_What_Is_Loaded();
 }
 
@@ -88,9 +89,12 @@ void Form1::Load_Brlyt() {
 void Form1::cmdFileBrowse_Click() {
     const std::u16string file =
         desktop_.Open_File(u"Brlyt Files (*.brlyt)|*.brlyt|All Files (*.*)|*.*");
-    if (file.empty()) return;
+    if (!file.empty()) Take_File(file);
+}
+
+void Form1::Take_File(const std::u16string& file) {
     txtSrc.Set(file);
-    // Desktop answer with the platform's own separator, so the program's folder is looked for with
+    // Dialogs answer with the platform's own separator, so the program's folder is looked for with
     // either one behind it.
     const std::u16string& folder = process_.program_folder;
     for (const char16_t separator : {u'\\', u'/'}) {

@@ -52,8 +52,12 @@ class Form1 {
     /// one.
     void txtSrc_Change();
 
-    /// Lets the user choose a file. One below the program's folder is named relative to it.
+    /// Lets the user choose a file, and takes it.
     void cmdFileBrowse_Click();
+
+    /// Puts the full path of a file into the path box. One below the program's folder is named
+    /// relative to it.
+    void Take_File(const std::u16string& file);
 
     void cmbRegion_click(std::int16_t Index) { info.cmbRegion_click(Index); }
     void cmbRegion_Change(std::int16_t Index) { cmbRegion_click(Index); }

@@ -12,10 +12,12 @@
 namespace {
 
 constexpr std::array<std::u16string_view, 3> SetNames = {u"Name", u"Year", u"ESRB Rating"};
-constexpr std::array<std::u16string_view, 5> SetAllNames = {u"Name", u"Year", u"Players",
-                                                            u"System", u"ESRB Rating"};
+constexpr std::array<std::u16string_view, 5> SetAllNames = {u"Name", u"Year", u"Players", u"System",
+                                                            u"ESRB Rating"};
 
-std::u16string Number(std::size_t number) { return From_Utf8(std::to_string(number)); }
+std::u16string Number(std::size_t number) {
+    return From_Utf8(std::to_string(number));
+}
 
 /// The codes of the languages that have a title, or whose wording the one text for all has.
 std::u16string Languages_Present() {
@@ -38,7 +40,8 @@ std::vector<std::string> Changed_Boxes(const std::string& before, const std::str
     for (const std::u16string_view prefix :
          {box_prefix::Title, box_prefix::Year, box_prefix::Players, box_prefix::Rating}) {
         for (const std::u16string_view code : LanguageList) {
-            compare(code == NoLanguage ? To_Utf8(Neutral_Box(prefix)) : To_Utf8(prefix) + To_Utf8(code));
+            compare(code == NoLanguage ? To_Utf8(Neutral_Box(prefix))
+                                       : To_Utf8(prefix) + To_Utf8(code));
         }
     }
     compare(To_Utf8(SystemBox));
@@ -47,7 +50,8 @@ std::vector<std::string> Changed_Boxes(const std::string& before, const std::str
 
 std::u16string Describe(const std::vector<std::string>& boxes) {
     if (boxes.empty()) return u"nothing changed";
-    std::u16string text = Number(boxes.size()) + (boxes.size() == 1 ? u" text" : u" texts") + u" changed:";
+    std::u16string text =
+        Number(boxes.size()) + (boxes.size() == 1 ? u" text" : u" texts") + u" changed:";
     for (const std::string& name : boxes) text += u" " + From_Bytes(name);
     return text;
 }
@@ -56,7 +60,8 @@ std::u16string Describe(const std::vector<std::string>& boxes) {
 
 void Form1::cmdSet_Click(std::int16_t Index) {
     const auto field = static_cast<std::size_t>(Index);
-    Tell_Changes(field < SetNames.size() ? SetNames[field] : u"", [&] { info.cmdSet_Click(Index); });
+    Tell_Changes(field < SetNames.size() ? SetNames[field] : u"",
+                 [&] { info.cmdSet_Click(Index); });
 }
 
 void Form1::cmdSetAll_Click(std::int16_t Index) {
@@ -73,11 +78,14 @@ void Form1::Tell_Changes(std::u16string_view command, const std::function<void()
     }
     const std::string before = BrlytData;
     run();
-    lblLastCommand.Set(std::u16string(command) + u": " + Describe(Changed_Boxes(before, BrlytData)));
+    lblLastCommand.Set(std::u16string(command) + u": " +
+                       Describe(Changed_Boxes(before, BrlytData)));
     Tell_What_Is_Loaded();
 }
 
-bool Form1::Has_Unsaved_Changes() const { return BrlytData != on_disk_; }
+bool Form1::Has_Unsaved_Changes() const {
+    return BrlytData != on_disk_;
+}
 
 void Form1::Tell_What_Is_Loaded() {
     if (BrlytData.empty()) {

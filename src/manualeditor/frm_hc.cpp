@@ -24,7 +24,9 @@ void frmHC::Form_Unload() {
     info_.Show_System();
 }
 
-void frmHC::cmbHC_Click() { txtHC.Set(Read_Box(cmbHC.Selected())); }
+void frmHC::cmbHC_Click() {
+    txtHC.Set(Read_Box(cmbHC.Selected()));
+}
 
 void frmHC::cmdSet_Click() {
     if (cmbHC.Index() == DropDownList::NoSelection) return;

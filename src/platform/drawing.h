@@ -1,5 +1,5 @@
-// What is drawn on a window by code: filled rectangles, and shapes and labels that lie on it. Lengths
-// are in twips (1/1440 inch) from the window's upper left corner.
+// What is drawn on a window by code: filled rectangles, and shapes and labels that lie on it.
+// Lengths are in twips (1/1440 inch) from the window's upper left corner.
 #pragma once
 
 #include <string>
@@ -22,8 +22,8 @@ struct FilledRectangle {
     Color color = 0;
 };
 
-/// The surface of a window or picture box: keeps what was painted on it until it is cleared, so that a
-/// view can show it at any time and any scale.
+/// The surface of a window or picture box: keeps what was painted on it until it is cleared, so
+/// that a view can show it at any time and any scale.
 class Surface {
  public:
     /// Width and height of the surface's inner scale.
@@ -43,10 +43,11 @@ class Surface {
     std::vector<FilledRectangle> painted_;
 };
 
-/// A filled shape with a border.
+/// A filled shape with a border, `thickness` wide inside its area; 0 for none.
 struct Shape {
     Area area;
     bool rounded = false;
+    float thickness = 0;
     Color fill = 0;
     Color border = 0;
 };

@@ -1,0 +1,15 @@
+// Ties the toolkit's widgets to the controls of the windows: a widget shows its control's state, and
+// what a person does with it reaches the control. Showing a state never raises an event.
+//
+// A widget must live as long as its control is used, and the other way round.
+#pragma once
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+
+#include "platform/controls.h"
+
+void Bind(QLineEdit& edit, TextBox& box);
+void Bind(QComboBox& combo, DropDownList& list);
+void Bind(QLabel& shown, Label& label);

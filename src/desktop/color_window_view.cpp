@@ -1,0 +1,137 @@
+#include "desktop/color_window_view.h"
+
+#include <QComboBox>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "desktop/binding.h"
+#include "desktop/preview_view.h"
+#include "desktop/text.h"
+#include "desktop/widgets.h"
+
+namespace {
+
+constexpr std::array<std::u16string_view, 13> UpperRow = {
+    u"PFLINE", u"T_PF",  u"Shade", u"VCPic", u"VCPicBase", u"VCPicSha", u"Back0",
+    u"Back1",  u"Back2", u"Back3", u"Back4", u"BackMask1", u"BackMask2"};
+constexpr std::array<std::u16string_view, 6> LowerRow = {u"YearLine", u"PlayLine", u"T_VCTitle",
+                                                         u"T_Year",   u"T_Play",   u"T_ESRB"};
+
+}  // namespace
+
+ColorWindowView::ColorWindowView(frmColor& window, std::function<void()> closed, QWidget* parent)
+    : QDialog(parent), closed_(std::move(closed)) {
+    setWindowTitle("Bannersmith Colors");
+    setWindowFlag(Qt::WindowMaximizeButtonHint);
+    auto* upper = new QHBoxLayout;
+    for (const std::u16string_view key : UpperRow) upper->addWidget(Make_Element(window, key), 1);
+    auto* lower = new QHBoxLayout;
+    for (const std::u16string_view key : LowerRow) lower->addWidget(Make_Element(window, key), 1);
+    lower->addWidget(Make_Edit_Area(window), 7);
+    for (QHBoxLayout* row : {upper, lower}) row->setSpacing(3);
+
+    auto* rows = new QVBoxLayout(this);
+    rows->addLayout(Make_Bar(window));
+    rows->addLayout(upper);
+    rows->addLayout(lower);
+    rows->addWidget(new PreviewView(window.preview), 1);
+    window.form.Shown = [this, &window] { setVisible(window.form.Visible()); };
+    resize(sizeHint());
+    Restore_Position(*this, "color window");
+}
+
+QBoxLayout* ColorWindowView::Make_Bar(frmColor& window) {
+    auto* schemes = new QComboBox;
+    schemes->setMinimumWidth(150);
+    schemes->setToolTip("Colors of the layout file, or a saved scheme");
+    auto* path = new QLineEdit;
+    path->setToolTip("The layout file to read colors from");
+    auto* bar = new QHBoxLayout;
+    bar->addWidget(Make_Label("Select Sc&heme:", schemes));
+    bar->addWidget(schemes);
+    bar->addWidget(Make_Button("SaveScheme", "Save all colors as a scheme",
+                               QKeySequence::Save, [&window] { window.cmdSaveScheme_Click(); }));
+    bar->addSpacing(12);
+    bar->addWidget(Make_Label("Load From &brlyt:", path));
+    bar->addWidget(path, 1);
+    bar->addWidget(Make_Button("Get Color Scheme", "Read the colors of that layout file",
+                               QKeySequence("Ctrl+G"), [&window] { window.cmdGetScheme_Click(); }));
+    static_cast<QPushButton*>(bar->itemAt(2)->widget())->setShortcut(QKeySequence::Save);
+    static_cast<QPushButton*>(bar->itemAt(6)->widget())->setShortcut(QKeySequence("Ctrl+G"));
+    Bind(*schemes, window.cmbFileList);
+    Bind(*path, window.txtBannerPath);
+    return bar;
+}
+
+QWidget* ColorWindowView::Make_Element(frmColor& window, std::u16string_view key) {
+    constexpr QSize BoxSize(46, 18);
+    const auto element = static_cast<std::size_t>(
+        std::find(ElementKeys.begin(), ElementKeys.end(), key) - ElementKeys.begin());
+    auto* frame = new QGroupBox(Shown(key));
+    QFont small = frame->font();
+    small.setPointSizeF(small.pointSizeF() * 0.8);
+    frame->setFont(small);
+    auto* boxes = new QVBoxLayout(frame);
+    boxes->setContentsMargins(4, 2, 4, 4);
+    boxes->setSpacing(3);
+    for (std::int16_t index = 0; index < 2; ++index) {
+        auto* box = new ColorButton(window.pic[element][static_cast<std::size_t>(index)],
+                                    Shown(key) + " " + QString::number(index), BoxSize);
+        connect(box, &QAbstractButton::clicked, [&window, key, index] { window.pic_Click(key, index); });
+        boxes->addWidget(box);
+    }
+    boxes->addStretch();
+    return frame;
+}
+
+QWidget* ColorWindowView::Make_Edit_Area(frmColor& window) {
+    auto* area = new QWidget;
+    auto* instruction = new QLabel(
+        "Select a Color by Clicking on it and edit it to the right.  Click the \"Set\" button to "
+        "update.");
+    instruction->setWordWrap(true);
+    auto* numbers = new QHBoxLayout;
+    const std::array<std::pair<const char*, TextBox*>, 3> components = {
+        {{"Red", &window.txtR}, {"Green", &window.txtG}, {"Blue", &window.txtB}}};
+    for (const auto& [name, box] : components) {
+        auto* edit = new QLineEdit;
+        edit->setFixedWidth(edit->fontMetrics().horizontalAdvance("000000"));
+        edit->setAlignment(Qt::AlignRight);
+        edit->setAccessibleName(name);
+        edit->setToolTip(QString(name) + ", 0 to 255");
+        Bind(*edit, *box);
+        numbers->addWidget(edit);
+    }
+    auto* swatch = new ColorButton(window.picClr, "Color being edited", QSize(40, 24));
+    connect(swatch, &QAbstractButton::clicked, [&window] { window.picClr_Click(); });
+    numbers->addWidget(swatch, 1);
+    auto* edited = new QLabel;
+    edited->setMinimumWidth(edited->fontMetrics().horizontalAdvance("T_VCTitle 0"));
+    Bind(*edited, window.lblEdit);
+    numbers->addWidget(edited);
+    auto* set = Make_Button("Set", "Give the box being edited this color",
+                            QKeySequence("Ctrl+Return"), [&window] { window.cmdColor_Click(); });
+    set->setShortcut(QKeySequence("Ctrl+Return"));
+
+    auto* right = new QVBoxLayout;
+    right->addLayout(numbers);
+    right->addWidget(set);
+    auto* columns = new QHBoxLayout(area);
+    columns->setContentsMargins(6, 0, 0, 0);
+    columns->addWidget(instruction, 1);
+    columns->addLayout(right);
+    return area;
+}
+
+/// Escape, the close box and the window manager all end here.
+void ColorWindowView::done(int result) {
+    Store_Position(*this, "color window");
+    QDialog::done(result);
+    deleteLater();
+    if (closed_) std::exchange(closed_, {})();
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QMainWindow>
+
+#include "mainwindow/form1.h"
+
+class QBoxLayout;
+class QComboBox;
+class QGridLayout;
+
+/// The view of the main window, and of the windows that it opens. `window` must outlive it.
+class MainWindowView : public QMainWindow {
+ public:
+    explicit MainWindowView(Form1& window);
+
+ protected:
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+ private:
+    QWidget* Make_Game_Info();
+    QWidget* Make_File_Frame();
+    void Add_Field(QGridLayout& grid, int row, const QString& caption, TextBox& box, bool bold);
+    void Add_Selector(QGridLayout& grid, int row, const QString& field, DropDownList& list);
+    QBoxLayout* Make_Padding_Row();
+    void Make_Status_Line();
+    void Show_State();
+
+    Form1& window_;
+};

@@ -1,0 +1,73 @@
+#include "desktop/qt_desktop.h"
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QFileDialog>
+#include <QFontMetricsF>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QStringConverter>
+
+#include "colors/scheme.h"
+#include "desktop/fonts.h"
+#include "desktop/text.h"
+#include "desktop/widgets.h"
+
+namespace {
+
+void Show_Box(QMessageBox::Icon icon, const QString& text) {
+    QMessageBox box(icon, "Bannersmith", text, QMessageBox::Ok, QApplication::activeWindow());
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+/// "Text (*.a)|*.a|All (*.*)|*.*" as the toolkit has it: "Text (*.a);;All (*)".
+QString Toolkit_Filter(const std::u16string& filter) {
+    const QStringList parts = Shown(filter).split('|');
+    QStringList descriptions;
+    for (qsizetype i = 0; i < parts.size(); i += 2) descriptions << parts[i];
+    return descriptions.join(";;").replace("(*.*)", "(*)");
+}
+
+}  // namespace
+
+void QtDesktop::Message(const std::u16string& text) { Show_Box(QMessageBox::NoIcon, Shown(text)); }
+
+void QtDesktop::Report(const Failure& failure) {
+    NoDesktop().Report(failure);
+    Show_Box(QMessageBox::Critical,
+             Shown(failure.subject) + "\n\n" + QString::fromStdString(failure.reason));
+}
+
+std::u16string QtDesktop::Open_File(const std::u16string& filter) {
+    return Taken(QFileDialog::getOpenFileName(QApplication::activeWindow(), {}, {},
+                                              Toolkit_Filter(filter)));
+}
+
+std::u16string QtDesktop::Ask(const std::u16string& prompt, const std::u16string& title) {
+    return Taken(
+        QInputDialog::getText(QApplication::activeWindow(), Shown(title), Shown(prompt)));
+}
+
+Color QtDesktop::Choose_Color(Color color) {
+    const QColor chosen =
+        QColorDialog::getColor(Shown_Color(color), QApplication::activeWindow());
+    if (!chosen.isValid()) return color;
+    return Make_Color(static_cast<std::uint8_t>(chosen.red()),
+                      static_cast<std::uint8_t>(chosen.green()),
+                      static_cast<std::uint8_t>(chosen.blue()));
+}
+
+/// Measured large, so that hinting does not matter, with a little room for it.
+float QtDesktop::Text_Width(std::u16string_view text, const Font& font) {
+    constexpr double LargePoints = 72, TwipsPerInch = 1440, Room = 60;
+    const QFontMetricsF metrics(Japanese_Font(font.family, LargePoints));
+    const double inches = metrics.horizontalAdvance(Shown(text)) / metrics.fontDpi();
+    return static_cast<float>(inches * TwipsPerInch * font.points / LargePoints + Room);
+}
+
+std::u16string QtDesktop::In_Code_Page(std::u16string_view text) {
+    QStringEncoder encode(QStringEncoder::System);
+    QStringDecoder decode(QStringDecoder::System);
+    return Taken(decode(encode(Shown(text))));
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/desktop.h"
+
+/// The desktop through the toolkit: modal boxes over the active window. Failures also go to standard
+/// error.
+class QtDesktop : public Desktop {
+ public:
+    void Message(const std::u16string& text) override;
+    void Report(const Failure& failure) override;
+    std::u16string Open_File(const std::u16string& filter) override;
+    std::u16string Ask(const std::u16string& prompt, const std::u16string& title) override;
+    Color Choose_Color(Color color) override;
+    float Text_Width(std::u16string_view text, const Font& font) override;
+    std::u16string In_Code_Page(std::u16string_view text) override;
+};

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QString>
+#include <string>
+#include <string_view>
+
+/// The same code units as the toolkit's text, and back.
+inline QString Shown(std::u16string_view text) {
+    return QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+inline std::u16string Taken(const QString& text) { return text.toStdU16String(); }

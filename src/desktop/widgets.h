@@ -1,0 +1,60 @@
+// Small widgets that the toolkit has not, and what all windows share.
+#pragma once
+
+#include <QAbstractButton>
+#include <QColor>
+#include <QIcon>
+#include <QLabel>
+#include <QPushButton>
+#include <QWidget>
+#include <functional>
+
+#include "platform/controls.h"
+#include "platform/desktop.h"
+
+/// A colour of the windows as the toolkit has it.
+QColor Shown_Color(Color color);
+
+/// A box of one colour that can be clicked, also with the keyboard.
+class ColorButton : public QAbstractButton {
+ public:
+    /// `name` tells which colour it is. The button shows the colour of `box`, which must outlive it or
+    /// no longer change.
+    ColorButton(ColorBox& box, const QString& name, QSize size, QWidget* parent = nullptr);
+
+    QSize sizeHint() const override { return size_; }
+
+ protected:
+    void paintEvent(QPaintEvent* event) override;
+
+ private:
+    void Show_Color();
+
+    ColorBox& box_;
+    QString name_;
+    QSize size_;
+    QColor color_;
+};
+
+/// A label whose text ends in "..." where it does not fit; the tooltip has all of it.
+class ElidedLabel : public QLabel {
+ public:
+    void Show_Text(const QString& text);
+
+ protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+/// A button with a caption, a tooltip that also names its shortcut, and what it runs.
+QPushButton* Make_Button(const QString& caption, const QString& tooltip,
+                         const QKeySequence& shortcut, std::function<void()> run);
+
+/// A label that names `buddy`, to which its mnemonic leads.
+QLabel* Make_Label(const QString& caption, QWidget* buddy);
+
+/// The program's own icon, drawn at the usual sizes.
+QIcon Program_Icon();
+
+/// Restores where the window called `name` was at the end of the last run, and stores it.
+void Restore_Position(QWidget& window, const QString& name);
+void Store_Position(const QWidget& window, const QString& name);

@@ -1,0 +1,57 @@
+// bannersmith-window: the editor's windows. With command-line text it makes the same batch run as
+// bannersmith.
+#include <QApplication>
+#include <cstdlib>
+
+#include "desktop/main_window_view.h"
+#include "desktop/qt_desktop.h"
+#include "desktop/widgets.h"
+#include "mainwindow/run.h"
+#include "mainwindow/usage.h"
+#include "platform/files.h"
+
+namespace {
+
+int No_Display() {
+    NoDesktop().Report({u"display", "None can be reached, so the windows cannot be shown"});
+    return 1;
+}
+
+bool Display_Is_Named() {
+#ifdef __linux__
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+        const char* value = std::getenv(name);
+        if (value != nullptr && *value != '\0') return true;
+    }
+    return false;
+#else
+    return true;
+#endif
+}
+
+/// The toolkit ends with an abort when it cannot reach the display; this comes before that.
+void Leave_On_Fatal_Message(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
+    if (type == QtFatalMsg) std::_Exit(No_Display());
+    if (type == QtCriticalMsg) NoDesktop().Report({u"window", text.toStdString()});
+}
+
+int Run_Windows(int argc, char** argv) {
+    if (!Display_Is_Named()) return No_Display();
+    qInstallMessageHandler(Leave_On_Fatal_Message);
+    QApplication application(argc, argv);
+    QApplication::setApplicationName("Bannersmith");
+    QApplication::setWindowIcon(Program_Icon());
+    QtDesktop desktop;
+    Form1 window({Program_Folder(), {}}, desktop);
+    MainWindowView view(window);
+    const auto status = window.Form_Load();
+    return status ? *status : QApplication::exec();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const std::u16string command_line = Command_Line(argc, argv);
+    if (Answer_About(command_line, "bannersmith-window", Usage)) return 0;
+    return command_line.empty() ? Run_Windows(argc, argv) : Run_Batch_Mode(command_line);
+}

@@ -1,0 +1,124 @@
+// render-pictures PROGRAM-FOLDER OUTPUT-FOLDER light|dark: paints each window, with the first sample
+// loaded, and the preview in each scheme into PNG files. The scale is the toolkit's QT_SCALE_FACTOR.
+#include <QApplication>
+#include <QStyleFactory>
+#include <QTemporaryDir>
+#include <cstdio>
+#include <filesystem>
+
+#include "desktop/color_window_view.h"
+#include "desktop/main_window_view.h"
+#include "desktop/preview_view.h"
+#include "desktop/qt_desktop.h"
+#include "desktop/text.h"
+#include "desktop/text_editor_view.h"
+#include "desktop/widgets.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+QPalette Dark_Palette() {
+    QPalette palette;
+    const QColor window(0x2B, 0x2D, 0x30), base(0x1E, 0x1F, 0x22), text(0xE6, 0xE6, 0xE6);
+    palette.setColor(QPalette::Window, window);
+    palette.setColor(QPalette::Button, window);
+    palette.setColor(QPalette::Base, base);
+    palette.setColor(QPalette::AlternateBase, window);
+    palette.setColor(QPalette::ToolTipBase, base);
+    for (const auto role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text,
+                            QPalette::ToolTipText, QPalette::BrightText}) {
+        palette.setColor(role, text);
+    }
+    palette.setColor(QPalette::Highlight, QColor(0x3A, 0x7B, 0xD5));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    return palette;
+}
+
+class Painter {
+ public:
+    Painter(const fs::path& output, QString theme) : output_(output), theme_(std::move(theme)) {
+        fs::create_directories(output);
+    }
+
+    void Save(QWidget& widget, const QString& name) const {
+        const QString file = QString("%1-%2-%3x.png").arg(name, theme_).arg(widget.devicePixelRatioF());
+        if (!widget.grab().save(QString::fromStdString((output_ / file.toStdString()).string()))) {
+            std::fprintf(stderr, "render-pictures: %s cannot be written\n", qPrintable(file));
+            std::exit(1);
+        }
+    }
+
+ private:
+    fs::path output_;
+    QString theme_;
+};
+
+/// The view of type `View` that was made last.
+template <typename View>
+View& Find_View() {
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        auto* view = dynamic_cast<View*>(widget);
+        if (view != nullptr && view->isVisible()) return *view;
+    }
+    std::fputs("render-pictures: a window was not shown\n", stderr);
+    std::exit(1);
+}
+
+void Render(const std::u16string& program_folder, const Painter& painter) {
+    QtDesktop desktop;
+    Form1 window({program_folder, {}}, desktop);
+    MainWindowView view(window);
+    window.Form_Load();
+    window.info.txtYear.Set(u"1994");
+    window.cmdSetAll_Click(1);
+    QApplication::processEvents();
+    painter.Save(view, "main-window");
+
+    window.info.cmbRegion[GameInfo::title].Pick(6);
+    window.info.cmbRegion[GameInfo::year].Pick(6);
+    window.info.cmbRegion[GameInfo::players].Pick(6);
+    window.cmdHC_Click();
+    window.TextEditor->cmbHC.Pick(28);
+    window.TextEditor->cmbHC.Pick(27);
+    auto& editor = Find_View<TextEditorView>();
+    QApplication::processEvents();
+    painter.Save(editor, "text-editor");
+    editor.close();
+    QApplication::processEvents();
+    painter.Save(view, "main-window-japanese");
+
+    window.cmdEditColor_Click();
+    window.ColorWindow->pic_Click(u"T_VCTitle", 1);
+    auto& colors = Find_View<ColorWindowView>();
+    QApplication::processEvents();
+    painter.Save(colors, "color-window");
+    PreviewView preview(window.ColorWindow->preview);
+    preview.resize(preview.sizeHint());
+    for (int scheme = 1; scheme < window.ColorWindow->cmbFileList.Count(); ++scheme) {
+        window.ColorWindow->cmbFileList.Pick(scheme);
+        painter.Save(preview, "preview-" + Shown(window.ColorWindow->cmbFileList.Selected()).toLower().replace(' ', '-'));
+    }
+    colors.close();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    if (argc != 4) {
+        std::fputs("usage: render-pictures PROGRAM-FOLDER OUTPUT-FOLDER light|dark\n", stderr);
+        return 1;
+    }
+    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    if (QString(argv[3]) == "dark") QApplication::setPalette(Dark_Palette());
+    // Neither the program folder nor the positions that a person's windows had may matter or change.
+    const QTemporaryDir copy;
+    qputenv("XDG_CONFIG_HOME", copy.path().toUtf8());
+    for (const char* folder : {"cfgs", "samples", "schemes", "logos"}) {
+        fs::copy(fs::path(argv[1]) / folder, fs::path(copy.path().toStdString()) / folder,
+                 fs::copy_options::recursive);
+    }
+    Render(Taken(copy.path()), Painter(argv[2], argv[3]));
+    return 0;
+}
