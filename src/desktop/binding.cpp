@@ -9,15 +9,17 @@ void Bind(QLineEdit& edit, TextBox& box) {
     edit.setMaxLength(LongestText);
     // Not while the person types: setting a text moves the cursor.
     box.Shown = [&edit, &box] {
-        if (Taken(edit.text()) != box.Text()) edit.setText(Shown(box.Text()));
-        edit.setCursorPosition(edit.hasFocus() ? edit.cursorPosition() : 0);
+        if (Taken(edit.text()) == box.Text()) return;
+        edit.setText(Shown(box.Text()));
+        edit.setCursorPosition(0);  // so that a long text shows its beginning
     };
     box.Shown.Raise();
-    QObject::connect(&edit, &QLineEdit::textEdited, [&box](const QString& text) { box.Set(Taken(text)); });
+    QObject::connect(&edit, &QLineEdit::textEdited,
+                     [&box](const QString& text) { box.Set(Taken(text)); });
 }
 
-/// A list changes by being emptied or by an entry at its end, so the entries that the widget has are
-/// right as long as it has no more than the list.
+/// A list changes by being emptied or by an entry at its end, so the entries that the widget has
+/// are right as long as it has no more than the list.
 void Bind(QComboBox& combo, DropDownList& list) {
     list.Shown = [&combo, &list] {
         const QSignalBlocker quiet(combo);

@@ -1,5 +1,5 @@
-// Ties the toolkit's widgets to the controls of the windows: a widget shows its control's state, and
-// what a person does with it reaches the control. Showing a state never raises an event.
+// Ties the toolkit's widgets to the controls of the windows: a widget shows its control's state,
+// and what a person does with it reaches the control. Showing a state never raises an event.
 //
 // A widget must live as long as its control is used, and the other way round.
 #pragma once

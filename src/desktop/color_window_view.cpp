@@ -54,8 +54,8 @@ QBoxLayout* ColorWindowView::Make_Bar(frmColor& window) {
     auto* bar = new QHBoxLayout;
     bar->addWidget(Make_Label("Select Sc&heme:", schemes));
     bar->addWidget(schemes);
-    bar->addWidget(Make_Button("SaveScheme", "Save all colors as a scheme",
-                               QKeySequence::Save, [&window] { window.cmdSaveScheme_Click(); }));
+    bar->addWidget(Make_Button("SaveScheme", "Save all colors as a scheme", QKeySequence::Save,
+                               [&window] { window.cmdSaveScheme_Click(); }));
     bar->addSpacing(12);
     bar->addWidget(Make_Label("Load From &brlyt:", path));
     bar->addWidget(path, 1);
@@ -82,7 +82,8 @@ QWidget* ColorWindowView::Make_Element(frmColor& window, std::u16string_view key
     for (std::int16_t index = 0; index < 2; ++index) {
         auto* box = new ColorButton(window.pic[element][static_cast<std::size_t>(index)],
                                     Shown(key) + " " + QString::number(index), BoxSize);
-        connect(box, &QAbstractButton::clicked, [&window, key, index] { window.pic_Click(key, index); });
+        connect(box, &QAbstractButton::clicked,
+                [&window, key, index] { window.pic_Click(key, index); });
         boxes->addWidget(box);
     }
     boxes->addStretch();

@@ -7,8 +7,8 @@
 
 class QBoxLayout;
 
-/// The view of the colour window. `closed` runs once, when the user has closed the window; the unit may
-/// be gone afterwards, and the view deletes itself.
+/// The view of the colour window. `closed` runs once, when the user has closed the window; the unit
+/// may be gone afterwards, and the view deletes itself.
 class ColorWindowView : public QDialog {
  public:
     ColorWindowView(frmColor& window, std::function<void()> closed, QWidget* parent);

@@ -3,6 +3,6 @@
 #include <QFont>
 #include <string_view>
 
-/// A font of the family called `family` where it is installed, else of the first installed family with
-/// Japanese characters: the proportional gothics in front, the toolkit's own choice last.
+/// A font of the family called `family` where it is installed, else of the first installed family
+/// with Japanese characters: the proportional gothics in front, the toolkit's own choice last.
 QFont Japanese_Font(std::u16string_view family, double points);

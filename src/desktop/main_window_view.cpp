@@ -54,10 +54,12 @@ MainWindowView::MainWindowView(Form1& window) : window_(window) {
 
     window_.form.Shown = [this] { Show_State(); };
     window_.ColorWindowMade = [this] {
-        new ColorWindowView(*window_.ColorWindow, [this] { window_.Close_Color_Window(); }, this);
+        new ColorWindowView(
+            *window_.ColorWindow, [this] { window_.Close_Color_Window(); }, this);
     };
     window_.TextEditorMade = [this] {
-        new TextEditorView(*window_.TextEditor, [this] { window_.Close_Text_Editor(); }, this);
+        new TextEditorView(
+            *window_.TextEditor, [this] { window_.Close_Text_Editor(); }, this);
     };
     Restore_Position(*this, "main window");
 }
@@ -74,13 +76,15 @@ QWidget* MainWindowView::Make_Game_Info() {
     auto* grid = new QGridLayout(frame);
     const auto button = [this, grid](int row, int column, const char* name, const QString& tooltip,
                                      auto command) {
-        grid->addWidget(Make_Button(name, tooltip, {}, [this, command] { command(window_); }), row, column);
+        grid->addWidget(Make_Button(name, tooltip, {}, [this, command] { command(window_); }), row,
+                        column);
     };
 
     Add_Field(*grid, 0, "&Name:", info.txtName, true);
     Add_Selector(*grid, 0, "name", info.cmbRegion[GameInfo::title]);
     button(0, set, "Set", "Write the name for this language", [](Form1& w) { w.cmdSet_Click(0); });
-    button(0, set_all, "Set All", "Write the name for every language", [](Form1& w) { w.cmdSetAll_Click(0); });
+    button(0, set_all, "Set All", "Write the name for every language",
+           [](Form1& w) { w.cmdSetAll_Click(0); });
 
     Add_Field(*grid, 1, "S&ystem:", info.txtSystem, true);
     button(1, set, "Set", "Write the console's name", [](Form1& w) { w.cmdSetAll_Click(3); });
@@ -88,7 +92,8 @@ QWidget* MainWindowView::Make_Game_Info() {
     Add_Field(*grid, 2, "Y&ear:", info.txtYear, true);
     Add_Selector(*grid, 2, "year", info.cmbRegion[GameInfo::year]);
     button(2, set, "Set", "Write the year for this language", [](Form1& w) { w.cmdSet_Click(1); });
-    button(2, set_all, "Set All", "Write the year for every language", [](Form1& w) { w.cmdSetAll_Click(1); });
+    button(2, set_all, "Set All", "Write the year for every language",
+           [](Form1& w) { w.cmdSetAll_Click(1); });
 
     auto* players = new QHBoxLayout;
     auto* narrow = new QLineEdit;
@@ -108,35 +113,42 @@ QWidget* MainWindowView::Make_Game_Info() {
 
     Add_Field(*grid, 4, "ESRB &Rating:", info.txtESRB, false);
     Add_Selector(*grid, 4, "rating", info.cmbRegion[GameInfo::rating]);
-    button(4, set, "Set", "Write the rating for this language", [](Form1& w) { w.cmdSet_Click(2); });
-    button(4, set_all, "Set All", "Write the rating for every language", [](Form1& w) { w.cmdSetAll_Click(4); });
+    button(4, set, "Set", "Write the rating for this language",
+           [](Form1& w) { w.cmdSet_Click(2); });
+    button(4, set_all, "Set All", "Write the rating for every language",
+           [](Form1& w) { w.cmdSetAll_Click(4); });
 
-    auto* hardcore = Make_Button("Hardcore Manual Text Editor", "Show and replace the text of any text box",
-                                 QKeySequence("Ctrl+T"), [this] { window_.cmdHC_Click(); });
+    auto* hardcore =
+        Make_Button("Hardcore Manual Text Editor", "Show and replace the text of any text box",
+                    QKeySequence("Ctrl+T"), [this] { window_.cmdHC_Click(); });
     hardcore->setShortcut(QKeySequence("Ctrl+T"));
     grid->addWidget(hardcore, 5, 0, 1, columns);
     grid->addLayout(Make_Padding_Row(), 6, 0, 1, columns);
 
     auto* schemes = Make_List(window_.cmbFileList, "The color scheme that the next save applies");
-    auto* edit_colors = Make_Button("Color Editor And Preview", "Edit colors and see the banner",
-                                    QKeySequence("Ctrl+E"), [this] { window_.cmdEditColor_Click(); });
+    auto* edit_colors =
+        Make_Button("Color Editor And Preview", "Edit colors and see the banner",
+                    QKeySequence("Ctrl+E"), [this] { window_.cmdEditColor_Click(); });
     edit_colors->setShortcut(QKeySequence("Ctrl+E"));
     grid->addWidget(Make_Label("&Colors:", schemes), 7, caption);
     grid->addWidget(schemes, 7, field);
     grid->addWidget(edit_colors, 7, selector, 1, columns - selector);
 
-    auto* logos = Make_List(window_.cmbLogo, "The logo texture that the next save puts into the banner");
+    auto* logos =
+        Make_List(window_.cmbLogo, "The logo texture that the next save puts into the banner");
     grid->addWidget(Make_Label("&Logo:", logos), 8, caption);
     grid->addWidget(logos, 8, field);
 
-    auto* force = Make_List(window_.cmbForce, "The language that the next save lets another one answer to");
+    auto* force =
+        Make_List(window_.cmbForce, "The language that the next save lets another one answer to");
     grid->addWidget(Make_Label("Region &Force:", force), 9, caption);
     grid->addWidget(force, 9, field, Qt::AlignLeft);
     grid->setColumnStretch(field, 1);
     return frame;
 }
 
-void MainWindowView::Add_Field(QGridLayout& grid, int row, const QString& name, TextBox& box, bool bold) {
+void MainWindowView::Add_Field(QGridLayout& grid, int row, const QString& name, TextBox& box,
+                               bool bold) {
     auto* edit = new QLineEdit;
     QFont font = Japanese_Font(ConsoleFont, FieldPoints);
     font.setBold(bold);
@@ -147,7 +159,8 @@ void MainWindowView::Add_Field(QGridLayout& grid, int row, const QString& name, 
     grid.addWidget(edit, row, field);
 }
 
-void MainWindowView::Add_Selector(QGridLayout& grid, int row, const QString& name, DropDownList& list) {
+void MainWindowView::Add_Selector(QGridLayout& grid, int row, const QString& name,
+                                  DropDownList& list) {
     auto* combo = Make_List(list, "The language of the " + name + " shown");
     combo->setAccessibleName("Language of the " + name);
     grid.addWidget(combo, row, selector);
@@ -211,7 +224,8 @@ void MainWindowView::closeEvent(QCloseEvent* event) {
 
 void MainWindowView::dragEnterEvent(QDragEnterEvent* event) {
     const QList<QUrl> files = event->mimeData()->urls();
-    if (window_.form.Enabled() && files.size() == 1 && files[0].isLocalFile()) event->acceptProposedAction();
+    if (window_.form.Enabled() && files.size() == 1 && files[0].isLocalFile())
+        event->acceptProposedAction();
 }
 
 void MainWindowView::dropEvent(QDropEvent* event) {

@@ -35,7 +35,8 @@ class TwipPainter {
         const QRectF middle = QRectF(outer).adjusted(pen / 2, pen / 2, -pen / 2, -pen / 2);
         const double corner = shape.rounded ? RoundedCorner * scale_ : 0;
         painter_.setRenderHint(QPainter::Antialiasing, shape.rounded);
-        painter_.setPen(QPen(Shown_Color(shape.border), pen, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter_.setPen(
+            QPen(Shown_Color(shape.border), pen, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
         painter_.setBrush(Shown_Color(shape.fill));
         painter_.drawRoundedRect(middle, corner, corner);
         painter_.setRenderHint(QPainter::Antialiasing, false);

@@ -4,8 +4,8 @@
 
 #include "colors/preview.h"
 
-/// Paints a preview at the scale that fits the widget, in the middle of its width. Its upper edge is
-/// `Top` twips from that of the window that the preview is laid out for.
+/// Paints a preview at the scale that fits the widget, in the middle of its width. Its upper edge
+/// is `Top` twips from that of the window that the preview is laid out for.
 class PreviewView : public QWidget {
  public:
     static constexpr float Top = 2400;

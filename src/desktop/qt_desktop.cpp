@@ -31,7 +31,9 @@ QString Toolkit_Filter(const std::u16string& filter) {
 
 }  // namespace
 
-void QtDesktop::Message(const std::u16string& text) { Show_Box(QMessageBox::NoIcon, Shown(text)); }
+void QtDesktop::Message(const std::u16string& text) {
+    Show_Box(QMessageBox::NoIcon, Shown(text));
+}
 
 void QtDesktop::Report(const Failure& failure) {
     NoDesktop().Report(failure);
@@ -40,18 +42,16 @@ void QtDesktop::Report(const Failure& failure) {
 }
 
 std::u16string QtDesktop::Open_File(const std::u16string& filter) {
-    return Taken(QFileDialog::getOpenFileName(QApplication::activeWindow(), {}, {},
-                                              Toolkit_Filter(filter)));
+    return Taken(
+        QFileDialog::getOpenFileName(QApplication::activeWindow(), {}, {}, Toolkit_Filter(filter)));
 }
 
 std::u16string QtDesktop::Ask(const std::u16string& prompt, const std::u16string& title) {
-    return Taken(
-        QInputDialog::getText(QApplication::activeWindow(), Shown(title), Shown(prompt)));
+    return Taken(QInputDialog::getText(QApplication::activeWindow(), Shown(title), Shown(prompt)));
 }
 
 Color QtDesktop::Choose_Color(Color color) {
-    const QColor chosen =
-        QColorDialog::getColor(Shown_Color(color), QApplication::activeWindow());
+    const QColor chosen = QColorDialog::getColor(Shown_Color(color), QApplication::activeWindow());
     if (!chosen.isValid()) return color;
     return Make_Color(static_cast<std::uint8_t>(chosen.red()),
                       static_cast<std::uint8_t>(chosen.green()),

@@ -2,8 +2,8 @@
 
 #include "platform/desktop.h"
 
-/// The desktop through the toolkit: modal boxes over the active window. Failures also go to standard
-/// error.
+/// The desktop through the toolkit: modal boxes over the active window. Failures also go to
+/// standard error.
 class QtDesktop : public Desktop {
  public:
     void Message(const std::u16string& text) override;

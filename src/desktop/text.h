@@ -9,4 +9,6 @@ inline QString Shown(std::u16string_view text) {
     return QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-inline std::u16string Taken(const QString& text) { return text.toStdU16String(); }
+inline std::u16string Taken(const QString& text) {
+    return text.toStdU16String();
+}

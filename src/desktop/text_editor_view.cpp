@@ -25,8 +25,8 @@ TextEditorView::TextEditorView(frmHC& editor, std::function<void()> closed, QWid
     grid->addWidget(names, 0, 1);
     grid->addWidget(Make_Label("&Value:", value), 0, 2);
     grid->addWidget(value, 0, 3);
-    auto* set = Make_Button("Set", "Write the text into the chosen box", QKeySequence("Ctrl+Return"),
-                            [&editor] { editor.cmdSet_Click(); });
+    auto* set = Make_Button("Set", "Write the text into the chosen box",
+                            QKeySequence("Ctrl+Return"), [&editor] { editor.cmdSet_Click(); });
     set->setShortcut(QKeySequence("Ctrl+Return"));
     grid->addWidget(set, 1, 0, 1, 4);
     grid->setColumnStretch(1, 2);

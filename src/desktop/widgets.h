@@ -18,8 +18,8 @@ QColor Shown_Color(Color color);
 /// A box of one colour that can be clicked, also with the keyboard.
 class ColorButton : public QAbstractButton {
  public:
-    /// `name` tells which colour it is. The button shows the colour of `box`, which must outlive it or
-    /// no longer change.
+    /// `name` tells which colour it is. The button shows the colour of `box`, which must outlive it
+    /// or no longer change.
     ColorButton(ColorBox& box, const QString& name, QSize size, QWidget* parent = nullptr);
 
     QSize sizeHint() const override { return size_; }

@@ -1,5 +1,6 @@
-// render-pictures PROGRAM-FOLDER OUTPUT-FOLDER light|dark: paints each window, with the first sample
-// loaded, and the preview in each scheme into PNG files. The scale is the toolkit's QT_SCALE_FACTOR.
+// render-pictures PROGRAM-FOLDER OUTPUT-FOLDER light|dark: paints each window, with the first
+// sample loaded, and the preview in each scheme into PNG files. The scale is the toolkit's
+// QT_SCALE_FACTOR.
 #include <QApplication>
 #include <QStyleFactory>
 #include <QTemporaryDir>
@@ -42,7 +43,8 @@ class Painter {
     }
 
     void Save(QWidget& widget, const QString& name) const {
-        const QString file = QString("%1-%2-%3x.png").arg(name, theme_).arg(widget.devicePixelRatioF());
+        const QString file =
+            QString("%1-%2-%3x.png").arg(name, theme_).arg(widget.devicePixelRatioF());
         if (!widget.grab().save(QString::fromStdString((output_ / file.toStdString()).string()))) {
             std::fprintf(stderr, "render-pictures: %s cannot be written\n", qPrintable(file));
             std::exit(1);
@@ -97,7 +99,10 @@ void Render(const std::u16string& program_folder, const Painter& painter) {
     preview.resize(preview.sizeHint());
     for (int scheme = 1; scheme < window.ColorWindow->cmbFileList.Count(); ++scheme) {
         window.ColorWindow->cmbFileList.Pick(scheme);
-        painter.Save(preview, "preview-" + Shown(window.ColorWindow->cmbFileList.Selected()).toLower().replace(' ', '-'));
+        painter.Save(
+            preview,
+            "preview-" +
+                Shown(window.ColorWindow->cmbFileList.Selected()).toLower().replace(' ', '-'));
     }
     colors.close();
 }
@@ -112,7 +117,8 @@ int main(int argc, char** argv) {
     }
     QApplication::setStyle(QStyleFactory::create("Fusion"));
     if (QString(argv[3]) == "dark") QApplication::setPalette(Dark_Palette());
-    // Neither the program folder nor the positions that a person's windows had may matter or change.
+    // Neither the program folder nor the positions that a person's windows had may matter or
+    // change.
     const QTemporaryDir copy;
     qputenv("XDG_CONFIG_HOME", copy.path().toUtf8());
     for (const char* folder : {"cfgs", "samples", "schemes", "logos"}) {

@@ -1,0 +1,257 @@
+// The real widgets, shown offscreen and worked with as a person does.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDropEvent>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QPushButton>
+#include <QTest>
+#include <memory>
+
+#include "desktop/color_window_view.h"
+#include "desktop/main_window_view.h"
+#include "desktop/preview_view.h"
+#include "desktop/text.h"
+#include "desktop/text_editor_view.h"
+#include "desktop/widgets.h"
+#include "layout/mod_globals.h"
+#include "samples/banners.h"
+#include "support.h"
+
+namespace {
+
+constexpr char Layout[] = "b/arc/blyt/banner.brlyt";
+constexpr char Texture[] = "b/arc/timg/my_BackX.tpl";
+
+class Widgets : public testing::Test {
+ public:
+    Widgets() {
+        BrlytData.clear();
+        Fill(folder);
+        window = std::make_unique<Form1>(Process{folder.Text(), u""}, desktop);
+        view = std::make_unique<MainWindowView>(*window);
+        window->Form_Load();
+        view->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(view.get()));
+    }
+    ~Widgets() override {
+        if (window->ColorWindow) Find<ColorWindowView>()->close();
+        if (window->TextEditor) Find<TextEditorView>()->close();
+    }
+
+    static void Fill(const TempFolder& folder) {
+        folder.Write("cfgs/vcinfopath.cfg", "\\b\\arc\\blyt\\banner.brlyt\r\n");
+        folder.Write(Layout, German_Japanese_Banner());
+        folder.Write(Texture, "old");
+        folder.Write("logos/New.tpl", "new");
+        folder.Write("schemes/Mine.vccs", Format_Scheme(Shipped_Schemes()[2].scheme));
+    }
+
+    template <typename View>
+    static View* Find() {
+        for (QWidget* widget : QApplication::topLevelWidgets()) {
+            auto* found = dynamic_cast<View*>(widget);
+            if (found != nullptr && found->isVisible()) return found;
+        }
+        return nullptr;
+    }
+
+    template <typename Widget>
+    static Widget& Named(QWidget& parent, const QString& name) {
+        for (Widget* widget : parent.findChildren<Widget*>()) {
+            if (widget->accessibleName() == name) return *widget;
+        }
+        throw std::runtime_error("no widget is called " + name.toStdString());
+    }
+
+    static void Type(QLineEdit& edit, const QString& text) {
+        edit.setFocus();
+        edit.selectAll();
+        QTest::keyClicks(&edit, text);
+    }
+
+    static void Choose(QComboBox& list, const QString& entry) {
+        list.setFocus();
+        QTest::keyClick(&list, Qt::Key_Home);
+        for (int i = 0; i <= list.count() && list.currentText() != entry; ++i) QTest::keyClick(&list, Qt::Key_Down);
+        EXPECT_EQ(list.currentText(), entry);
+    }
+
+    static void Press(QWidget& parent, const QString& tooltip) {
+        for (QAbstractButton* button : parent.findChildren<QAbstractButton*>()) {
+            if (!button->toolTip().startsWith(tooltip)) continue;
+            QTest::mouseClick(button, Qt::LeftButton);
+            return;
+        }
+        FAIL() << "no button does " << tooltip.toStdString();
+    }
+
+    TempFolder folder;
+    TestDesktop desktop;
+    std::unique_ptr<Form1> window;
+    std::unique_ptr<MainWindowView> view;
+};
+
+TEST_F(Widgets, WriteTheSameBytesAsABatchRun) {
+    EXPECT_EQ(Named<QLineEdit>(*view, "Name").text(), "Der Sternenbote");
+    Type(Named<QLineEdit>(*view, "Name"), "All");
+    Press(*view, "Write the name for every");
+    Choose(Named<QComboBox>(*view, "Language of the name"), "JPN");
+    EXPECT_EQ(Named<QLineEdit>(*view, "Name").text(), "All");
+    Type(Named<QLineEdit>(*view, "Name"), "One^Two");
+    Press(*view, "Write the name for this");
+    Type(Named<QLineEdit>(*view, "Year"), "2001");
+    Press(*view, "Write the year for every");
+    Type(Named<QLineEdit>(*view, "Players"), "4");
+    Press(*view, "Write the number of players");
+    Type(Named<QLineEdit>(*view, "System"), "MEGA");
+    Press(*view, "Write the console");
+    Type(Named<QLineEdit>(*view, "ESRB Rating"), "T");
+    Press(*view, "Write the rating for this");
+    EXPECT_TRUE(view->isWindowModified());
+    Choose(Named<QComboBox>(*view, "Colors"), "Mine");
+    Choose(Named<QComboBox>(*view, "Logo"), "New.tpl");
+    Choose(Named<QComboBox>(*view, "Region Force"), "NONE");
+    Type(Named<QLineEdit>(*view, "Padding (fixes corrupted images)"), "+16");
+    QTest::keyClick(view.get(), Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(desktop.messages, std::vector<std::u16string>{u"File Successfully Saved!"});
+    EXPECT_FALSE(view->isWindowModified());
+
+    const TempFolder batch;
+    Fill(batch);
+    NoDesktop none;
+    Form1 run({batch.Text(), u"-TITLE All -T_JPN One^Two -YEAR 2001 -PLAY 4 -SYSTEM MEGA -E_GER T "
+                             u"-COLOR Mine -LOGO New.tpl -PAD +16"}, none);
+    EXPECT_EQ(run.Form_Load(), Form1::Done);
+    EXPECT_EQ(Hex(folder.Read(Layout)), Hex(batch.Read(Layout)));
+    EXPECT_EQ(folder.Read(Texture), "new");
+}
+
+TEST_F(Widgets, TakePathsKeyByKey) {
+    const QString path = "\\b\\arc\\blyt\\banner.brlyt";
+    QLineEdit& edit = Named<QLineEdit>(*view, "File");
+    EXPECT_EQ(edit.text(), path);
+    Type(edit, path + "x");
+    EXPECT_EQ(BrlytData, "");
+    QTest::keyClick(&edit, Qt::Key_Backspace);
+    EXPECT_EQ(BrlytData, German_Japanese_Banner());
+    Type(edit, "\\b\\");
+    Type(edit, "/dev/null");
+    EXPECT_TRUE(desktop.failures.empty() && desktop.messages.empty());
+
+    QMimeData dropped;
+    dropped.setUrls({QUrl::fromLocalFile(Shown(folder.Text()) + "/" + Layout)});
+    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &dropped, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(view.get(), &enter);
+    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &dropped, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(view.get(), &drop);
+    EXPECT_EQ(edit.text(), QString("\\") + Layout);
+    EXPECT_EQ(BrlytData, German_Japanese_Banner());
+}
+
+TEST_F(Widgets, KeepTheMainWindowBehindTheOthers) {
+    for (int way = 0; way < 2; ++way) {
+        Press(*view, "Edit colors");
+        auto* colors = Find<ColorWindowView>();
+        ASSERT_TRUE(colors);
+        EXPECT_FALSE(view->centralWidget()->isEnabled());
+        EXPECT_TRUE(colors->isEnabled());
+        EXPECT_FALSE(view->close());
+        Choose(Named<QComboBox>(*colors, "Select Scheme"), way ? "Current Brlyt" : "Mine");
+        if (way) {
+            colors->close();
+        } else {
+            QTest::keyClick(colors, Qt::Key_Escape);
+        }
+        EXPECT_TRUE(view->centralWidget()->isEnabled());
+        EXPECT_EQ(Named<QComboBox>(*view, "Colors").currentText(), way ? "Current Brlyt" : "Mine");
+        EXPECT_FALSE(window->ColorWindow);
+    }
+    Press(*view, "Show and replace");
+    auto* editor = Find<TextEditorView>();
+    ASSERT_TRUE(editor);
+    EXPECT_EQ(editor->windowTitle(), "\"Hardcore\" Manual Text Editor");
+    Choose(Named<QComboBox>(*editor, "Entry Name"), "T_Year_GER");
+    Type(Named<QLineEdit>(*editor, "Value"), "Erschienen: 1877");
+    Press(*editor, "Write the text");
+    editor->close();
+    EXPECT_EQ(Named<QLineEdit>(*view, "Year").text(), "1877");
+    EXPECT_TRUE(view->isWindowModified());
+    EXPECT_TRUE(view->close());
+}
+
+TEST_F(Widgets, EditColorsAndPaintThem) {
+    Press(*view, "Edit colors");
+    auto* colors = Find<ColorWindowView>();
+    Press(*colors, "Back1 0");
+    Type(Named<QLineEdit>(*colors, "Red"), "300");
+    Type(Named<QLineEdit>(*colors, "Green"), "17");
+    Press(*colors, "Give the box");
+    desktop.answer = u"New";
+    Press(*colors, "Save all colors");
+    EXPECT_EQ(Named<QComboBox>(*view, "Colors").count(), 3);
+    EXPECT_EQ(Named<QComboBox>(*view, "Colors").currentIndex(), -1);
+    EXPECT_NE(folder.Read("schemes/New.vccs").find(" 255  17 "), std::string::npos);
+
+    PreviewView preview(window->ColorWindow->preview);
+    preview.resize(preview.sizeHint());
+    const QImage image = preview.grab().toImage();
+    const auto pixel = [&](double x, double y) {
+        return image.pixelColor(static_cast<int>(x / 15), static_cast<int>((y - 2400) / 15));
+    };
+    const auto box = [&](Element element, std::size_t i) {
+        return Shown_Color(window->ColorWindow->pic[static_cast<std::size_t>(element)][i].Value());
+    };
+    const QColor outside = pixel(100, 9000), paper = box(Element::Back1, 0);
+    EXPECT_EQ(paper, QColor(255, 17, paper.blue()));
+    struct Edge {
+        double x, y;
+        QColor inside, beyond;  ///< at the place, and one pixel to the left of it
+    };
+    for (const Edge& edge : {Edge{360, 6300, paper, outside},
+                             {360, 9600, box(Element::BackMask2, 1), outside},
+                             {11175, 6300, outside, paper},
+                             {600, 3970, box(Element::YearLine, 1), paper},
+                             {4080, 6200, box(Element::VCPic, 0), paper},
+                             {240, 2500, QColor(0x60, 0x60, 0x60), outside},
+                             {11355, 2500, outside, QColor(0x60, 0x60, 0x60)}}) {
+        EXPECT_EQ(pixel(edge.x, edge.y), edge.inside) << edge.x << "," << edge.y;
+        EXPECT_EQ(pixel(edge.x - 15, edge.y), edge.beyond) << edge.x << "," << edge.y;
+    }
+    EXPECT_EQ(pixel(5800, 6000), box(Element::VCPic, 1));
+    EXPECT_EQ(pixel(400, 9700), outside);
+}
+
+TEST_F(Widgets, NameEveryInput) {
+    Press(*view, "Edit colors");
+    Press(*view, "Show and replace");  // disabled: stays closed
+    EXPECT_FALSE(window->TextEditor);
+    window->cmdHC_Click();
+    for (QWidget* top : {static_cast<QWidget*>(view.get()), static_cast<QWidget*>(Find<ColorWindowView>()),
+                         static_cast<QWidget*>(Find<TextEditorView>())}) {
+        int inputs = 0;
+        for (QWidget* widget : top->findChildren<QWidget*>()) {
+            const auto* button = qobject_cast<QAbstractButton*>(widget);
+            const bool input = button != nullptr || qobject_cast<QLineEdit*>(widget) != nullptr ||
+                               qobject_cast<QComboBox*>(widget) != nullptr;
+            if (!input) continue;
+            ++inputs;
+            const bool named = !widget->accessibleName().isEmpty() || (button && button->text().size() > 1);
+            EXPECT_TRUE(named) << widget->metaObject()->className() << " in " << qPrintable(top->windowTitle());
+            EXPECT_TRUE(button == nullptr || !button->toolTip().isEmpty()) << qPrintable(button->text());
+        }
+        EXPECT_GE(inputs, 3);
+    }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const TempFolder settings;  // the windows' positions of this person must neither matter nor change
+    qputenv("XDG_CONFIG_HOME", settings.Path().string().c_str());
+    QApplication application(argc, argv);
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}
