@@ -75,7 +75,8 @@ class Widgets : public testing::Test {
     static void Choose(QComboBox& list, const QString& entry) {
         list.setFocus();
         QTest::keyClick(&list, Qt::Key_Home);
-        for (int i = 0; i <= list.count() && list.currentText() != entry; ++i) QTest::keyClick(&list, Qt::Key_Down);
+        for (int i = 0; i <= list.count() && list.currentText() != entry; ++i)
+            QTest::keyClick(&list, Qt::Key_Down);
         EXPECT_EQ(list.currentText(), entry);
     }
 
@@ -122,8 +123,10 @@ TEST_F(Widgets, WriteTheSameBytesAsABatchRun) {
     const TempFolder batch;
     Fill(batch);
     NoDesktop none;
-    Form1 run({batch.Text(), u"-TITLE All -T_JPN One^Two -YEAR 2001 -PLAY 4 -SYSTEM MEGA -E_GER T "
-                             u"-COLOR Mine -LOGO New.tpl -PAD +16"}, none);
+    Form1 run({batch.Text(),
+               u"-TITLE All -T_JPN One^Two -YEAR 2001 -PLAY 4 -SYSTEM MEGA -E_GER T "
+               u"-COLOR Mine -LOGO New.tpl -PAD +16"},
+              none);
     EXPECT_EQ(run.Form_Load(), Form1::Done);
     EXPECT_EQ(Hex(folder.Read(Layout)), Hex(batch.Read(Layout)));
     EXPECT_EQ(folder.Read(Texture), "new");
@@ -229,8 +232,9 @@ TEST_F(Widgets, NameEveryInput) {
     Press(*view, "Show and replace");  // disabled: stays closed
     EXPECT_FALSE(window->TextEditor);
     window->cmdHC_Click();
-    for (QWidget* top : {static_cast<QWidget*>(view.get()), static_cast<QWidget*>(Find<ColorWindowView>()),
-                         static_cast<QWidget*>(Find<TextEditorView>())}) {
+    for (QWidget* top :
+         {static_cast<QWidget*>(view.get()), static_cast<QWidget*>(Find<ColorWindowView>()),
+          static_cast<QWidget*>(Find<TextEditorView>())}) {
         int inputs = 0;
         for (QWidget* widget : top->findChildren<QWidget*>()) {
             const auto* button = qobject_cast<QAbstractButton*>(widget);
@@ -238,9 +242,12 @@ TEST_F(Widgets, NameEveryInput) {
                                qobject_cast<QComboBox*>(widget) != nullptr;
             if (!input) continue;
             ++inputs;
-            const bool named = !widget->accessibleName().isEmpty() || (button && button->text().size() > 1);
-            EXPECT_TRUE(named) << widget->metaObject()->className() << " in " << qPrintable(top->windowTitle());
-            EXPECT_TRUE(button == nullptr || !button->toolTip().isEmpty()) << qPrintable(button->text());
+            const bool named =
+                !widget->accessibleName().isEmpty() || (button && button->text().size() > 1);
+            EXPECT_TRUE(named) << widget->metaObject()->className() << " in "
+                               << qPrintable(top->windowTitle());
+            EXPECT_TRUE(button == nullptr || !button->toolTip().isEmpty())
+                << qPrintable(button->text());
         }
         EXPECT_GE(inputs, 3);
     }
@@ -249,7 +256,8 @@ TEST_F(Widgets, NameEveryInput) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    const TempFolder settings;  // the windows' positions of this person must neither matter nor change
+    const TempFolder
+        settings;  // the windows' positions of this person must neither matter nor change
     qputenv("XDG_CONFIG_HOME", settings.Path().string().c_str());
     QApplication application(argc, argv);
     testing::InitGoogleTest(&argc, argv);

@@ -61,8 +61,6 @@ QBoxLayout* ColorWindowView::Make_Bar(frmColor& window) {
     bar->addWidget(path, 1);
     bar->addWidget(Make_Button("Get Color Scheme", "Read the colors of that layout file",
                                QKeySequence("Ctrl+G"), [&window] { window.cmdGetScheme_Click(); }));
-    static_cast<QPushButton*>(bar->itemAt(2)->widget())->setShortcut(QKeySequence::Save);
-    static_cast<QPushButton*>(bar->itemAt(6)->widget())->setShortcut(QKeySequence("Ctrl+G"));
     Bind(*schemes, window.cmbFileList);
     Bind(*path, window.txtBannerPath);
     return bar;
@@ -117,7 +115,6 @@ QWidget* ColorWindowView::Make_Edit_Area(frmColor& window) {
     numbers->addWidget(edited);
     auto* set = Make_Button("Set", "Give the box being edited this color",
                             QKeySequence("Ctrl+Return"), [&window] { window.cmdColor_Click(); });
-    set->setShortcut(QKeySequence("Ctrl+Return"));
 
     auto* right = new QVBoxLayout;
     right->addLayout(numbers);

@@ -43,10 +43,6 @@ MainWindowView::MainWindowView(Form1& window) : window_(window) {
     rows->addWidget(Make_File_Frame());
     auto* save = Make_Button("&Save Changes", "Write the layout file", QKeySequence::Save,
                              [this] { window_.cmdSave_Click(); });
-    auto* save_key = new QAction(this);
-    save_key->setShortcut(QKeySequence::Save);
-    connect(save_key, &QAction::triggered, save, &QPushButton::click);
-    addAction(save_key);
     rows->addWidget(save);
     rows->addStretch();
     setCentralWidget(content);
@@ -121,7 +117,6 @@ QWidget* MainWindowView::Make_Game_Info() {
     auto* hardcore =
         Make_Button("Hardcore Manual Text Editor", "Show and replace the text of any text box",
                     QKeySequence("Ctrl+T"), [this] { window_.cmdHC_Click(); });
-    hardcore->setShortcut(QKeySequence("Ctrl+T"));
     grid->addWidget(hardcore, 5, 0, 1, columns);
     grid->addLayout(Make_Padding_Row(), 6, 0, 1, columns);
 
@@ -129,7 +124,6 @@ QWidget* MainWindowView::Make_Game_Info() {
     auto* edit_colors =
         Make_Button("Color Editor And Preview", "Edit colors and see the banner",
                     QKeySequence("Ctrl+E"), [this] { window_.cmdEditColor_Click(); });
-    edit_colors->setShortcut(QKeySequence("Ctrl+E"));
     grid->addWidget(Make_Label("&Colors:", schemes), 7, caption);
     grid->addWidget(schemes, 7, field);
     grid->addWidget(edit_colors, 7, selector, 1, columns - selector);
@@ -186,7 +180,6 @@ QWidget* MainWindowView::Make_File_Frame() {
     Bind(*path, window_.txtSrc);
     auto* browse = Make_Button("....", "Choose a layout file", QKeySequence::Open,
                                [this] { window_.cmdFileBrowse_Click(); });
-    browse->setShortcut(QKeySequence::Open);
     browse->setAccessibleName("Browse");
     auto* row = new QHBoxLayout(frame);
     row->addWidget(Make_Label("F&ile:", path));

@@ -27,7 +27,6 @@ TextEditorView::TextEditorView(frmHC& editor, std::function<void()> closed, QWid
     grid->addWidget(value, 0, 3);
     auto* set = Make_Button("Set", "Write the text into the chosen box",
                             QKeySequence("Ctrl+Return"), [&editor] { editor.cmdSet_Click(); });
-    set->setShortcut(QKeySequence("Ctrl+Return"));
     grid->addWidget(set, 1, 0, 1, 4);
     grid->setColumnStretch(1, 2);
     grid->setColumnStretch(3, 3);

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QSettings>
+#include <QShortcut>
 #include <cmath>
 
 #include "colors/scheme.h"
@@ -62,6 +63,9 @@ QPushButton* Make_Button(const QString& caption, const QString& tooltip,
     button->setToolTip(keys.isEmpty() ? tooltip : tooltip + " (" + keys.join(", ") + ")");
     button->setAutoDefault(false);
     QObject::connect(button, &QPushButton::clicked, [run = std::move(run)] { run(); });
+    // Not the button's own shortcut, which runs only when its animation ends: by then the window
+    // can have been closed.
+    if (!shortcut.isEmpty()) new QShortcut(shortcut, button, [button] { button->click(); });
     return button;
 }
 
