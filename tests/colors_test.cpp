@@ -59,9 +59,9 @@ TEST(SchemeFile, IsRefusedWhole) {
     const Scheme before = Distinct_Scheme();
     for (const std::string& contents :
          {""s, " \r\n"s, Numbers(113, " "), Numbers(113, " ") + ",", Numbers(113, " ") + " 256",
-          Numbers(113, " ") + " -1", Numbers(113, " ") + " 1.5", Numbers(113, " ") + " x",
-          Numbers(113, " ") + " 7x", "5,," + Numbers(114, " "), "7\t" + Numbers(114, " "),
-          Numbers(113, " ") + " 99999999999999999999", "+-1 " + Numbers(114, " ")}) {
+          Numbers(113, " ") + " -1", Numbers(113, " ") + " 1.5", Numbers(113, " ") + " x", Numbers(113, " ") + " 7x",
+          "5,," + Numbers(114, " "), "7\t" + Numbers(114, " "), Numbers(113, " ") + " 99999999999999999999",
+          "+-1 " + Numbers(114, " ")}) {
         Scheme scheme = before;
         EXPECT_NE(Parse_Scheme(contents, scheme), "") << contents;
         EXPECT_EQ(scheme, before);
@@ -103,19 +103,17 @@ TEST(MaterialColors, StayInsideTheData) {
 
 TEST(ApplyColorScheme, WritesEachElementIntoItsMaterials) {
     const std::pair<const char*, std::size_t> elements[] = {
-        {"PFLine", 0},      {"T_PF", 1},        {"Shade", 2},          {"Back0", 3},
-        {"Back1", 4},       {"Back2", 5},       {"Back3", 6},          {"Back4", 7},
-        {"YearLine", 8},    {"PlayLine", 9},    {"T_VCTitle_ENG", 10}, {"T_VCTitle_JPN", 10},
-        {"T_Play_NED", 11}, {"T_Year_GER", 12}, {"T_ESRB_SPA", 13},    {"VCPic", 14},
-        {"VCPicBase", 15},  {"VCPicSha", 16},   {"BackMask1", 17},     {"BackMask2", 18}};
+        {"PFLine", 0},         {"T_PF", 1},           {"Shade", 2},       {"Back0", 3},       {"Back1", 4},
+        {"Back2", 5},          {"Back3", 6},          {"Back4", 7},       {"YearLine", 8},    {"PlayLine", 9},
+        {"T_VCTitle_ENG", 10}, {"T_VCTitle_JPN", 10}, {"T_Play_NED", 11}, {"T_Year_GER", 12}, {"T_ESRB_SPA", 13},
+        {"VCPic", 14},         {"VCPicBase", 15},     {"VCPicSha", 16},   {"BackMask1", 17},  {"BackMask2", 18}};
     const TempFolder folder;
     const Scheme scheme = Distinct_Scheme();
     folder.Write("schemes/Mine.vccs", Format_Scheme(scheme));
     folder.Write("schemes/Short.vccs", Format_Scheme(scheme).substr(0, 400));
     const std::string before = BrlytData = Seven_Language_Banner();
 
-    EXPECT_EQ(Apply_Color_Scheme(folder.Text(), u"None")->subject,
-              folder.Text() + u"\\schemes\\None.vccs");
+    EXPECT_EQ(Apply_Color_Scheme(folder.Text(), u"None")->subject, folder.Text() + u"\\schemes\\None.vccs");
     EXPECT_TRUE(Apply_Color_Scheme(folder.Text(), u"Short"));
     EXPECT_EQ(BrlytData, before);
 

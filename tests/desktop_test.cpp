@@ -75,8 +75,7 @@ class Widgets : public testing::Test {
     static void Choose(QComboBox& list, const QString& entry) {
         list.setFocus();
         QTest::keyClick(&list, Qt::Key_Home);
-        for (int i = 0; i <= list.count() && list.currentText() != entry; ++i)
-            QTest::keyClick(&list, Qt::Key_Down);
+        for (int i = 0; i <= list.count() && list.currentText() != entry; ++i) QTest::keyClick(&list, Qt::Key_Down);
         EXPECT_EQ(list.currentText(), entry);
     }
 
@@ -232,9 +231,8 @@ TEST_F(Widgets, NameEveryInput) {
     Press(*view, "Show and replace");  // disabled: stays closed
     EXPECT_FALSE(window->TextEditor);
     window->cmdHC_Click();
-    for (QWidget* top :
-         {static_cast<QWidget*>(view.get()), static_cast<QWidget*>(Find<ColorWindowView>()),
-          static_cast<QWidget*>(Find<TextEditorView>())}) {
+    for (QWidget* top : {static_cast<QWidget*>(view.get()), static_cast<QWidget*>(Find<ColorWindowView>()),
+                         static_cast<QWidget*>(Find<TextEditorView>())}) {
         int inputs = 0;
         for (QWidget* widget : top->findChildren<QWidget*>()) {
             const auto* button = qobject_cast<QAbstractButton*>(widget);
@@ -242,12 +240,9 @@ TEST_F(Widgets, NameEveryInput) {
                                qobject_cast<QComboBox*>(widget) != nullptr;
             if (!input) continue;
             ++inputs;
-            const bool named =
-                !widget->accessibleName().isEmpty() || (button && button->text().size() > 1);
-            EXPECT_TRUE(named) << widget->metaObject()->className() << " in "
-                               << qPrintable(top->windowTitle());
-            EXPECT_TRUE(button == nullptr || !button->toolTip().isEmpty())
-                << qPrintable(button->text());
+            const bool named = !widget->accessibleName().isEmpty() || (button && button->text().size() > 1);
+            EXPECT_TRUE(named) << widget->metaObject()->className() << " in " << qPrintable(top->windowTitle());
+            EXPECT_TRUE(button == nullptr || !button->toolTip().isEmpty()) << qPrintable(button->text());
         }
         EXPECT_GE(inputs, 3);
     }
@@ -256,8 +251,7 @@ TEST_F(Widgets, NameEveryInput) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    const TempFolder
-        settings;  // the windows' positions of this person must neither matter nor change
+    const TempFolder settings;  // the windows' positions of this person must neither matter nor change
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("XDG_CONFIG_HOME", settings.Path().string().c_str());
     QApplication application(argc, argv);

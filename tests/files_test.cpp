@@ -12,8 +12,7 @@ namespace {
 namespace fs = std::filesystem;
 
 TEST(Text, SurvivesTheWayThroughUtf8) {
-    for (const std::string bytes :
-         {"", "plain", "\xE5\xB9\xB4\xF0\x9F\x98\x80", "bad \xFF\xC3 bytes", "\xC3"}) {
+    for (const std::string bytes : {"", "plain", "\xE5\xB9\xB4\xF0\x9F\x98\x80", "bad \xFF\xC3 bytes", "\xC3"}) {
         EXPECT_EQ(To_Utf8(From_Utf8(bytes)), bytes);
     }
     EXPECT_EQ(From_Utf8("\xF0\x9F\x98\x80"), u"\xD83D\xDE00");
@@ -39,8 +38,7 @@ TEST(Paths, AreConvertedWhereTheyMeetTheFileSystem) {
     EXPECT_FALSE(Ordinary_File_Exists(folder.Text() + u"\\")) << "holds a folder only";
     EXPECT_FALSE(Ordinary_File_Exists(folder.Text() + u"\\sub"));
     EXPECT_FALSE(Ordinary_File_Exists(u""));
-    EXPECT_FALSE(
-        Ordinary_File_Exists(folder.Text() + u"\\sub\\File.TPL" + std::u16string(1, 0) + u"x"));
+    EXPECT_FALSE(Ordinary_File_Exists(folder.Text() + u"\\sub\\File.TPL" + std::u16string(1, 0) + u"x"));
     EXPECT_TRUE(Folder_Exists(folder.Text() + u"\\sub\\"));
     EXPECT_FALSE(Folder_Exists(folder.Text() + u"\\sub\\File.TPL"));
     EXPECT_EQ(Resolve(u"/prog", u"\\x"), u"/prog\\x");
@@ -50,8 +48,7 @@ TEST(Paths, AreConvertedWhereTheyMeetTheFileSystem) {
 
 TEST(FileList, IsSortedWithoutCase) {
     const TempFolder folder;
-    for (const char* name :
-         {"b.tpl", "A.TPL", "C.tpl", "a.tplx", "a.txt", ".hidden.tpl", "d.tpl/e"}) {
+    for (const char* name : {"b.tpl", "A.TPL", "C.tpl", "a.tplx", "a.txt", ".hidden.tpl", "d.tpl/e"}) {
         folder.Write(name, "");
     }
     FileList list(".tpl");

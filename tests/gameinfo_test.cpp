@@ -23,8 +23,7 @@ TEST(Composing, WordsEachLanguage) {
         {u"ITA", u"Pubblicato: 1985", u"Giocatori: 1-2", u"ESRB Rating: E"},
         {u"SPA", u"A\u00F1o: 1985", u"Jugadores: 1-2", u"ESRB Rating: E"},
         {u"NED", u"Release: 1985", u"1-2 speler(s)", u"ESRB Rating: E"},
-        {u"JPN", u"1985\u5E74\u767A\u58F2", u"\u30D7\u30EC\u30A4\u4EBA\u6570\n1\uFF5E2\u4EBA",
-         u"ESRB Rating: E"},
+        {u"JPN", u"1985\u5E74\u767A\u58F2", u"\u30D7\u30EC\u30A4\u4EBA\u6570\n1\uFF5E2\u4EBA", u"ESRB Rating: E"},
         {u"NONE", u"Released: 1985", u"Players: 1-2", u"ESRB Rating: E"},
         {u"ger", u"Released: 1985", u"Players: 1-2", u"ESRB Rating: E"},
         {u"", u"Released: 1985", u"Players: 1-2", u"ESRB Rating: E"},
@@ -96,8 +95,7 @@ struct Loaded : GameInfo {
         Refill();
     }
     Texts Fields() const {
-        return {txtName.Text(), txtYear.Text(), txtPlayers.Text(), txtESRB.Text(),
-                txtSystem.Text()};
+        return {txtName.Text(), txtYear.Text(), txtPlayers.Text(), txtESRB.Text(), txtSystem.Text()};
     }
     Texts Selections() const {
         Texts texts;
@@ -117,8 +115,7 @@ TEST(Refill, StopsEachSelectorOnTheFirstValue) {
 }
 
 TEST(Refill, ForgetsTheLayoutBefore) {
-    Loaded info(
-        {Box("T_VCTitle_ENG", u"Old"), Box("T_Year_ENG", u"Released: 1990"), Box("T_PF", u"S")});
+    Loaded info({Box("T_VCTitle_ENG", u"Old"), Box("T_Year_ENG", u"Released: 1990"), Box("T_PF", u"S")});
     BrlytData = Layout_With({});
     info.Refill();
     EXPECT_EQ(info.Fields(), (Texts{u"", u"", u"", u"", u""}));
@@ -146,9 +143,9 @@ TEST(Refill, TellsTheNeutralWording) {
 }
 
 TEST(Selectors, ShowTheirLanguage) {
-    Loaded info({Box("T_VCTitle_ENG", u"E"), Box("T_Year_ENG", u"Released: 1990"),
-                 Box("T_Play_ENG", u"Players: 1"), Box("T_ESRB_ENG", u"ESRB Rating: E"),
-                 Box("T_ESRB_SPA", u"ESRB Rating: M"), Box("T_VCTitle", u"neutral")});
+    Loaded info({Box("T_VCTitle_ENG", u"E"), Box("T_Year_ENG", u"Released: 1990"), Box("T_Play_ENG", u"Players: 1"),
+                 Box("T_ESRB_ENG", u"ESRB Rating: E"), Box("T_ESRB_SPA", u"ESRB Rating: M"),
+                 Box("T_VCTitle", u"neutral")});
     for (DropDownList& list : info.cmbRegion) list.Pick(4);
     EXPECT_EQ(info.Fields(), (Texts{u"", u"1990", u"", u"M", u""})) << "only the year stays";
     info.cmbRegion[0].Pick(7);
@@ -164,9 +161,8 @@ TEST(Selectors, ShowTheirLanguage) {
 }
 
 TEST(Set, WritesTheSelectedLanguage) {
-    Loaded info({Box("T_VCTitle_ENG", u"E"), Box("T_VCTitle_GER", u"G"),
-                 Box("T_Year_GER", u"Erschienen: 1"), Box("T_ESRB_FRA", u"Classement ESRB: E"),
-                 Box("T_Year", u"?")});
+    Loaded info({Box("T_VCTitle_ENG", u"E"), Box("T_VCTitle_GER", u"G"), Box("T_Year_GER", u"Erschienen: 1"),
+                 Box("T_ESRB_FRA", u"Classement ESRB: E"), Box("T_Year", u"?")});
     info.cmbRegion[0].Select(1);
     info.txtName.Set(u"Neu");
     info.txtYear.Set(u"2001");
@@ -198,8 +194,7 @@ TEST(SetAll, WritesEveryLanguageAndTheNeutralBox) {
     info.txtPlayers.Set(u"4");
     info.txtESRB.Set(u"T");
     info.txtSystem.Set(u"New");
-    for (const int index : {0, 1, 2, 3, 4, 5, -1})
-        info.cmdSetAll_Click(static_cast<std::int16_t>(index));
+    for (const int index : {0, 1, 2, 3, 4, 5, -1}) info.cmdSetAll_Click(static_cast<std::int16_t>(index));
     const std::string once = BrlytData;
     for (const int index : {0, 1, 2, 3, 4}) info.cmdSetAll_Click(static_cast<std::int16_t>(index));
     EXPECT_EQ(BrlytData, once);
@@ -212,8 +207,8 @@ TEST(SetAll, WritesEveryLanguageAndTheNeutralBox) {
 }
 
 TEST(SetAll, EndsWithTheNeutralWording) {
-    Loaded info({Box("T_VCTitle", u"N"), Box("T_Year", u"1985\u5E74\u767A\u58F2"),
-                 Box("T_Play", u"p"), Box("T_ESRB", u"r")});
+    Loaded info(
+        {Box("T_VCTitle", u"N"), Box("T_Year", u"1985\u5E74\u767A\u58F2"), Box("T_Play", u"p"), Box("T_ESRB", u"r")});
     ASSERT_EQ(NoneRegion, u"JPN");
     info.txtYear.Set(u"1999");
     info.txtPlayers.Set(u"3");

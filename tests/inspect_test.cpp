@@ -14,14 +14,12 @@ using namespace std::string_literals;
 
 std::string All_Warnings(const std::string& layout) {
     std::string all;
-    for (const std::string& warning : Find_Warnings(layout, Read_Layout(layout)))
-        all += warning + "|";
+    for (const std::string& warning : Find_Warnings(layout, Read_Layout(layout))) all += warning + "|";
     return all;
 }
 
 /// A text box whose fields are as given.
-std::string Odd_Box(const std::string& name, const std::string& stored, unsigned buffer,
-                    unsigned length) {
+std::string Odd_Box(const std::string& name, const std::string& stored, unsigned buffer, unsigned length) {
     TextBoxSpec box;
     box.name = name;
     box.stored = stored;
@@ -31,8 +29,8 @@ std::string Odd_Box(const std::string& name, const std::string& stored, unsigned
 }
 
 TEST(Samples, AreSafeToEditAndStayAsTheyAre) {
-    for (const std::string& layout : {Seven_Language_Banner(), Neutral_Banner(),
-                                      German_Japanese_Banner(), Banner_Without_Closing_Group()}) {
+    for (const std::string& layout :
+         {Seven_Language_Banner(), Neutral_Banner(), German_Japanese_Banner(), Banner_Without_Closing_Group()}) {
         EXPECT_EQ(All_Warnings(layout), "");
         const LayoutInfo info = Read_Layout(layout);
         std::vector<std::string> names;
@@ -46,23 +44,20 @@ TEST(Samples, AreSafeToEditAndStayAsTheyAre) {
 }
 
 TEST(Inspect, ShowsWhatTheLayoutHolds) {
-    const std::string layout =
-        Layout_With({Material_Section({{"Shade", {1, 2, 3, 4}, {5, 6, 7, -8}}}),
-                     Box("A", u"a\"\n\u3042\xD800"), Group_Section("ENG", {"A", "B"})});
+    const std::string layout = Layout_With({Material_Section({{"Shade", {1, 2, 3, 4}, {5, 6, 7, -8}}}),
+                                            Box("A", u"a\"\n\u3042\xD800"), Group_Section("ENG", {"A", "B"})});
     const FileReport report{"f", Read_Layout(layout), {"w"}};
-    EXPECT_EQ(
-        As_Text(report),
-        "f\n  header length 292, file size 292\n"
-        "  text     A                buffer    12 length    12  a\"^\xE3\x81\x82\xEF\xBF\xBD\n"
-        "  material Shade              1   2   3   4     5   6   7  -8\n"
-        "  group    ENG              A B\n  warning: w\n");
-    EXPECT_EQ(
-        As_Json({report}),
-        R"([{"file": "f", "file_size": 292, "header_length": 292, "text_boxes": [{"name": "A", )"
-        R"("text": "a\"^\u3042\ud800", "buffer_length": 12, "text_length": 12}], "materials": )"
-        R"([{"name": "Shade", "first": [1, 2, 3, 4], "second": [5, 6, 7, -8]}], "groups": )"
-        R"([{"name": "ENG", "members": ["A", "B"]}], "warnings": ["w"]}])"
-        "\n");
+    EXPECT_EQ(As_Text(report),
+              "f\n  header length 292, file size 292\n"
+              "  text     A                buffer    12 length    12  a\"^\xE3\x81\x82\xEF\xBF\xBD\n"
+              "  material Shade              1   2   3   4     5   6   7  -8\n"
+              "  group    ENG              A B\n  warning: w\n");
+    EXPECT_EQ(As_Json({report}),
+              R"([{"file": "f", "file_size": 292, "header_length": 292, "text_boxes": [{"name": "A", )"
+              R"("text": "a\"^\u3042\ud800", "buffer_length": 12, "text_length": 12}], "materials": )"
+              R"([{"name": "Shade", "first": [1, 2, 3, 4], "second": [5, 6, 7, -8]}], "groups": )"
+              R"([{"name": "ENG", "members": ["A", "B"]}], "warnings": ["w"]}])"
+              "\n");
 }
 
 TEST(Inspect, WarnsOfWhatAnEditWouldNotRewriteCleanly) {

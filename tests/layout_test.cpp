@@ -42,8 +42,7 @@ TEST(GetText, CutsTheTextOffTheRecordsEnd) {
         {"length beyond the record cannot be read", "\0H\0i\0\0\0\0"s, 0x270F + 1, u""},
     };
     for (const Case& c : cases) {
-        EXPECT_EQ(Get_Text(Layout_With({Record("B", c.stored, c.text_length)}), "B"), c.text)
-            << c.what;
+        EXPECT_EQ(Get_Text(Layout_With({Record("B", c.stored, c.text_length)}), "B"), c.text) << c.what;
     }
 }
 
@@ -63,10 +62,7 @@ TEST(GetText, TakesTheLastExactNameButTheFirstWithItsKey) {
         {"not a longer name", {Box("T_Year_ENG", u"x")}, "T_Year", u""},
         {"not a shorter name", {Box("T_Year", u"x")}, "T_Year_ENG", u""},
         {"case counts", {Box("t_year", u"x")}, "T_Year", u""},
-        {"stray tag that starts no record",
-         {Section("usd1", "..txt1.."), Box("A", u"x")},
-         "A",
-         u"x"},
+        {"stray tag that starts no record", {Section("usd1", "..txt1.."), Box("A", u"x")}, "A", u"x"},
         {"stray tag between", {Box("A", u"x"), Section("usd1", "txt1txt1")}, "A", u"x"},
     };
     for (const Case& c : cases) EXPECT_EQ(Get_Text(Layout_With(c.boxes), c.name), c.text) << c.what;
@@ -154,8 +150,7 @@ TEST(SetText, FindsItsBoxByThePrefix) {
     };
     for (const Case& c : cases) {
         std::vector<std::string> boxes;
-        for (const std::string& name : c.names)
-            boxes.push_back(Box(name, std::u16string(name.size(), u'.')));
+        for (const std::string& name : c.names) boxes.push_back(Box(name, std::u16string(name.size(), u'.')));
         const std::string after = Set_Text(Layout_With(boxes), c.name, u"fresh");
         std::string changed;
         for (const std::string& name : c.names) {
@@ -168,10 +163,8 @@ TEST(SetText, FindsItsBoxByThePrefix) {
 TEST(SetText, ReplacesEveryIdenticalRecord) {
     const std::string twin = Box("B", u"same"), other = Box("B", u"else");
     for (const char16_t* text : {u"x", u"a much longer text", u"four"}) {
-        EXPECT_EQ(
-            Set_Text(Layout_With({twin, other, twin, Box("C", u"c"), twin}), "B", text).substr(16),
-            Layout_With({Box("B", text), other, Box("B", text), Box("C", u"c"), Box("B", text)})
-                .substr(16));
+        EXPECT_EQ(Set_Text(Layout_With({twin, other, twin, Box("C", u"c"), twin}), "B", text).substr(16),
+                  Layout_With({Box("B", text), other, Box("B", text), Box("C", u"c"), Box("B", text)}).substr(16));
     }
 }
 
@@ -191,8 +184,7 @@ std::vector<std::string> Split(const std::string& data) {
 std::string Find(const std::string& data, const std::string& name, const std::string& wanted) {
     std::string key;
     for (const std::string& piece : Split(data)) {
-        if (wanted.empty() ||
-            (piece.size() >= 8 + wanted.size() && piece.substr(8, wanted.size()) == wanted)) {
+        if (wanted.empty() || (piece.size() >= 8 + wanted.size() && piece.substr(8, wanted.size()) == wanted)) {
             key = "txt1" + piece.substr(0, 8 + name.size());
         }
     }
@@ -237,9 +229,8 @@ TEST(SetText, FollowsThePlainRulesOnRandomLayouts) {
     std::mt19937 random(20261122);
     const auto pick = [&](std::size_t count) { return random() % count; };
     const std::string names[] = {"T_Year", "T_Year_ENG", "T_Yea", "T_PF", "T_Play_NONE", "", "L"};
-    const std::u16string texts[] = {
-        u"",    u"1",      u"ab", u"x\u7478\u7431y", u"same text", u"\u7478\u7431",
-        u"\0z", u"\xD800", u"a^b"};
+    const std::u16string texts[] = {u"",    u"1",      u"ab", u"x\u7478\u7431y", u"same text", u"\u7478\u7431",
+                                    u"\0z", u"\xD800", u"a^b"};
     const auto any_box = [&] {
         std::string box = Box(names[pick(7)], texts[pick(9)]);
         if (pick(8) == 0) Write_U32(box, 4, static_cast<std::uint32_t>(pick(600)));
@@ -302,8 +293,7 @@ TEST(Padding, FollowsItsText) {
         const auto padding = Read_Padding(c.text);
         ASSERT_EQ(padding.has_value(), c.size != 0) << To_Utf8(c.text);
         if (!padding) continue;
-        EXPECT_EQ(AddPadding(std::string(300, 'x'), *padding),
-                  std::string(300, 'x') + std::string(c.size - 300, '\0'));
+        EXPECT_EQ(AddPadding(std::string(300, 'x'), *padding), std::string(300, 'x') + std::string(c.size - 300, '\0'));
     }
     EXPECT_TRUE(Read_Padding(u"268435456"));
 }
@@ -320,8 +310,7 @@ TEST(CutPadding, CutsBehindTheLayoutsEnd) {
         {"a" + closing + "b" + closing + "c", "a" + closing + "b" + closing},
         {root + "abc" + closing + "d", root + "abc" + closing},
         {"abc" + root + "def" + root + "g", "abc" + root},
-        {"abcRootGroup" + std::string(10, '\0') + "x",
-         "abcRootGroup" + std::string(10, '\0') + "x"},
+        {"abcRootGroup" + std::string(10, '\0') + "x", "abcRootGroup" + std::string(10, '\0') + "x"},
         {"gre1\0\0\0\x0C rest"s, "gre1\0\0\0\x0C rest"s},
         {"", ""},
     };

@@ -39,9 +39,7 @@ class MainWindow : public testing::Test {
         return window->Form_Load();
     }
 
-    std::string On_Disk(const char* box) const {
-        return To_Utf8(Get_Text(folder.Read(Layout), box));
-    }
+    std::string On_Disk(const char* box) const { return To_Utf8(Get_Text(folder.Read(Layout), box)); }
 
     TempFolder folder;
     TestDesktop desktop;
@@ -252,11 +250,8 @@ TEST_F(MainWindow, ReplacesTheFirstTextureThatIsTheLogo) {
 
 TEST_F(MainWindow, SetForceSelectsByCode) {
     Start();
-    for (const auto& [code, selected] : {std::pair{u"jpn", u"JPN"},
-                                         {u"XXX", u"JPN"},
-                                         {u"", u"JPN"},
-                                         {u"None", u"NONE"},
-                                         {u"ita ", u"NONE"}}) {
+    for (const auto& [code, selected] :
+         {std::pair{u"jpn", u"JPN"}, {u"XXX", u"JPN"}, {u"", u"JPN"}, {u"None", u"NONE"}, {u"ita ", u"NONE"}}) {
         std::u16string argument = code;
         window->SetForce(argument);
         EXPECT_EQ(window->cmbForce.Selected(), selected);
@@ -265,10 +260,8 @@ TEST_F(MainWindow, SetForceSelectsByCode) {
 
 TEST(RegionForce, RenamesTheFirstTitledLanguagesItems) {
     const std::string titles = Box("T_VCTitle_JPN", u"J") + Box("T_VCTitle_GER", u"G");
-    const std::string items =
-        "T_YEAR_GER T_PLAY_GER T_ESRB_GER LGER LLGER T_Year_GER t_ESRB_GER LJPN";
-    const std::string forced =
-        "T_YEAR_ITA T_PLAY_ITA T_ESRB_ITA LITA LLITA T_Year_GER t_ESRB_GER LJPN";
+    const std::string items = "T_YEAR_GER T_PLAY_GER T_ESRB_GER LGER LLGER T_Year_GER t_ESRB_GER LJPN";
+    const std::string forced = "T_YEAR_ITA T_PLAY_ITA T_ESRB_ITA LITA LLITA T_Year_GER t_ESRB_GER LJPN";
     std::string data = titles + items;
     EXPECT_EQ(&Region_Force(data, "ITA"), &data);
     EXPECT_EQ(data, titles + forced);

@@ -23,17 +23,15 @@ class Program : public testing::Test {
     Program() {
         fs::create_directories(Home().parent_path());
         fs::copy(PROGRAM_FOLDER, Home(), fs::copy_options::recursive);
-        folder.Write("home/cfgs/vcinfopath.cfg",
-                     "\\samples\\german_japanese\\arc\\blyt\\banner.brlyt\r\n");
+        folder.Write("home/cfgs/vcinfopath.cfg", "\\samples\\german_japanese\\arc\\blyt\\banner.brlyt\r\n");
     }
 
     fs::path Home() const { return folder.Path() / "home"; }
 
     /// Runs a program of the copy from another folder; `arguments` as a shell takes them.
     Result Run(const std::string& program, const std::string& arguments) const {
-        const std::string command = "cd /; '" + (Home() / program).string() + "' " + arguments +
-                                    " >'" + (folder.Path() / "out").string() + "' 2>'" +
-                                    (folder.Path() / "err").string() + "'";
+        const std::string command = "cd /; '" + (Home() / program).string() + "' " + arguments + " >'" +
+                                    (folder.Path() / "out").string() + "' 2>'" + (folder.Path() / "err").string() + "'";
         const int status = std::system(command.c_str());
         return {WEXITSTATUS(status), folder.Read("out"), folder.Read("err")};
     }
@@ -63,11 +61,9 @@ TEST_F(Program, TellsWhatWentWrong) {
     };
     const std::string home = Home().string();
     const Case cases[] = {
-        {"none.brlyt -TITLE x", 2,
-         "bannersmith: " + home + "\\none.brlyt: No such file or directory\n"},
+        {"none.brlyt -TITLE x", 2, "bannersmith: " + home + "\\none.brlyt: No such file or directory\n"},
         {"samples -TITLE x", 2, "bannersmith: " + home + "\\samples: Is a directory\n"},
-        {"-COLOR None", 1,
-         "bannersmith: " + home + "\\schemes\\None.vccs: No such file or directory\n"},
+        {"-COLOR None", 1, "bannersmith: " + home + "\\schemes\\None.vccs: No such file or directory\n"},
         {"-PAD x", 1,
          "bannersmith: Padding \"x\": Not a whole number up to 268435456, with or without + in "
          "front of it\n"},
@@ -85,8 +81,7 @@ TEST_F(Program, TellsWhatWentWrong) {
 TEST_F(Program, AnswersAboutItself) {
     fs::remove_all(Home() / "cfgs");
     for (const char* program : {"bannersmith", "bannersmith-inspect"}) {
-        EXPECT_EQ(Run(program, "--version").output,
-                  program + std::string(" " BANNERSMITH_VERSION "\n"));
+        EXPECT_EQ(Run(program, "--version").output, program + std::string(" " BANNERSMITH_VERSION "\n"));
         const Result help = Run(program, "--help");
         EXPECT_TRUE(help.output.starts_with("usage: " + std::string(program)));
         EXPECT_EQ(help.status, 0);
@@ -104,8 +99,7 @@ TEST_F(Program, InspectTellsByItsStatus) {
     EXPECT_EQ(Run("bannersmith-inspect", "--json " + base + "good " + base + "twice").status, 1);
     const Result bad = Run("bannersmith-inspect", base + "text " + base + "twice " + base + "none");
     EXPECT_EQ(bad.status, 2);
-    EXPECT_EQ(bad.errors, "bannersmith-inspect: " + base +
-                              "text: Not a layout file\nbannersmith-inspect: " + base +
+    EXPECT_EQ(bad.errors, "bannersmith-inspect: " + base + "text: Not a layout file\nbannersmith-inspect: " + base +
                               "none: No such file or directory\n");
     EXPECT_NE(bad.output.find("warning: text box A"), bad.output.npos);
 }

@@ -83,8 +83,7 @@ TEST_F(Windows, ColorsOpenWithoutLayoutAndSchemes) {
 
 TEST_F(Windows, ColorsReadTheSelectedLanguagesMaterials) {
     std::vector<Material> materials;
-    for (const char* name :
-         {"T_VCTitle", "T_VCTitle_GER", "T_Play_FRA", "T_Year", "T_ESRB_ITA", "Shade"}) {
+    for (const char* name : {"T_VCTitle", "T_VCTitle_GER", "T_Play_FRA", "T_Year", "T_ESRB_ITA", "Shade"}) {
         const auto shade = static_cast<std::int16_t>(10 * (materials.size() + 1));
         materials.push_back({name, {shade, 1, 2, 9}, {shade, 3, 4, 9}});
     }
@@ -114,8 +113,7 @@ TEST_F(Windows, ColorsAreEditedBoxByBox) {
     EXPECT_EQ(VbColor2RGB(Rgb(255, 128, 7)), u"255|128|7");
     colors.pic_Click(u"T_ESRB", 1);
     EXPECT_EQ(colors.lblEdit.Caption(), u"T_ESRB 1");
-    EXPECT_EQ(colors.txtR.Text() + u"," + colors.txtG.Text() + u"," + colors.txtB.Text(),
-              u"185,217,230");
+    EXPECT_EQ(colors.txtR.Text() + u"," + colors.txtG.Text() + u"," + colors.txtB.Text(), u"185,217,230");
     EXPECT_EQ(colors.picClr.Value(), Rgb(185, 217, 230));
     struct Case {
         const char16_t* typed;
@@ -211,9 +209,7 @@ TEST_F(Windows, PreviewTakesItsColors) {
     }
     colors.MakePreview();
     const Preview& p = colors.preview;
-    const auto at = [](Element element, int box) {
-        return Rgb(static_cast<int>(element), box, 99);
-    };
+    const auto at = [](Element element, int box) { return Rgb(static_cast<int>(element), box, 99); };
     for (const Shape& shape : p.shpPFLine) {
         EXPECT_EQ(shape.fill, at(Element::PFLINE, 1));
         EXPECT_EQ(shape.border, at(Element::PFLINE, 0));
@@ -227,8 +223,7 @@ TEST_F(Windows, PreviewTakesItsColors) {
     EXPECT_EQ(p.shpBackMask2.fill, at(Element::BackMask2, 1));
     EXPECT_EQ(p.shpVcPic.border, at(Element::VCPic, 0));
     EXPECT_EQ(p.shpVcPic.fill, at(Element::VCPic, 1));
-    for (int row = 0; row < 4; ++row)
-        EXPECT_EQ(p.lblBack1[static_cast<std::size_t>(row)].color, Rgb(4 + row, 1, 99));
+    for (int row = 0; row < 4; ++row) EXPECT_EQ(p.lblBack1[static_cast<std::size_t>(row)].color, Rgb(4 + row, 1, 99));
     ASSERT_EQ(p.shpYearLine.Painted().size(), 256U);
     EXPECT_EQ(p.shpYearLine.Painted()[0].color, at(Element::YearLine, 1));
     EXPECT_EQ(p.shpPlayLine.Painted()[0].color, at(Element::PlayLine, 1));
@@ -236,8 +231,7 @@ TEST_F(Windows, PreviewTakesItsColors) {
     ASSERT_EQ(p.surface.Painted().size(), 256U) << "an old fade is painted over, not kept";
     const FilledRectangle& first = p.surface.Painted()[0];
     EXPECT_EQ(first.color, at(Element::Back1, 0));
-    EXPECT_EQ(std::vector<float>({first.x1, first.y1, first.x2}),
-              std::vector<float>({360, 6360, 11150}));
+    EXPECT_EQ(std::vector<float>({first.x1, first.y1, first.x2}), std::vector<float>({360, 6360, 11150}));
     EXPECT_NEAR(p.surface.Painted()[255].y2, 7575, 0.1);
 }
 
@@ -281,14 +275,12 @@ TEST_F(Windows, PreviewMakesRoomForTheConsole) {
 
 TEST_F(Windows, TextEditorShowsAndSetsAnyBox) {
     const std::string raw = Box(std::string("caf\xE9", 4), u"x");
-    BrlytData =
-        Layout_With({Box("T_PF", u"S"), Box("T_Year", u"11"), raw, Box("T_Year_ENG", u"22222"),
-                     Box("T_VCTitle_ENG", u"name"), Box("T_PF", u"longer")});
+    BrlytData = Layout_With({Box("T_PF", u"S"), Box("T_Year", u"11"), raw, Box("T_Year_ENG", u"22222"),
+                             Box("T_VCTitle_ENG", u"name"), Box("T_PF", u"longer")});
     frmHC& editor = Open_Editor();
     EXPECT_FALSE(main.form.Enabled());
-    EXPECT_EQ(editor.cmbHC.Entries(),
-              (std::vector<std::u16string>{u"T_PF", u"T_Year", u"caf\u00E9", u"T_Year_ENG",
-                                           u"T_VCTitle_ENG", u"T_PF"}));
+    EXPECT_EQ(editor.cmbHC.Entries(), (std::vector<std::u16string>{u"T_PF", u"T_Year", u"caf\u00E9", u"T_Year_ENG",
+                                                                   u"T_VCTitle_ENG", u"T_PF"}));
     EXPECT_EQ(editor.txtHC.Text(), u"longer") << "of two with the name the last is read";
     editor.cmbHC.Pick(2);
     EXPECT_EQ(editor.txtHC.Text(), u"x");
@@ -321,8 +313,7 @@ TEST_F(Windows, TextEditorWithoutLayoutDoesNothing) {
 }
 
 TEST_F(Windows, StatusTellsWhatIsLoadedAndChanged) {
-    EXPECT_EQ(main.lblLoaded.Caption(),
-              u"banner.brlyt  |  ENG GER FRA ITA SPA NED JPN  |  10876 bytes  |  saved");
+    EXPECT_EQ(main.lblLoaded.Caption(), u"banner.brlyt  |  ENG GER FRA ITA SPA NED JPN  |  10876 bytes  |  saved");
     main.info.txtESRB.Set(u"T");
     main.cmdSet_Click(2);
     EXPECT_EQ(main.lblLastCommand.Caption(), u"ESRB Rating: 1 text changed: T_ESRB_ENG");

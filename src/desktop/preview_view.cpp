@@ -105,7 +105,7 @@ void Paint_Preview(QPainter& painter, const Preview& preview, double scale) {
 PreviewView::PreviewView(Preview& preview, QWidget* parent) : QWidget(parent), preview_(preview) {
     setAccessibleName("Banner preview");
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    setMinimumSize(sizeHint() / 2);
+    setMinimumSize(PreviewView::sizeHint() / 2);
     preview_.Drawn = [this] { update(); };
 }
 
