@@ -152,7 +152,8 @@ void frmColor::cmdSaveScheme_Click() {
         failure = Failure{name, "A scheme's name cannot hold \\ or /"};
     } else {
         failure = Replace_File(Scheme_Path(program_folder_, name), Format_Scheme(Colors()),
-                               Durability::synced);
+                               Durability::synced,
+                               [this](const Failure& loss) { desktop_.Report(loss); });
     }
     if (failure) {
         desktop_.Report(*failure);

@@ -92,7 +92,9 @@ Failure Form1::Why_No_Layout() const {
     if (txtSrc.Text().empty()) return {Configuration_Path(), "Names no layout file"};
     std::string bytes;
     const auto failure = Read_File(Layout_Path(), bytes);
-    return {txtSrc.Text(), failure ? failure->reason : "Too short to be a layout"};
+    if (failure) return {txtSrc.Text(), failure->reason};
+    return {txtSrc.Text(),
+            bytes.size() < HeaderBytes ? "Too short to be a layout" : "Cannot be read"};
 }
 
 void Form1::Take_Option(std::u16string_view piece) {

@@ -16,6 +16,7 @@
 #include "manualeditor/frm_hc.h"
 #include "platform/controls.h"
 #include "platform/desktop.h"
+#include "platform/files.h"
 
 class Form1 {
  public:
@@ -118,6 +119,7 @@ class Form1 {
     Outcome Save();
     Outcome Write_Layout(const Padding& padding);
     Outcome Apply_Chosen_Looks();
+    Notice Reporting();
     void Put_Textures_Back();
 
     void Tell_Changes(std::u16string_view command, const std::function<void()>& run);

@@ -87,7 +87,11 @@ Outcome Form1::Write_Layout(const Padding& padding) {
     }
     Region_Force(BrlytData, To_Utf8(cmbForce.Selected()));
     BrlytData = AddPadding(std::move(BrlytData), padding);
-    return Replace_File(path, BrlytData, Durability::synced);
+    return Replace_File(path, BrlytData, Durability::synced, Reporting());
+}
+
+Notice Form1::Reporting() {
+    return [this](const Failure& loss) { desktop_.Report(loss); };
 }
 
 /// The first entry of either list stands for what the banner has.
@@ -121,7 +125,8 @@ Outcome Form1::ReplaceLogo(std::u16string& lgPath) {
         std::string logo;
         if (auto failure = Read_File(lgPath, logo)) return failure;
         if (auto failure = Read_File(old.path, old.bytes)) return failure;
-        if (auto failure = Replace_File(old.path, logo, Durability::synced)) return failure;
+        if (auto failure = Replace_File(old.path, logo, Durability::synced, Reporting()))
+            return failure;
         replaced_.push_back(std::move(old));
         break;
     }

@@ -3,6 +3,7 @@
 // the system's own separator.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -42,13 +43,18 @@ enum class Durability {
     unsynced,  ///< whole old or whole new after a crash of the process only
 };
 
+/// Told of what a replacement could not keep of the old file, or leaves behind.
+using Notice = std::function<void(const Failure& loss)>;
+
 /// Puts a file with exactly `bytes` in the place of `path`, or makes a new one there. The bytes are
-/// written to a temporary file in the same folder, which takes over mode and owner of the old file
-/// and is then renamed over it, so that at each moment the old or the new file is there whole. A
-/// link stays a link: the file it leads to is replaced. A file without write permission, a folder,
-/// a pipe and a device are refused. On failure the old file is untouched and no temporary file is
-/// left.
-Outcome Replace_File(const std::u16string& path, std::string_view bytes, Durability durability);
+/// written to a temporary file in the same folder, which takes over mode, owner, group, access
+/// control list and extended attributes of the old file and then trades places with it, so that at
+/// each moment the old or the new file is there whole. What cannot be taken over goes to `notice`.
+/// A link stays a link: the file it leads to is replaced. A file without write permission, a
+/// folder, a pipe and a device are refused. On failure the old file is there as it was and no
+/// temporary file is left.
+Outcome Replace_File(const std::u16string& path, std::string_view bytes, Durability durability,
+                     const Notice& notice = {});
 
 /// The folder of the running executable, without a separator at its end.
 std::u16string Program_Folder();

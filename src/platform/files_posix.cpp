@@ -1,8 +1,10 @@
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
@@ -99,15 +101,33 @@ std::string Follow_Links(std::string path) {
     Fail(ELOOP);
 }
 
-/// A file beside the target that removes itself unless it was renamed.
+/// The attributes of `old`, access control lists among them, that `fresh` could not be given.
+std::string Copy_Attributes(const std::string& old, int fresh) {
+    constexpr std::size_t LargestValue = 1 << 16;
+    const auto size = ::listxattr(old.c_str(), nullptr, 0);
+    if (size <= 0) return {};
+    std::string names(static_cast<std::size_t>(size), '\0'), lost;
+    const auto listed = ::listxattr(old.c_str(), names.data(), names.size());
+    if (listed < 0) return "attributes";
+    for (const char* name = names.data(); name < names.data() + listed;
+         name += std::strlen(name) + 1) {
+        std::string value(LargestValue, '\0');
+        const auto length = ::getxattr(old.c_str(), name, value.data(), value.size());
+        if (length < 0 ||
+            ::fsetxattr(fresh, name, value.data(), static_cast<std::size_t>(length), 0) != 0) {
+            lost.append(lost.empty() ? "" : ", ").append(name);
+        }
+    }
+    return lost;
+}
+
+/// A file beside the target that removes itself at the end.
 class TemporaryFile {
  public:
     explicit TemporaryFile(const std::string& folder)
         : path_(folder + "/.bannersmith-XXXXXX"),
           file_(Retry([&] { return ::mkostemp(path_.data(), O_CLOEXEC); })) {}
-    ~TemporaryFile() {
-        if (!path_.empty()) ::unlink(path_.c_str());
-    }
+    ~TemporaryFile() { Remove(); }
     TemporaryFile(const TemporaryFile&) = delete;
     TemporaryFile& operator=(const TemporaryFile&) = delete;
 
@@ -119,11 +139,19 @@ class TemporaryFile {
         }
     }
 
-    void Take_Over(const struct stat& old) {
-        // The owner can be kept only by a privileged user; changing it clears mode bits, so it is
-        // first.
-        if (::fchown(file_.get(), old.st_uid, old.st_gid) != 0 && errno != EPERM) Fail(errno);
+    /// Returns what could not be taken over.
+    std::string Take_Over(const std::string& target, const struct stat& old) {
+        std::string lost;
+        // Changing the owner clears mode bits and lists, so it is first. Only a privileged user may
+        // give files away, but the group may be another one of the user's own.
+        if (::fchown(file_.get(), old.st_uid, old.st_gid) != 0) {
+            const bool group_kept = ::fchown(file_.get(), static_cast<uid_t>(-1), old.st_gid) == 0;
+            lost = group_kept ? "owner" : "owner and group";
+        }
         Retry([&] { return ::fchmod(file_.get(), old.st_mode & 07777); });
+        const std::string attributes = Copy_Attributes(target, file_.get());
+        if (!attributes.empty()) lost.append(lost.empty() ? "" : ", ").append(attributes);
+        return lost;
     }
 
     void Take_Mode_Of_New_Files() {
@@ -136,10 +164,28 @@ class TemporaryFile {
         Retry([&] { return ::fsync(file_.get()); });
     }
 
-    void Rename_To(const std::string& target) {
+    /// Puts the file in the place of `target`. True: the old one is now the temporary file. False:
+    /// there was none, or the file system cannot let two files trade places.
+    bool Trade_Places(const std::string& target, bool target_exists) {
         file_.Close();
+        if (target_exists) {
+            if (Exchange(target)) return true;
+            if (errno != EINVAL && errno != ENOSYS && errno != ENOTSUP) Fail(errno);
+        }
         Retry([&] { return ::rename(path_.c_str(), target.c_str()); });
         path_.clear();
+        return false;
+    }
+
+    bool Exchange(const std::string& target) {
+        return ::renameat2(AT_FDCWD, path_.c_str(), AT_FDCWD, target.c_str(), RENAME_EXCHANGE) == 0;
+    }
+
+    /// Returns the file's name if it stays although it was to be removed.
+    std::string Remove() {
+        const std::string path = std::exchange(path_, {});
+        const auto gone = [&] { return ::unlink(path.c_str()) == 0; };
+        return path.empty() || gone() || gone() ? std::string() : path;
     }
 
  private:
@@ -148,11 +194,10 @@ class TemporaryFile {
 };
 
 /// Folders of some file systems cannot be synced at all, which is no failure.
-void Sync_Folder(const Descriptor& folder) {
-    if (::fsync(folder.get()) != 0 && errno != EINVAL && errno != ENOTSUP && errno != EINTR) {
-        throw StepFailed{std::string("Written, but its folder cannot be synced: ") +
-                         std::strerror(errno)};
-    }
+bool Sync_Folder(const Descriptor& folder) {
+    int result = ::fsync(folder.get());
+    while (result != 0 && errno == EINTR) result = ::fsync(folder.get());
+    return result == 0 || errno == EINVAL || errno == ENOTSUP;
 }
 
 std::string Folder_Of(const std::string& path) {
@@ -160,7 +205,17 @@ std::string Folder_Of(const std::string& path) {
     return folder.empty() ? "." : folder;
 }
 
-void Replace(const std::string& path, std::string_view bytes, Durability durability) {
+/// A file that is not safe from a power failure was not saved: the old one comes back.
+[[noreturn]] void Undo(TemporaryFile& fresh, const std::string& target, bool old_is_there,
+                       bool target_existed) {
+    const std::string reason = std::string("Its folder cannot be synced: ") + std::strerror(errno);
+    const bool undone =
+        old_is_there ? fresh.Exchange(target) : !target_existed && ::unlink(target.c_str()) == 0;
+    throw StepFailed{undone ? reason : "Written, but not safe from a power failure. " + reason};
+}
+
+/// Returns what was lost although the file was replaced.
+std::string Replace(const std::string& path, std::string_view bytes, Durability durability) {
     const std::string target = Follow_Links(path);
     const std::string folder_path = Folder_Of(target);
     const Descriptor folder(
@@ -176,14 +231,22 @@ void Replace(const std::string& path, std::string_view bytes, Durability durabil
 
     TemporaryFile fresh(folder_path);
     fresh.Write(bytes);
+    std::string lost;
     if (exists) {
-        fresh.Take_Over(old);
+        lost = fresh.Take_Over(target, old);
     } else {
         fresh.Take_Mode_Of_New_Files();
     }
     if (durability == Durability::synced) fresh.Sync();
-    fresh.Rename_To(target);
-    if (durability == Durability::synced) Sync_Folder(folder);
+    const bool old_is_there = fresh.Trade_Places(target, exists);
+    if (durability == Durability::synced && !Sync_Folder(folder)) {
+        Undo(fresh, target, old_is_there, exists);
+    }
+    const std::string left = fresh.Remove();
+    if (!lost.empty()) lost = "Saved, but could not keep its " + lost;
+    if (!left.empty())
+        lost += (lost.empty() ? "Saved, but" : ", and") + (" the old file stays as " + left);
+    return lost;
 }
 
 template <typename Steps>
@@ -204,8 +267,14 @@ Outcome Read_File(const std::u16string& path, std::string& bytes) {
     return Run(path, [&](const std::string& native) { bytes = Read_Whole(native); });
 }
 
-Outcome Replace_File(const std::u16string& path, std::string_view bytes, Durability durability) {
-    return Run(path, [&](const std::string& native) { Replace(native, bytes, durability); });
+Outcome Replace_File(const std::u16string& path, std::string_view bytes, Durability durability,
+                     const Notice& notice) {
+    // A limit on file sizes is then an error of the write, not the end of the process.
+    std::signal(SIGXFSZ, SIG_IGN);
+    return Run(path, [&](const std::string& native) {
+        const std::string lost = Replace(native, bytes, durability);
+        if (!lost.empty() && notice) notice({path, lost});
+    });
 }
 
 std::u16string Program_Folder() {

@@ -1,0 +1,123 @@
+#!/usr/bin/env python3
+"""sweep.py PROGRAM-FOLDER SAVE-SCHEME: kills the program before each of its file calls and makes each call
+fail, and looks at what is on disk afterwards.
+
+PROGRAM-FOLDER: where bannersmith and the samples are. SAVE-SCHEME: the program that saves a scheme as the
+colour window does. Needs strace, whose fault injection does the work.
+"""
+import collections
+import concurrent.futures
+import os
+import re
+import shutil
+import subprocess
+import sys
+import tempfile
+
+BANNER = "samples/seven_languages/arc/blyt/banner.brlyt"
+TEXTURE = "samples/seven_languages/arc/timg/my_Back_logo.tpl"
+CONFIG = "cfgs/vcinfopath.cfg"
+SCHEME = "schemes/Swept.vccs"
+ERRORS = ("ENOSPC", "EIO", "EACCES", "EDQUOT", "EINTR")
+CALLS = "%file,%desc"
+
+# What is run in a copy of the folder, and the files that it replaces.
+SCENARIOS = {
+    "layout": (["./bannersmith", "-TITLE", "Swept", "-YEAR", "2001"], [BANNER]),
+    "logo": (["./bannersmith", "-LOGO", "Comet.tpl", "-TITLE", "Swept"], [BANNER, TEXTURE]),
+    "configuration": (["./bannersmith", BANNER, "-PAD", "0"], [BANNER, CONFIG]),
+    "scheme": (["./save-scheme", "Swept"], [SCHEME]),
+}
+
+
+def read(path):
+    with open(path, "rb") as file:
+        return file.read()
+
+
+def files_of(folder):
+    return {os.path.relpath(os.path.join(at, name), folder) for at, _, names in os.walk(folder) for name in names}
+
+
+class Scenario:
+    def __init__(self, name, base, work):
+        self.name, (self.command, self.replaced) = name, SCENARIOS[name]
+        self.base, self.work = base, work
+        self.old = {file: read(os.path.join(base, file)) for file in self.replaced}
+        folder = self.copy("clean")
+        trace = os.path.join(work, name + ".trace")
+        subprocess.run(["strace", "-qq", "-o", trace, "-e", "trace=" + CALLS] + self.command, cwd=folder, check=True)
+        self.new = {file: read(os.path.join(folder, file)) for file in self.replaced}
+        self.clean = folder
+        self.calls = re.findall(r"^(\w+)\(", read(trace).decode("latin-1"), re.M)[1:]  # the first starts the program
+        shutil.rmtree(folder)
+
+    def copy(self, label):
+        folder = os.path.join(self.work, self.name + "_" + label)
+        shutil.copytree(self.base, folder)
+        return folder
+
+    def faults(self):
+        """Each call by its name and its ordinal among those of the name, killed once and failing in each way."""
+        seen = collections.Counter(["execve"])
+        for call in self.calls:
+            seen[call] += 1
+            yield call, seen[call], "signal=KILL"
+            for error in ERRORS:
+                yield call, seen[call], "error=" + error
+
+    def run(self, fault):
+        call, ordinal, effect = fault
+        label = "%s_%d_%s" % (call, ordinal, effect)
+        folder = self.copy(label)
+        before = files_of(folder)
+        inject = "inject=%s:%s:when=%d" % (call, effect, ordinal)
+        done = subprocess.run(["strace", "-qq", "-o", "/dev/null", "-e", inject] + self.command, cwd=folder,
+                              capture_output=True, timeout=60)
+        wrong = list(self.judge(folder, before, done, killed=effect == "signal=KILL"))
+        shutil.rmtree(folder)
+        return ["%s, %s: %s" % (self.name, label, what) for what in wrong]
+
+    def judge(self, folder, before, done, killed):
+        errors = done.stderr.decode()
+        now = {file: read(os.path.join(folder, file)) for file in self.replaced}
+        # The configuration holds the folder's path.
+        new = {file: contents.replace(self.clean.encode(), folder.encode()) for file, contents in self.new.items()}
+        for file in self.replaced:
+            if now[file] not in (self.old[file], new[file]):
+                yield file + " is neither the old nor the new one"
+        if killed:
+            return
+        left = files_of(folder) - before
+        if left:
+            yield "left behind: %s" % sorted(left)
+        banner_files = [file for file in self.replaced if file != CONFIG]
+        if done.returncode == 0 and any(now[file] != new[file] for file in banner_files):
+            yield "says done, but is not"
+        if done.returncode != 0 and any(now[file] != self.old[file] for file in banner_files):
+            yield "says failed (%s), but a file is new" % errors.strip()
+        if done.returncode != 0 and not re.search(r"^bannersmith: .+: .+$", errors, re.M):
+            yield "no message: status %d, %r" % (done.returncode, errors)
+
+
+def main():
+    program_folder, save_scheme = sys.argv[1:]
+    with tempfile.TemporaryDirectory() as work:
+        base = os.path.join(work, "base")
+        shutil.copytree(program_folder, base, ignore=shutil.ignore_patterns("bannersmith-*"))
+        shutil.copy(save_scheme, os.path.join(base, "save-scheme"))
+        with open(os.path.join(base, CONFIG), "wb") as file:
+            file.write(("\\" + BANNER.replace("/", "\\") + "\r\n").encode())
+        with open(os.path.join(base, SCHEME), "wb") as file:
+            file.write(b" 0  0  0  0  0  0 \r\n" * 19)
+        runs = [(s, fault) for s in (Scenario(name, base, work) for name in SCENARIOS) for fault in s.faults()]
+        with concurrent.futures.ThreadPoolExecutor(os.cpu_count() * 2) as pool:
+            wrong = [what for found in pool.map(lambda run: run[0].run(run[1]), runs) for what in found]
+    kills = sum(fault[2] == "signal=KILL" for _, fault in runs)
+    print("%d kills and %d failures" % (kills, len(runs) - kills))
+    print("\n".join(wrong))
+    return 1 if wrong or kills < 100 or len(runs) - kills < 300 else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
