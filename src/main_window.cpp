@@ -32,7 +32,10 @@ bool Display_Is_Named() {
 /// The toolkit ends with an abort when it cannot reach the display; this comes before that.
 void Leave_On_Fatal_Message(QtMsgType type, const QMessageLogContext& /*context*/,
                             const QString& text) {
-    if (type == QtFatalMsg) std::_Exit(No_Display());
+    if (type == QtFatalMsg) {
+        NoDesktop().Report({u"window", text.toStdString()});
+        std::_Exit(1);
+    }
     if (type == QtCriticalMsg) NoDesktop().Report({u"window", text.toStdString()});
 }
 

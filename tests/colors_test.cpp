@@ -70,7 +70,7 @@ TEST(SchemeFile, IsRefusedWhole) {
 
 TEST(MaterialColors, AreThirteenBytesBehindTheName) {
     std::string data = "..VCPicBase" + std::string(11, '\0') + std::string(30, '\x11') + "VCPic" +
-                       std::string(15, '\0') + std::string(30, '\x22');
+                       std::string(15, '\0') + std::string(30, '\x22') + "VCPic" + std::string(40, '\0');
     const std::string before = data;
     const std::size_t at = data.find("VCPic\0"s);
     const ColorPair colors = {Make_Color(1, 2, 3), Make_Color(4, 5, 6)};
@@ -123,6 +123,15 @@ TEST(ApplyColorScheme, WritesEachElementIntoItsMaterials) {
         EXPECT_TRUE(Get_Mat_Colors(BrlytData, material, read));
         EXPECT_EQ(read, scheme[element]) << material;
     }
+    for (const char* code : {"ENG", "GER", "FRA", "ITA", "SPA", "NED", "JPN"}) {
+        ColorPair read{};
+        EXPECT_TRUE(Get_Mat_Colors(BrlytData, "T_ESRB_" + std::string(code), read));
+        EXPECT_EQ(read, scheme[13]) << code;
+    }
+    BrlytData = "T_Year_NONE" + std::string(40, '\0');
+    const std::string none = BrlytData;
+    EXPECT_FALSE(Apply_Color_Scheme(folder.Text(), u"Mine"));
+    EXPECT_EQ(BrlytData, none);
     BrlytData = "T_VCTitle" + std::string(40, '\0');
     const std::string neutral = BrlytData;
     EXPECT_FALSE(Apply_Color_Scheme(folder.Text(), u"Mine"));

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDropEvent>
+#include <QGroupBox>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QPushButton>
@@ -17,6 +18,7 @@
 #include "desktop/text_editor_view.h"
 #include "desktop/widgets.h"
 #include "layout/mod_globals.h"
+#include "platform/text.h"
 #include "samples/banners.h"
 #include "support.h"
 
@@ -224,6 +226,55 @@ TEST_F(Widgets, EditColorsAndPaintThem) {
     }
     EXPECT_EQ(pixel(5800, 6000), box(Element::VCPic, 1));
     EXPECT_EQ(pixel(400, 9700), outside);
+}
+
+/// Every caption of a window, in alphabetical order.
+std::string Captions(const QWidget& window) {
+    QStringList captions;
+    for (const QWidget* widget : window.findChildren<QWidget*>()) {
+        const QString caption = widget->property(qobject_cast<const QGroupBox*>(widget) ? "title" : "text").toString();
+        const bool input = qobject_cast<const QLineEdit*>(widget) || widget->inherits("ElidedLabel");
+        if (!input && !caption.isEmpty()) captions << QString(caption).remove('&');
+    }
+    captions.sort();
+    return captions.join("|").toStdString();
+}
+
+TEST_F(Widgets, AreCaptionedAsTheyShouldBe) {
+    window->lblLoaded.Set(u"");
+    EXPECT_EQ(Captions(*view),
+              "....|Color Editor And Preview|Colors:|ESRB Rating:|File:|Game Info|Hardcore Manual Text Editor|Logo:|"
+              "Name:|No Dashes!!  (E.g.  Type \"2\" for \"1-2\")|Padding (fixes corrupted images)|Players:|"
+              "Region Force:|Save Changes|Set|Set|Set|Set|Set|Set All|Set All|Set All|System:|Year:");
+    Press(*view, "Edit colors");
+    EXPECT_EQ(Captions(*Find<ColorWindowView>()),
+              "Back0|Back1|Back2|Back3|Back4|BackMask1|BackMask2|Get Color Scheme|Load From brlyt:|PFLINE|PlayLine|"
+              "SaveScheme|Select Scheme:|Select a Color by Clicking on it and edit it to the right.  Click the \"Set\" "
+              "button to update.|Set|Shade|T_ESRB|T_PF|T_Play|T_VCTitle|T_Year|VCPic|VCPicBase|VCPicSha|YearLine");
+    window->cmdHC_Click();
+    EXPECT_EQ(Captions(*Find<TextEditorView>()), "Entry Name:|Set|Value:");
+    for (const auto& [name, bold] :
+         {std::pair{"Name", true}, {"System", true}, {"Year", true}, {"Players", true}, {"ESRB Rating", false}}) {
+        const QLineEdit& field = Named<QLineEdit>(*view, name);
+        EXPECT_EQ(field.font().bold(), bold) << name;
+        EXPECT_EQ(field.font().pointSizeF(), 8.25) << name;
+        EXPECT_EQ(field.alignment().testFlag(Qt::AlignHCenter), std::string(name) == "Players");
+    }
+}
+
+TEST_F(Widgets, KeepTextsAsTheyAre) {
+    for (const std::u16string text : {u"\xFEFF"
+                                      u"a",
+                                      u"\xFFFE"
+                                      u"a",
+                                      u"\xD800 \xDC00", u"\u65E5^"}) {
+        window->info.txtName.Set(text);
+        QLineEdit& edit = Named<QLineEdit>(*view, "Name");
+        edit.setFocus();
+        QTest::keyClick(&edit, Qt::Key_End);
+        QTest::keyClicks(&edit, "x");
+        EXPECT_EQ(Hex(To_Utf8(window->info.txtName.Text())), Hex(To_Utf8(text + u"x")));
+    }
 }
 
 TEST_F(Widgets, NameEveryInput) {

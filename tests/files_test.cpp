@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <csignal>
 
 #include "platform/controls.h"
 #include "platform/files.h"
@@ -12,7 +14,8 @@ namespace {
 namespace fs = std::filesystem;
 
 TEST(Text, SurvivesTheWayThroughUtf8) {
-    for (const std::string bytes : {"", "plain", "\xE5\xB9\xB4\xF0\x9F\x98\x80", "bad \xFF\xC3 bytes", "\xC3"}) {
+    for (const std::string bytes :
+         {"", "plain", "\xE5\xB9\xB4\xF0\x9F\x98\x80", "\xF4\x8F\xBF\xBF", "bad \xFF\xC3 bytes", "\xC3"}) {
         EXPECT_EQ(To_Utf8(From_Utf8(bytes)), bytes);
     }
     EXPECT_EQ(From_Utf8("\xF0\x9F\x98\x80"), u"\xD83D\xDE00");
@@ -22,10 +25,12 @@ TEST(Text, SurvivesTheWayThroughUtf8) {
               "b");
     EXPECT_EQ(To_Bytes(u"\u00E9"), "\xE9");
     EXPECT_EQ(To_Bytes(u"\u0100"), std::nullopt);
+    EXPECT_EQ(To_Bytes(u"\u00FF"), "\xFF");
     EXPECT_EQ(From_Bytes("\xE9\x41"),
               u"\u00E9"
               u"A");
     EXPECT_EQ(Trim(u"  \ta b  "), u"\ta b");
+    EXPECT_EQ(Trim(u" \na\t "), u"\na\t");
     EXPECT_EQ(Capitals(u"aZz\u00E9_9"), u"AZZ\u00E9_9");
     EXPECT_EQ(Replace_All(u"aaa", u"aa", u"b"), u"ba");
 }
@@ -39,8 +44,12 @@ TEST(Paths, AreConvertedWhereTheyMeetTheFileSystem) {
     EXPECT_FALSE(Ordinary_File_Exists(folder.Text() + u"\\sub"));
     EXPECT_FALSE(Ordinary_File_Exists(u""));
     EXPECT_FALSE(Ordinary_File_Exists(folder.Text() + u"\\sub\\File.TPL" + std::u16string(1, 0) + u"x"));
-    EXPECT_TRUE(Folder_Exists(folder.Text() + u"\\sub\\"));
-    EXPECT_FALSE(Folder_Exists(folder.Text() + u"\\sub\\File.TPL"));
+    fs::create_symlink("sub/File.TPL", folder.Path() / "link");
+    EXPECT_TRUE(Ordinary_File_Exists(folder.Text() + u"/link"));
+    bool found = false;
+    EXPECT_TRUE(!Find_Folder(folder.Text() + u"\\sub\\", found) && found);
+    EXPECT_TRUE(!Find_Folder(folder.Text() + u"\\sub\\File.TPL", found) && !found);
+    EXPECT_TRUE(!Find_Folder(folder.Text() + u"\\none", found) && !found);
     EXPECT_EQ(Resolve(u"/prog", u"\\x"), u"/prog\\x");
     EXPECT_EQ(Resolve(u"/prog", u"x\\y"), u"x\\y");
     EXPECT_TRUE(Is_Full_Path(u"C:\\x") && Is_Full_Path(u"/x") && !Is_Full_Path(u"\\x"));
@@ -85,13 +94,41 @@ TEST(ReplaceFile, MakesAndReplacesFilesWhole) {
     const TempFolder folder;
     const std::u16string file = folder.Text() + u"/f";
     EXPECT_FALSE(Replace_File(file, std::string(100000, 'a'), Durability::synced));
+    struct stat made {};
+    ::stat((folder.Path() / "f").c_str(), &made);
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
+    EXPECT_EQ(made.st_mode & 07777, 0666 & ~mask);
     EXPECT_FALSE(Replace_File(file, "short", Durability::unsynced));
     EXPECT_EQ(folder.Read("f"), "short");
-    ::chmod((folder.Path() / "f").c_str(), 0640);
+    if (::geteuid() == 0) {
+        EXPECT_EQ(::chown((folder.Path() / "f").c_str(), 65534, 65534), 0);
+    }
+    struct stat owned {};
+    ::stat((folder.Path() / "f").c_str(), &owned);
+    ::chmod((folder.Path() / "f").c_str(), 03640);
     EXPECT_FALSE(Replace_File(file, "b", Durability::synced));
     struct stat info {};
     ::stat((folder.Path() / "f").c_str(), &info);
-    EXPECT_EQ(info.st_mode & 07777, 0640U);
+    EXPECT_EQ(info.st_mode & 07777, 03640U);
+    EXPECT_EQ(info.st_uid, owned.st_uid);
+    EXPECT_EQ(info.st_gid, owned.st_gid);
+    EXPECT_EQ(folder.Names(), std::vector<std::string>{"f"});
+}
+
+TEST(ReplaceFile, AFailedWriteLeavesTheOldFile) {
+    const TempFolder folder;
+    folder.Write("f", "old");
+    struct rlimit before {};
+    ::getrlimit(RLIMIT_FSIZE, &before);
+    const struct rlimit small { 1000, before.rlim_max };
+    const auto handler = ::signal(SIGXFSZ, SIG_IGN);
+    ::setrlimit(RLIMIT_FSIZE, &small);
+    const Outcome failure = Replace_File(folder.Text() + u"/f", std::string(5000, 'x'), Durability::synced);
+    ::setrlimit(RLIMIT_FSIZE, &before);
+    ::signal(SIGXFSZ, handler);
+    EXPECT_TRUE(failure && failure->reason == "File too large");
+    EXPECT_EQ(folder.Read("f"), "old");
     EXPECT_EQ(folder.Names(), std::vector<std::string>{"f"});
 }
 
@@ -107,6 +144,9 @@ TEST(ReplaceFile, KeepsLinks) {
     EXPECT_TRUE(fs::is_symlink(folder.Path() / "two") && fs::is_symlink(folder.Path() / "one"));
     EXPECT_FALSE(Replace_File(folder.Text() + u"/dangling", "made", Durability::synced));
     EXPECT_EQ(folder.Read("real/new"), "made");
+    fs::create_symlink(folder.Path() / "real/f", folder.Path() / "real/absolute");
+    EXPECT_FALSE(Replace_File(folder.Text() + u"/real/absolute", "again", Durability::synced));
+    EXPECT_EQ(folder.Read("real/f"), "again");
     EXPECT_TRUE(Replace_File(folder.Text() + u"/loop", "x", Durability::synced));
 }
 

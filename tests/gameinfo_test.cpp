@@ -47,6 +47,7 @@ TEST(Composing, NormalisesTheValue) {
     for (const Case& c : {Case{u"", u"1-2", u"1\uFF5E2"},
                           {u"1", u"1", u"1"},
                           {u"12", u"1-12", u"1\uFF5E12"},
+                          {u" 1", u"1- 1", u"1\uFF5E 1"},
                           {u"1-2", u"1-1-2", u"1\uFF5E1\uFF5E2"}}) {
         std::u16string value = c.value;
         EXPECT_EQ(Make_Players(value, u"ENG"), u"Players: " + std::u16string(c.english));
@@ -77,6 +78,10 @@ TEST(BareValue, IsReadBack) {
         {bare_value::Players, u"x^1\uFF5E2\u4EBA", u"2"},
         {bare_value::Players, u"x^", u""},
         {bare_value::Players, u"x^y", u""},
+        {bare_value::Players, u"x y^1\uFF5E2\u4EBA", u"x"},
+        {bare_value::Players, u"a b: 2", u"2"},
+        {bare_value::Year, u"0123 and more", u"0123"},
+        {bare_value::Year, u"9876 and more", u"9876"},
         {bare_value::Players, u"12", u""},
         {bare_value::Players, u"", u""},
         {bare_value::Rating, u"ESRB Rating:  E10+ ", u"E10+"},
@@ -120,6 +125,14 @@ TEST(Refill, ForgetsTheLayoutBefore) {
     info.Refill();
     EXPECT_EQ(info.Fields(), (Texts{u"", u"", u"", u"", u""}));
     EXPECT_EQ(info.Selections(), (Texts{u"NONE", u"NONE", u"NONE", u"NONE"}));
+    BrlytData = Layout_With({Box("T_VCTitle_ENG", u"New"), Box("T_Play_ENG", u"Players: 1-4")});
+    info.Refill();
+    EXPECT_EQ(info.Fields(), (Texts{u"New", u"", u"4", u"", u""}));
+    NoneRegion.clear();
+    BrlytData = Layout_With({Box("T_VCTitle_ENG", u"X")});
+    info.Refill();
+    EXPECT_EQ(info.Fields(), (Texts{u"X", u"", u"", u"", u""}));
+    EXPECT_EQ(NoneRegion, u"") << "only the name's selector counts";
 }
 
 TEST(Refill, TellsTheNeutralWording) {
@@ -148,6 +161,8 @@ TEST(Selectors, ShowTheirLanguage) {
                  Box("T_VCTitle", u"neutral")});
     for (DropDownList& list : info.cmbRegion) list.Pick(4);
     EXPECT_EQ(info.Fields(), (Texts{u"", u"1990", u"", u"M", u""})) << "only the year stays";
+    info.cmbRegion[3].Pick(5);
+    EXPECT_EQ(info.txtESRB.Text(), u"");
     info.cmbRegion[0].Pick(7);
     EXPECT_EQ(info.txtName.Text(), u"neutral");
     info.txtName.Set(u"typed");
@@ -196,6 +211,10 @@ TEST(SetAll, WritesEveryLanguageAndTheNeutralBox) {
     info.txtSystem.Set(u"New");
     for (const int index : {0, 1, 2, 3, 4, 5, -1}) info.cmdSetAll_Click(static_cast<std::int16_t>(index));
     const std::string once = BrlytData;
+    info.txtSystem.Set(u"not set");
+    for (const int index : {0, 1, 2, 4}) info.cmdSetAll_Click(static_cast<std::int16_t>(index));
+    EXPECT_EQ(BrlytData, once);
+    info.txtSystem.Set(u"New");
     for (const int index : {0, 1, 2, 3, 4}) info.cmdSetAll_Click(static_cast<std::int16_t>(index));
     EXPECT_EQ(BrlytData, once);
     EXPECT_EQ(Read_Box(u"T_VCTitle"), u"Name");
@@ -210,6 +229,9 @@ TEST(SetAll, EndsWithTheNeutralWording) {
     Loaded info(
         {Box("T_VCTitle", u"N"), Box("T_Year", u"1985\u5E74\u767A\u58F2"), Box("T_Play", u"p"), Box("T_ESRB", u"r")});
     ASSERT_EQ(NoneRegion, u"JPN");
+    info.txtYear.Set(u"1998");
+    info.cmdSet_Click(1);
+    EXPECT_EQ(Read_Box(u"T_Year"), u"1998\u5E74\u767A\u58F2");
     info.txtYear.Set(u"1999");
     info.txtPlayers.Set(u"3");
     info.txtName.Set(u"Name");

@@ -44,19 +44,20 @@ TEST(Samples, AreSafeToEditAndStayAsTheyAre) {
 }
 
 TEST(Inspect, ShowsWhatTheLayoutHolds) {
-    const std::string layout = Layout_With({Material_Section({{"Shade", {1, 2, 3, 4}, {5, 6, 7, -8}}}),
-                                            Box("A", u"a\"\n\u3042\xD800"), Group_Section("ENG", {"A", "B"})});
+    const std::string layout =
+        Layout_With({Material_Section({{"Shade", {1, 2, 3, 4}, {5, 6, 7, -8}}}), Box("A", u"a\"\n\u3042\xD800"),
+                     Group_Section("ENG", {"A", "B"}), Group_Section("R\\", {})});
     const FileReport report{"f", Read_Layout(layout), {"w"}};
     EXPECT_EQ(As_Text(report),
-              "f\n  header length 292, file size 292\n"
+              "f\n  header length 320, file size 320\n"
               "  text     A                buffer    12 length    12  a\"^\xE3\x81\x82\xEF\xBF\xBD\n"
               "  material Shade              1   2   3   4     5   6   7  -8\n"
-              "  group    ENG              A B\n  warning: w\n");
+              "  group    ENG              A B\n  group    R\\              \n  warning: w\n");
     EXPECT_EQ(As_Json({report}),
-              R"([{"file": "f", "file_size": 292, "header_length": 292, "text_boxes": [{"name": "A", )"
+              R"([{"file": "f", "file_size": 320, "header_length": 320, "text_boxes": [{"name": "A", )"
               R"("text": "a\"^\u3042\ud800", "buffer_length": 12, "text_length": 12}], "materials": )"
               R"([{"name": "Shade", "first": [1, 2, 3, 4], "second": [5, 6, 7, -8]}], "groups": )"
-              R"([{"name": "ENG", "members": ["A", "B"]}], "warnings": ["w"]}])"
+              R"([{"name": "ENG", "members": ["A", "B"]}, {"name": "R\\", "members": []}], "warnings": ["w"]}])"
               "\n");
 }
 
@@ -73,6 +74,8 @@ TEST(Inspect, WarnsOfWhatAnEditWouldNotRewriteCleanly) {
         {"another place", {Odd_Box("A", hi + hi, 6, 6)}},
         {"another place", {Odd_Box("A", "", 0, 0)}},
         {"below text length", {Odd_Box("A", hi, 4, 6)}},
+        {"zero code units", {Odd_Box("A", "\0a\0\0\0\0\0\0"s, 6, 6)}},
+        {"does not end with the layout", {"abcd\0\0\0\x64"s}},
         {"zero code units", {Odd_Box("A", "\0a\0\0\0b\0\0"s, 8, 8)}},
         {"begins the name point_o", {Box("point", u"a"), Box("point_o", u"b")}},
         {"another record", {Box("A", u"a"), Box("A", u"bbb")}},

@@ -147,6 +147,7 @@ TEST(SetText, FindsItsBoxByThePrefix) {
         {"neutral box only", {"T_Year", "T_Year_ENG"}, "T_Year_NONE", "T_Year"},
         {"no neutral box", {"T_Year_ENG"}, "T_Year_NONE", ""},
         {"ending in other letters", {"T_Year"}, "T_Year_none", ""},
+        {"ending in mixed letters", {"T_Year"}, "T_Year_None", ""},
     };
     for (const Case& c : cases) {
         std::vector<std::string> boxes;
@@ -158,6 +159,18 @@ TEST(SetText, FindsItsBoxByThePrefix) {
         }
         EXPECT_EQ(changed, c.changed) << c.what;
     }
+}
+
+TEST(SetText, WritesBehindTheFieldsOfAnEmptyRecord) {
+    std::string box = Box("B", u"x").substr(0, 0x50);
+    Write_U32(box, 4, 0x50);
+    Write_U16(box, 0x4E, 0);
+    EXPECT_EQ(Get_Text(Set_Text(Layout_With({box}), "B", u"new"), "B"), u"new");
+}
+
+TEST(GetText, TestsThePieceInFrontOfTheFirstTag) {
+    const std::string box = Box("T_Year_ENG", u"x");
+    EXPECT_EQ(Get_Text(box.substr(4, 8) + "T_Year\0\0"s + box, "T_Year"), u"x");
 }
 
 TEST(SetText, ReplacesEveryIdenticalRecord) {
@@ -266,6 +279,7 @@ TEST(FileLength, IsWrittenBehindTheVersion) {
     expected.replace(8, 4, "\0\0\x1F\x40"s);
     EXPECT_EQ(Set_File_Len(layout), expected);
     EXPECT_EQ(Set_File_Len("12345678901"), "12345678901");
+    EXPECT_EQ(Set_File_Len("123456789012"), "12345678\0\0\0\x0C"s);
 }
 
 TEST(Padding, FollowsItsText) {
@@ -285,6 +299,7 @@ TEST(Padding, FollowsItsText) {
                           {u"+", 0},
                           {u"-5", 0},
                           {u"+-5", 0},
+                          {u"++5", 0},
                           {u"12 ", 0},
                           {u"1.5", 0},
                           {u"\u0661", 0},

@@ -56,6 +56,9 @@ TEST_F(MainWindow, StartsWithTheConfiguredLayout) {
     EXPECT_EQ(window->cmbFileList.Entries(), (Entries{u"Current Brlyt", u"apple", u"Zebra"}));
     EXPECT_EQ(window->cmbLogo.Entries(), (Entries{u"Current Logo", u"New.tpl"}));
     EXPECT_EQ(window->cmbFileList.Index() + window->cmbLogo.Index(), 0);
+    window->RefreshColorList_Here();
+    window->RefreshLogoList();
+    EXPECT_EQ(window->cmbFileList.Count() + window->cmbLogo.Count(), 5);
 }
 
 TEST_F(MainWindow, NeedsItsConfiguration) {
@@ -122,6 +125,9 @@ TEST_F(MainWindow, BrowsesForAFile) {
     EXPECT_EQ(window->txtSrc.Text(), u"\\c/arc/blyt/other.brlyt");
     EXPECT_EQ(folder.Read(Configuration), "\\c/arc/blyt/other.brlyt\r\n");
     EXPECT_EQ(BrlytData, Neutral_Banner());
+    desktop.file = folder.Text() + u"\\c\\arc\\blyt\\other.brlyt";
+    window->cmdFileBrowse_Click();
+    EXPECT_EQ(window->txtSrc.Text(), u"\\c\\arc\\blyt\\other.brlyt");
     const TempFolder elsewhere;
     elsewhere.Write("x.brlyt", Neutral_Banner());
     desktop.file = elsewhere.Text() + u"/x.brlyt";
@@ -131,8 +137,10 @@ TEST_F(MainWindow, BrowsesForAFile) {
 
 TEST_F(MainWindow, SavesOnlyWhatTheWriterChanges) {
     std::string layout = Seven_Language_Banner();
-    const std::size_t buffer = layout.find("T_Play_GER", layout.find("txt1")) - 0x0C + 0x4C;
-    Write_U16(layout, buffer, 100);
+    for (const char* box : {"T_VCTitle_ENG", "T_Year_JPN", "T_Play_GER", "T_ESRB_NED", "T_PF"}) {
+        const std::size_t buffer = layout.find(box, layout.find("txt1")) - 0x0C + 0x4C;
+        Write_U16(layout, buffer, 100);
+    }
     folder.Write(Layout, layout + std::string(999, '\0'));
     Start();
     window->cmdSave_Click();
@@ -142,11 +150,44 @@ TEST_F(MainWindow, SavesOnlyWhatTheWriterChanges) {
     expected.resize(12000, '\0');
     EXPECT_EQ(Hex(folder.Read(Layout)), Hex(expected));
     EXPECT_EQ(folder.Read(Texture), "old texture");
+    std::string neutral = Neutral_Banner();
+    for (const char* box : {"T_VCTitle", "T_Year", "T_Play", "T_ESRB"}) {
+        Write_U16(neutral, neutral.find(box, neutral.find("txt1")) - 0x0C + 0x4C, 100);
+    }
+    folder.Write(Layout, neutral);
+    Start();
+    window->txtPad.Set(u"");
+    window->cmdSave_Click();
+    EXPECT_EQ(Hex(folder.Read(Layout)), Hex(neutral)) << "neutral boxes take no part";
+}
+
+TEST_F(MainWindow, SavesWithASchemeAloneAndStoresThePath) {
+    folder.Write("schemes/My.1.vccs", Format_Scheme(Shipped_Schemes()[3].scheme));
+    Start();
+    EXPECT_EQ(window->cmbFileList.Entries()[2], u"My.1");
+    window->cmbFileList.Pick(2);
+    folder.Write(Configuration, "x");
+    NoneRegion = u"JPN";
+    window->cmdSave_Click();
+    EXPECT_EQ(folder.Read(Configuration), "\\b\\arc\\blyt\\banner.brlyt\r\n");
+    EXPECT_EQ(NoneRegion, u"");
+    ColorPair pair;
+    ASSERT_TRUE(Get_Mat_Colors(folder.Read(Layout), "VCPic", pair));
+    EXPECT_EQ(pair, Shipped_Schemes()[3].scheme[14]);
+}
+
+TEST_F(MainWindow, AFailureAfterASaveKeepsTheSavedTexture) {
+    Start();
+    window->cmbLogo.Pick(1);
+    window->cmdSave_Click();
+    window->txtPad.Set(u"x");
+    window->cmdSave_Click();
+    EXPECT_EQ(folder.Read(Texture), "new texture");
 }
 
 TEST_F(MainWindow, SavesWithLooksForceAndPadding) {
     folder.Write("schemes/Mine.vccs", Format_Scheme(Shipped_Schemes()[3].scheme));
-    folder.Write(Layout, German_Japanese_Banner());
+    folder.Write(Layout, Layout_With({German_Japanese_Banner().substr(16), Material_Section({{"T_ESRB_ENG"}})}));
     Start();
     window->cmbFileList.Pick(2);
     window->cmbLogo.Pick(1);
@@ -160,6 +201,12 @@ TEST_F(MainWindow, SavesWithLooksForceAndPadding) {
     ASSERT_TRUE(Get_Mat_Colors(saved, "VCPic", pair));
     EXPECT_EQ(pair, Shipped_Schemes()[3].scheme[14]);
     EXPECT_NE(saved.find("T_ESRB_ENG"), saved.npos);
+    for (std::size_t at = saved.find("T_ESRB_ENG\0\0\0\0\0\0\0\0\0\0"s); at != saved.npos;
+         at = saved.find("T_ESRB_ENG\0\0\0\0\0\0\0\0\0\0"s, at + 1)) {
+        if (saved.substr(at - 0x0C, 4) == "txt1") continue;
+        ASSERT_TRUE(Get_Mat_Colors(std::string_view(saved).substr(at), "T_ESRB_ENG", pair));
+        EXPECT_EQ(pair, Shipped_Schemes()[3].scheme[13]) << "force is after the scheme";
+    }
     EXPECT_EQ(folder.Read(Texture), "new texture");
     EXPECT_EQ(window->cmbFileList.Index(), 2) << "the lists keep their selections";
     EXPECT_TRUE(desktop.failures.empty());
@@ -202,6 +249,9 @@ TEST_F(MainWindow, AFailedSaveLeavesEverythingAsItWas) {
 }
 
 TEST_F(MainWindow, RefusesToSaveNothing) {
+    folder.Write(Layout, "RLYT12345678");
+    EXPECT_EQ(Start(u"-PAD 0"), Form1::Done);
+    EXPECT_EQ(folder.Read(Layout), "RLYT1234\0\0\0\x0C"s);
     for (const char* contents : {"", "RLYT\xFE\xFF\0\x08\0\0\0"}) {
         folder.Write(Layout, contents);
         Start();
@@ -218,6 +268,7 @@ TEST_F(MainWindow, ReplacesTheFirstTextureThatIsTheLogo) {
     folder.Write("b/arc/timg/my_BackY.tpl", "second");
     folder.Write("b/arc/timg/my_backA.tpl", "not the logo");
     folder.Write("b/arc/timg/my_BackA.txt", "no texture");
+    folder.Write("b/arc/timg/my_Bac.tpl", "no logo");
     folder.Write("other.tpl", "other");
     Start();
     struct Case {
@@ -236,8 +287,22 @@ TEST_F(MainWindow, ReplacesTheFirstTextureThatIsTheLogo) {
         EXPECT_EQ(folder.Read(Texture), c.texture);
     }
     EXPECT_EQ(folder.Read("b/arc/timg/my_BackY.tpl"), "second");
+    EXPECT_EQ(folder.Read("b/arc/timg/my_Bac.tpl"), "no logo");
+    folder.Write("p/blyt/l.brlyt2/blyt/l.brlyt", Neutral_Banner());
+    folder.Write("p/2/timg/my_Back.tpl", "old");
+    window->txtSrc.Set(u"\\p\\blyt\\l.brlyt2\\blyt\\l.brlyt");
+    std::u16string twice = u"New.tpl";
+    EXPECT_FALSE(window->ReplaceLogo(twice));
+    EXPECT_EQ(folder.Read("p/2/timg/my_Back.tpl"), "new texture");
+    window->txtSrc.Set(folder.Text() + u"/b/arc/blyt/banner.brlyt");
+    twice = u"\\other.tpl";
+    EXPECT_FALSE(window->ReplaceLogo(twice));
+    EXPECT_EQ(folder.Read(Texture), "other");
     EXPECT_EQ(folder.Read("b/arc/timg/my_backA.tpl"), "not the logo");
 
+    std::u16string drive = u"C:\\None.tpl";
+    EXPECT_TRUE(window->ReplaceLogo(drive));
+    EXPECT_EQ(drive, u"C:\\None.tpl");
     std::u16string missing = u"None.tpl";
     EXPECT_TRUE(window->ReplaceLogo(missing));
     std::filesystem::rename(folder.Path() / "b/arc/timg", folder.Path() / "b/arc/TIMG2");
@@ -255,6 +320,7 @@ TEST_F(MainWindow, SetForceSelectsByCode) {
         std::u16string argument = code;
         window->SetForce(argument);
         EXPECT_EQ(window->cmbForce.Selected(), selected);
+        EXPECT_EQ(argument, Capitals(code));
     }
 }
 
@@ -269,7 +335,7 @@ TEST(RegionForce, RenamesTheFirstTitledLanguagesItems) {
         data = titles + items;
         EXPECT_EQ(Region_Force(data, region), titles + items) << region;
     }
-    data = Box("T_VCTitle_GER", u"") + items;
+    data = Box("T_VCTitle_GER", u"") + Box("T_VCTitle_NONE", u"x") + items + "LNONE";
     const std::string untitled = data;
     EXPECT_EQ(Region_Force(data, "ITA"), untitled);
 }
@@ -314,6 +380,13 @@ TEST_F(MainWindow, AppliesOptionsInTheirOrder) {
         {u"-YEAR \"1985\"", "T_Year_ENG", "Released: \"1985\""},
         {u"-YEAR ", "T_Year_NED", "Release: ????"},
         {u"-YEAR", "T_Year_ENG", "Released: 1991"},
+        {u"-TITLE \" x \"", "T_VCTitle_ENG", " x "},
+        {u"-T_GER \" x \"", "T_VCTitle_GER", " x "},
+        {u"-H_T_VCTitle_GER \" x \"", "T_VCTitle_GER", " x "},
+        {u"-Y_GER ", "T_Year_GER", "Erschienen: ????"},
+        {u"-SYSTEM New", "T_PF", "New"},
+        {u"-PLAY \"4\"", "T_Play_ENG", "Players: 1-4"},
+        {u"-ESRB \"T\"", "T_ESRB_ENG", "ESRB Rating: T"},
         {u"-y_ger \"85\"", "T_Year_GER", "Erschienen: 85"},
         {u"-Y_GER 85", "T_Year_ENG", "Released: 1991"},
         {u"-E_FRA T", "T_ESRB_FRA", "Classement ESRB: T"},
@@ -322,6 +395,7 @@ TEST_F(MainWindow, AppliesOptionsInTheirOrder) {
         {u"-4", "T_Play_GER", "1-2 Spieler"},
         {u"-SYSTEM \"X\" 1", "T_PF", "X 1"},
         {u"-H_T_Year_SPA raw \"text\" ", "T_Year_SPA", "raw text"},
+        {u"-h_T_Year_SPA x", "T_Year_SPA", "x"},
         {u"-h_T_year_SPA x", "T_Year_SPA", "A\u00F1o: 1991"},
         {u"-H_T_VCTitle x", "T_VCTitle_JPN", "x"},
         {u"-T_G x", "T_VCTitle_GER", "Der Sternenbote"},
@@ -337,13 +411,22 @@ TEST_F(MainWindow, AppliesOptionsInTheirOrder) {
 }
 
 TEST_F(MainWindow, BatchOptionsReachTheSave) {
-    EXPECT_EQ(Start(u"-FORCE xx -force Jpn -PAD +8 -PAD \"+4\" -LOGO New.tpl -COLOR Zebra -color "
+    folder.Write("schemes/apple.vccs", Format_Scheme(Shipped_Schemes()[3].scheme));
+    EXPECT_EQ(Start(u"-FORCE xx -force \"Jpn\" -PAD +8 -PAD \"+4\" -LOGO \"New.tpl\" -COLOR Zebra -color "
                     u"\"apple\""),
               Form1::Done);
     EXPECT_EQ(window->cmbForce.Selected(), u"JPN");
     EXPECT_EQ(folder.Read(Layout).size(), Seven_Language_Banner().size() + 4);
     EXPECT_EQ(folder.Read(Texture), "new texture");
     EXPECT_EQ(window->cmbFileList.Count() + window->cmbLogo.Count(), 0);
+    ColorPair pair;
+    ASSERT_TRUE(Get_Mat_Colors(folder.Read(Layout), "VCPic", pair));
+    EXPECT_EQ(pair, Shipped_Schemes()[3].scheme[14]);
+    folder.Write(Layout, German_Japanese_Banner());
+    EXPECT_EQ(Start(u"-FORCE ENG"), Form1::Done);
+    EXPECT_NE(folder.Read(Layout).find("T_ESRB_ENG"), std::string::npos);
+    EXPECT_EQ(Start(u"\"b/arc/blyt/banner.brlyt\" -PAD 0"), Form1::NoLayout);
+    EXPECT_EQ(Start(u"b/arc/blyt/banner.brlyt -LOGO New.tpl"), Form1::Done);
 }
 
 TEST_F(MainWindow, AFailedRunChangesNoBanner) {
@@ -355,11 +438,13 @@ TEST_F(MainWindow, AFailedRunChangesNoBanner) {
     const Case cases[] = {
         {u"-LOGO New.tpl -PAD x", 1, "Padding \"x\""},
         {u"-LOGO New.tpl -COLOR none -LOGO New.tpl", 1, "\\schemes\\none.vccs"},
+        {u"-LOGO New.tpl -LOGO \\second.tpl -COLOR none -COLOR none", 1, "\\schemes\\none.vccs"},
         {u"-TITLE x -LOGO none.tpl", 1, "\\logos\\none.tpl"},
         {u"none.brlyt -LOGO New.tpl", 2, "\\none.brlyt"},
         {u"b -LOGO New.tpl", 2, "\\b"},
     };
     for (const Case& c : cases) {
+        folder.Write("second.tpl", "second");
         desktop.failures.clear();
         EXPECT_EQ(Start(c.command_line), c.status);
         ASSERT_EQ(desktop.failures.size(), 1U) << To_Utf8(c.command_line);
@@ -367,6 +452,8 @@ TEST_F(MainWindow, AFailedRunChangesNoBanner) {
         EXPECT_EQ(folder.Read(Layout), Seven_Language_Banner());
         EXPECT_EQ(folder.Read(Texture), "old texture");
     }
+    EXPECT_EQ(Start(u"C:\\none.brlyt -TITLE x"), Form1::NoLayout);
+    EXPECT_EQ(window->txtSrc.Text(), u"C:\\none.brlyt");
     folder.Write(Configuration, "\r\n");
     EXPECT_EQ(Start(u"-TITLE x"), Form1::NoLayout);
 }

@@ -102,6 +102,7 @@ TEST_F(Program, InspectTellsByItsStatus) {
     EXPECT_EQ(bad.errors, "bannersmith-inspect: " + base + "text: Not a layout file\nbannersmith-inspect: " + base +
                               "none: No such file or directory\n");
     EXPECT_NE(bad.output.find("warning: text box A"), bad.output.npos);
+    EXPECT_EQ(Run("bannersmith-inspect", base + "text " + base + "twice").status, 2);
 }
 
 }  // namespace

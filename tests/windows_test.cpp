@@ -173,9 +173,12 @@ TEST_F(Windows, SavedSchemesAreListed) {
     const Scheme before = Boxes_Of(again);
     again.cmbFileList.Pick(5);
     EXPECT_EQ(Boxes_Of(again), before);
-    desktop.answer = u"a/b";
-    again.cmdSaveScheme_Click();
-    EXPECT_EQ(desktop.failures.size(), 2U);
+    for (const char16_t* name : {u"a/b", u"a\\b", u".hidden"}) {
+        desktop.answer = name;
+        again.cmdSaveScheme_Click();
+    }
+    EXPECT_EQ(desktop.failures.size(), 4U);
+    EXPECT_EQ(desktop.messages.size(), 1U);
 }
 
 TEST(Gradients, FadeBandByBand) {
@@ -324,6 +327,15 @@ TEST_F(Windows, StatusTellsWhatIsLoadedAndChanged) {
     main.cmdSave_Click();
     EXPECT_FALSE(main.Has_Unsaved_Changes());
     EXPECT_EQ(main.lblLastCommand.Caption(), u"Saved");
+    frmHC& editor = Open_Editor();
+    editor.txtHC.Set(u"new");
+    editor.cmdSet_Click();
+    EXPECT_EQ(main.lblLastCommand.Caption(), u"Text editor: 1 text changed: T_PF");
+    EXPECT_TRUE(main.lblLoaded.Caption().ends_with(u"unsaved changes"));
+    main.Close_Text_Editor();
+    main.txtPad.Set(u"x");
+    main.cmdSave_Click();
+    EXPECT_EQ(main.lblLastCommand.Caption(), u"Not saved");
     main.txtSrc.Set(u"x");
     EXPECT_EQ(main.lblLoaded.Caption(), u"No layout loaded");
     EXPECT_EQ(main.lblLastCommand.Caption(), u"");

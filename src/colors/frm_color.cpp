@@ -148,8 +148,8 @@ void frmColor::cmdSaveScheme_Click() {
     const std::u16string name = desktop_.Ask(u"Type a Name for the New Scheme", u"Save Scheme");
     if (name.empty()) return;
     Outcome failure;
-    if (name.find_first_of(u"\\/") != name.npos) {
-        failure = Failure{name, "A scheme's name cannot hold \\ or /"};
+    if (name.starts_with(u'.') || name.find_first_of(u"\\/") != name.npos) {
+        failure = Failure{name, "A scheme's name cannot begin with . or hold \\ or /"};
     } else {
         failure = Replace_File(Scheme_Path(program_folder_, name), Format_Scheme(Colors()),
                                Durability::synced,

@@ -50,11 +50,10 @@ class Preview {
 
     Shape Shape1{{240, 2400, 11115, 300}, false, 0, DarkGrey};
     Shape shpBack1{{360, 2640, 10815, 3735}, false, 0, White};
-    /// The bar's outline, the frame around the console's name, and the bar's inside, which lies
-    /// over both so that frame and bar are one.
+    /// The bar, the frame around the console's name, which lies over both bars, and the bar again.
     std::array<Shape, 3> shpPFLine{{{{480, 2640, 10575, 495}, false, Thin, White},
                                     {{8880, 2640, 2295, 855}, true, Thin, White},
-                                    {{375, 2655, 10755, 465}, false, 0, White}}};
+                                    {{375, 2655, 10755, 465}, false, Thin, White}}};
     Shape shpVcPic{{4080, 4920, 3495, 2415}, true, Thick, White};
     Shape shpBackMask2{{360, 7560, 10815, 2055}, false, 0, White};
     static constexpr Area shpBackMask1{360, 6360, 10790, 1215};  ///< only marks the lower fade

@@ -4,6 +4,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLineEdit>
+#include <QScreen>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <array>
@@ -41,7 +42,7 @@ ColorWindowView::ColorWindowView(frmColor& window, std::function<void()> closed,
     rows->addLayout(lower);
     rows->addWidget(new PreviewView(window.preview), 1);
     window.form.Shown = [this, &window] { setVisible(window.form.Visible()); };
-    resize(sizeHint());
+    resize(sizeHint().boundedTo(screen()->availableSize()));
     Restore_Position(*this, "color window");
 }
 

@@ -11,5 +11,6 @@ QFont Japanese_Font(std::u16string_view family, double points) {
     QFont font(QStringList{name, "IPAPGothic", "Noto Sans CJK JP", "IPAGothic", "MS PGothic",
                            "Hiragino Sans", "Noto Sans JP"});
     font.setPointSizeF(points);
+    font.setHintingPreference(QFont::PreferNoHinting);  // so that widths grow with the size alone
     return font;
 }

@@ -47,6 +47,8 @@ MainWindowView::MainWindowView(Form1& window) : window_(window) {
     rows->addStretch();
     setCentralWidget(content);
     Make_Status_Line();
+    // A file is dropped on the window, not into the text under the pointer.
+    for (QLineEdit* edit : findChildren<QLineEdit*>()) edit->setAcceptDrops(false);
 
     window_.form.Shown = [this] { Show_State(); };
     window_.ColorWindowMade = [this] {
@@ -63,7 +65,10 @@ MainWindowView::MainWindowView(Form1& window) : window_(window) {
 void MainWindowView::Show_State() {
     setVisible(window_.form.Visible());
     // Not the window itself, which would take the windows in front of it along.
-    centralWidget()->setEnabled(window_.form.Enabled());
+    const bool enabled = window_.form.Enabled();
+    if (!enabled && centralWidget()->isEnabled()) focus_before_ = centralWidget()->focusWidget();
+    centralWidget()->setEnabled(enabled);
+    if (enabled && focus_before_ != nullptr) std::exchange(focus_before_, nullptr)->setFocus();
 }
 
 QWidget* MainWindowView::Make_Game_Info() {
@@ -123,7 +128,7 @@ QWidget* MainWindowView::Make_Game_Info() {
     auto* schemes = Make_List(window_.cmbFileList, "The color scheme that the next save applies");
     auto* edit_colors =
         Make_Button("Color Editor And Preview", "Edit colors and see the banner",
-                    QKeySequence("Ctrl+E"), [this] { window_.cmdEditColor_Click(); });
+                    QKeySequence("Ctrl+P"), [this] { window_.cmdEditColor_Click(); });
     grid->addWidget(Make_Label("&Colors:", schemes), 7, caption);
     grid->addWidget(schemes, 7, field);
     grid->addWidget(edit_colors, 7, selector, 1, columns - selector);

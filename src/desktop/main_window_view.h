@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QPointer>
 
 #include "mainwindow/form1.h"
 
@@ -28,4 +29,5 @@ class MainWindowView : public QMainWindow {
     void Show_State();
 
     Form1& window_;
+    QPointer<QWidget> focus_before_;  ///< had the focus when the window was disabled
 };

@@ -2,6 +2,7 @@
 
 #include <QPaintEvent>
 #include <QPainter>
+#include <QPointer>
 #include <cmath>
 
 #include "desktop/fonts.h"
@@ -93,7 +94,7 @@ void Paint_Preview(QPainter& painter, const Preview& preview, double scale) {
     for (const DrawnLabel& row : preview.lblBack1) twips.Paint_Row(row);
     twips.Paint(preview.shpYearLine, Preview::YearLineArea.left, Preview::YearLineArea.top);
     twips.Paint(preview.shpPlayLine, Preview::PlayLineArea.left, Preview::PlayLineArea.top);
-    for (const Shape& shape : preview.shpPFLine) twips.Paint(shape);
+    for (const std::size_t bar : {0, 2, 1}) twips.Paint(preview.shpPFLine[bar]);
     twips.Paint(preview.shpVcPic);
     for (const DrawnLabel* label : {&preview.lblT_PF, &preview.lblT_Year, &preview.lblT_Play,
                                     &preview.lblT_VCTitle, &preview.lblT_ESRB}) {
@@ -106,7 +107,9 @@ PreviewView::PreviewView(Preview& preview, QWidget* parent) : QWidget(parent), p
     setAccessibleName("Banner preview");
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setMinimumSize(PreviewView::sizeHint() / 2);
-    preview_.Drawn = [this] { update(); };
+    preview_.Drawn = [view = QPointer<QWidget>(this)] {
+        if (view) view->update();
+    };
 }
 
 QSize PreviewView::sizeHint() const {

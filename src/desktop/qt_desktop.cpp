@@ -60,10 +60,10 @@ Color QtDesktop::Choose_Color(Color color) {
 
 /// Measured large, so that hinting does not matter, with a little room for it.
 float QtDesktop::Text_Width(std::u16string_view text, const Font& font) {
-    constexpr double LargePoints = 72, TwipsPerInch = 1440, Room = 60;
+    constexpr double LargePoints = 72, TwipsPerInch = 1440, Room = 60, MoreRoom = 1.02;
     const QFontMetricsF metrics(Japanese_Font(font.family, LargePoints));
     const double inches = metrics.horizontalAdvance(Shown(text)) / metrics.fontDpi();
-    return static_cast<float>(inches * TwipsPerInch * font.points / LargePoints + Room);
+    return static_cast<float>(inches * TwipsPerInch * font.points / LargePoints * MoreRoom + Room);
 }
 
 std::u16string QtDesktop::In_Code_Page(std::u16string_view text) {

@@ -1,12 +1,13 @@
 #pragma once
 
 #include <QString>
+#include <QStringView>
 #include <string>
 #include <string_view>
 
 /// The same code units as the toolkit's text, and back.
 inline QString Shown(std::u16string_view text) {
-    return QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
+    return QStringView(text.data(), static_cast<qsizetype>(text.size())).toString();
 }
 
 inline std::u16string Taken(const QString& text) {

@@ -43,7 +43,7 @@ void ColorButton::paintEvent(QPaintEvent* /*event*/) {
 
 void ElidedLabel::Show_Text(const QString& text) {
     setText(text);
-    setToolTip(text);
+    setToolTip(text.toHtmlEscaped());
 }
 
 void ElidedLabel::paintEvent(QPaintEvent* /*event*/) {

@@ -108,7 +108,7 @@ void Form1::RefreshColorList_Here() {
 }
 
 void Form1::RefreshLogoList() {
-    File2.Set_Path(process_.program_folder + u"\\logos\\");
+    static_cast<void>(File2.Set_Path(process_.program_folder + u"\\logos\\"));  // none: no logos
     cmbLogo.Clear();
     cmbLogo.Add(CurrentLogo);
     for (const std::u16string& name : File2.Names()) cmbLogo.Add(name);
@@ -132,6 +132,7 @@ void Form1::Close_Color_Window() {
 
 void Form1::cmdHC_Click() {
     TextEditor = std::make_unique<frmHC>(form, info);
+    TextEditor->Written = [this, before = BrlytData] { Tell_Changes(u"Text editor", before); };
     TextEditorMade.Raise();
     TextEditor->Form_Load();
     TextEditor->form.Show();
@@ -140,7 +141,6 @@ void Form1::cmdHC_Click() {
 void Form1::Close_Text_Editor() {
     TextEditor->Form_Unload();
     TextEditor.reset();
-    Tell_What_Is_Loaded();
 }
 
 void Form1::SetForce(std::u16string& REG) {

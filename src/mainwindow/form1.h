@@ -3,7 +3,6 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -122,7 +121,7 @@ class Form1 {
     Notice Reporting();
     void Put_Textures_Back();
 
-    void Tell_Changes(std::u16string_view command, const std::function<void()>& run);
+    void Tell_Changes(std::u16string_view command, const std::string& before);
     void Tell_What_Is_Loaded();
 
     int Run_Batch();

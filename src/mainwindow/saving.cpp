@@ -49,6 +49,7 @@ void Form1::cmdSave_Click() {
     if (failure) {
         Put_Textures_Back();
         Fail(Failed, *failure);
+        lblLastCommand.Set(u"Not saved");
         return;
     }
     replaced_.clear();
@@ -117,8 +118,9 @@ Outcome Form1::ReplaceLogo(std::u16string& lgPath) {
     if (folder.empty()) {
         return Failure{txtSrc.Text(), "Names no folder to look for the logo texture beside"};
     }
-    if (!Folder_Exists(folder)) return std::nullopt;
-    File2.Set_Path(folder);
+    bool found = false;
+    if (auto failure = Find_Folder(folder, found); failure || !found) return failure;
+    if (auto failure = File2.Set_Path(folder)) return failure;
     for (const std::u16string& name : File2.Names()) {
         if (!name.starts_with(u"my_Back")) continue;
         Texture old{folder + name, {}};

@@ -48,8 +48,9 @@ std::vector<std::string> Changed_Boxes(const std::string& before, const std::str
     return changed;
 }
 
-std::u16string Describe(const std::vector<std::string>& boxes) {
-    if (boxes.empty()) return u"nothing changed";
+std::u16string Describe(const std::vector<std::string>& boxes, bool same) {
+    if (same) return u"nothing changed";
+    if (boxes.empty()) return u"other texts changed";
     std::u16string text =
         Number(boxes.size()) + (boxes.size() == 1 ? u" text" : u" texts") + u" changed:";
     for (const std::string& name : boxes) text += u" " + From_Bytes(name);
@@ -60,26 +61,23 @@ std::u16string Describe(const std::vector<std::string>& boxes) {
 
 void Form1::cmdSet_Click(std::int16_t Index) {
     const auto field = static_cast<std::size_t>(Index);
-    Tell_Changes(field < SetNames.size() ? SetNames[field] : u"",
-                 [&] { info.cmdSet_Click(Index); });
+    const std::string before = form.Visible() ? BrlytData : std::string();
+    info.cmdSet_Click(Index);
+    Tell_Changes(field < SetNames.size() ? SetNames[field] : u"", before);
 }
 
 void Form1::cmdSetAll_Click(std::int16_t Index) {
     const auto field = static_cast<std::size_t>(Index);
-    Tell_Changes(field < SetAllNames.size() ? SetAllNames[field] : u"",
-                 [&] { info.cmdSetAll_Click(Index); });
+    const std::string before = form.Visible() ? BrlytData : std::string();
+    info.cmdSetAll_Click(Index);
+    Tell_Changes(field < SetAllNames.size() ? SetAllNames[field] : u"", before);
 }
 
 /// Without a window nobody is told, so nothing is compared.
-void Form1::Tell_Changes(std::u16string_view command, const std::function<void()>& run) {
-    if (!form.Visible()) {
-        run();
-        return;
-    }
-    const std::string before = BrlytData;
-    run();
-    lblLastCommand.Set(std::u16string(command) + u": " +
-                       Describe(Changed_Boxes(before, BrlytData)));
+void Form1::Tell_Changes(std::u16string_view command, const std::string& before) {
+    if (!form.Visible()) return;
+    const std::u16string changes = Describe(Changed_Boxes(before, BrlytData), before == BrlytData);
+    lblLastCommand.Set(std::u16string(command) + u": " + changes);
     Tell_What_Is_Loaded();
 }
 

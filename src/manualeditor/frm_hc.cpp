@@ -31,4 +31,5 @@ void frmHC::cmbHC_Click() {
 void frmHC::cmdSet_Click() {
     if (cmbHC.Index() == DropDownList::NoSelection) return;
     Write_Box(cmbHC.Selected(), txtHC.Text());
+    Written.Raise();
 }

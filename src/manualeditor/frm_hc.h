@@ -14,6 +14,7 @@ class frmHC {
     Form form;
     DropDownList cmbHC;
     TextBox txtHC;
+    Event Written;  ///< after each Set
 
     /// Disables the main window, lists the layout's text boxes and shows the first.
     void Form_Load();

@@ -2,6 +2,6 @@
 
 #include "platform/files.h"
 
-void FileList::Set_Path(const std::u16string& folder) {
-    names_ = List_Files(folder, ending_);
+Outcome FileList::Set_Path(const std::u16string& folder) {
+    return List_Files(folder, ending_, names_);
 }

@@ -138,8 +138,8 @@ class FileList {
     /// `ending`: what the names end in, for example ".tpl" for the pattern "*.tpl".
     explicit FileList(std::string_view ending) : ending_(ending) {}
 
-    /// Lists `folder`: file names sorted by name; none when the folder cannot be read.
-    void Set_Path(const std::u16string& folder);
+    /// Lists `folder`: file names sorted by name; none where it fails.
+    Outcome Set_Path(const std::u16string& folder);
 
     const std::vector<std::u16string>& Names() const { return names_; }
 

@@ -29,14 +29,16 @@ std::string Without_Case(std::string name) {
     return name;
 }
 
-/// The regular files of a folder, by their UTF-8 names, in no order.
-std::vector<std::string> Regular_Files(const std::u16string& folder) {
+/// The regular files of a folder, by their UTF-8 names, in no order. Stops at the first error.
+std::vector<std::string> Regular_Files(const std::u16string& folder, std::error_code& error) {
     std::vector<std::string> names;
-    std::error_code error;
     for (fs::directory_iterator at(Native_Path(folder), error), end; !error && at != end;
          at.increment(error)) {
-        std::error_code ignored;
-        if (!at->is_regular_file(ignored)) continue;
+        std::error_code unknown;
+        const fs::file_status status = at->status(unknown);
+        if (status.type() == fs::file_type::none) error = unknown;
+        if (error) break;
+        if (!fs::is_regular_file(status)) continue;
         const std::u8string name = at->path().filename().u8string();
         names.emplace_back(name.begin(), name.end());
     }
@@ -72,28 +74,34 @@ std::u16string Resolve(std::u16string_view program_folder, std::u16string_view p
 }
 
 bool Ordinary_File_Exists(const std::u16string& path) {
-    if (Ends_In_Separator(path)) return !Regular_Files(path).empty();
     std::error_code ignored;
+    if (Ends_In_Separator(path)) return !Regular_Files(path, ignored).empty();
     return fs::is_regular_file(Native_Path(path), ignored);
 }
 
-bool Folder_Exists(const std::u16string& path) {
-    std::error_code ignored;
-    return fs::is_directory(Native_Path(path), ignored);
+Outcome Find_Folder(const std::u16string& path, bool& found) {
+    std::error_code error;
+    const fs::file_status status = fs::status(Native_Path(path), error);
+    found = fs::is_directory(status);
+    if (status.type() == fs::file_type::none) return Failure{path, error.message()};
+    return std::nullopt;
 }
 
-std::vector<std::u16string> List_Files(const std::u16string& folder, std::string_view ending) {
-    std::vector<std::string> names = Regular_Files(folder);
-    std::erase_if(names, [&](const std::string& name) {
-        return name.starts_with('.') ||
-               !Without_Case(name).ends_with(Without_Case(std::string(ending)));
+Outcome List_Files(const std::u16string& folder, std::string_view ending,
+                   std::vector<std::u16string>& names) {
+    names.clear();
+    std::error_code error;
+    std::vector<std::string> files = Regular_Files(folder, error);
+    if (error) return Failure{folder, error.message()};
+    const std::string wanted = Without_Case(std::string(ending));
+    std::erase_if(files, [&](const std::string& name) {
+        return name.starts_with('.') || !Without_Case(name).ends_with(wanted);
     });
-    std::sort(names.begin(), names.end(), [](const std::string& a, const std::string& b) {
+    std::sort(files.begin(), files.end(), [](const std::string& a, const std::string& b) {
         const std::string x = Without_Case(a), y = Without_Case(b);
         return x != y ? x < y : a < b;
     });
-    std::vector<std::u16string> texts;
-    texts.reserve(names.size());
-    for (const std::string& name : names) texts.push_back(From_Utf8(name));
-    return texts;
+    names.reserve(files.size());
+    for (const std::string& name : files) names.push_back(From_Utf8(name));
+    return std::nullopt;
 }

@@ -26,13 +26,15 @@ std::u16string Resolve(std::u16string_view program_folder, std::u16string_view p
 /// path that ends in a separator finds any regular file of that folder.
 bool Ordinary_File_Exists(const std::u16string& path);
 
-/// Whether `path` names a folder, with or without a separator at its end.
-bool Folder_Exists(const std::u16string& path);
+/// Sets `found` to whether `path` names a folder, with or without a separator at its end. Fails
+/// only where that cannot be told.
+Outcome Find_Folder(const std::u16string& path, bool& found);
 
-/// The names of the regular files of `folder` that end in `ending` whatever its case (".tpl"),
-/// sorted by name without case. Hidden files, whose names begin with a dot, are left out. Empty
-/// when the folder cannot be read.
-std::vector<std::u16string> List_Files(const std::u16string& folder, std::string_view ending);
+/// Sets `names` to the regular files of `folder` that end in `ending` whatever its case (".tpl"),
+/// sorted by name without case. Hidden files, whose names begin with a dot, are left out. On
+/// failure `names` is empty.
+Outcome List_Files(const std::u16string& folder, std::string_view ending,
+                   std::vector<std::u16string>& names);
 
 /// Reads a regular file whole into `bytes`. On failure `bytes` is left as it was.
 Outcome Read_File(const std::u16string& path, std::string& bytes);

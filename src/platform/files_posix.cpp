@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
+#include <new>
 #include <string>
 #include <utility>
 
@@ -21,6 +22,9 @@ namespace {
 struct StepFailed {
     std::string reason;
 };
+
+/// A layout's length field ends at 4 GiB; no banner comes near a part of that.
+constexpr off_t LargestFile = off_t{1} << 30;
 
 [[noreturn]] void Fail(int error) {
     throw StepFailed{std::strerror(error)};
@@ -71,6 +75,7 @@ std::string Read_Whole(const std::string& path) {
     struct stat info {};
     Retry([&] { return ::fstat(file.get(), &info); });
     Require_Regular(info);
+    if (info.st_size > LargestFile) Fail(EFBIG);
 
     std::string bytes(static_cast<std::size_t>(info.st_size) + 1, '\0');
     std::size_t filled = 0;
@@ -258,6 +263,8 @@ Outcome Run(const std::u16string& path, Steps steps) {
         return Failure{path, failed.reason};
     } catch (const std::filesystem::filesystem_error& failed) {
         return Failure{path, failed.code().message()};
+    } catch (const std::bad_alloc&) {
+        return Failure{path, std::strerror(ENOMEM)};
     }
 }
 
