@@ -93,6 +93,7 @@ void Render(const std::u16string& program_folder, const Painter& painter) {
     window.cmdEditColor_Click();
     window.ColorWindow->pic_Click(u"T_VCTitle", 1);
     auto& colors = Find_View<ColorWindowView>();
+    colors.resize(colors.sizeHint());  // the screen of a build may be small
     QApplication::processEvents();
     painter.Save(colors, "color-window");
     PreviewView preview(window.ColorWindow->preview);
