@@ -1,0 +1,110 @@
+// Repainting the preview, beside the same rectangles, shapes and texts painted bare.
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QImage>
+#include <QPainter>
+
+#include "desktop/fonts.h"
+#include "desktop/preview_view.h"
+#include "desktop/qt_desktop.h"
+#include "desktop/text.h"
+#include "desktop/widgets.h"
+#include "layout/mod_globals.h"
+#include "samples/banners.h"
+
+namespace {
+
+constexpr double Scale = 1 / PreviewView::TwipsPerPixel;
+
+class PreviewFixture : public benchmark::Fixture {
+ public:
+    PreviewFixture() {
+        BrlytData = Seven_Language_Banner();
+        info.Refill();
+        preview.Draw(Shipped_Schemes()[2].scheme, info);
+    }
+
+    QtDesktop desktop;
+    GameInfo info;
+    Preview preview{desktop};
+    QImage image{774, 488, QImage::Format_ARGB32_Premultiplied};
+};
+
+BENCHMARK_F(PreviewFixture, Repaint)(benchmark::State& state) {
+    for (auto _ : state) {
+        QPainter painter(&image);
+        Paint_Preview(painter, preview, Scale);
+    }
+}
+
+QRect Pixels(float left, float top, float right, float bottom) {
+    const auto at = [](float twips) { return static_cast<int>(std::lround(twips * Scale)); };
+    return {QPoint(at(left), at(top - PreviewView::Top)), QPoint(at(right) - 1, at(bottom - PreviewView::Top) - 1)};
+}
+
+struct BareText {
+    QRect place;
+    QString text;
+    QFont font;
+    QColor color;
+    int flags;
+};
+
+BENCHMARK_F(PreviewFixture, BarePrimitives)(benchmark::State& state) {
+    std::vector<std::pair<QRect, QColor>> fills;
+    const auto surface = [&](const Surface& painted, float left, float top) {
+        for (const FilledRectangle& r : painted.Painted()) {
+            fills.emplace_back(Pixels(left + r.x1, top + r.y1, left + r.x2, top + r.y2), Shown_Color(r.color));
+        }
+    };
+    surface(preview.surface, 0, 0);
+    surface(preview.shpYearLine, Preview::YearLineArea.left, Preview::YearLineArea.top);
+    surface(preview.shpPlayLine, Preview::PlayLineArea.left, Preview::PlayLineArea.top);
+    std::vector<Shape> shapes(preview.shpPFLine.begin(), preview.shpPFLine.end());
+    shapes.insert(shapes.end(), {preview.Shape1, preview.shpBack1, preview.shpBackMask2, preview.shpVcPic});
+    std::vector<BareText> texts;
+    const auto text = [&](const DrawnLabel& label) {
+        const Area& a = label.area;
+        const double points = label.font.points * 20 * Scale * 72 / image.logicalDpiY();
+        texts.push_back({Pixels(a.left, a.top, a.Right(), a.Bottom()), Shown(label.text).replace("\r\n", "\n"),
+                         Japanese_Font(label.font.family, points), Shown_Color(label.color),
+                         label.wraps ? Qt::TextWordWrap : Qt::TextDontClip});
+    };
+    for (const DrawnLabel& row : preview.lblBack1) text(row);
+    for (const DrawnLabel* label :
+         {&preview.lblT_PF, &preview.lblT_Year, &preview.lblT_Play, &preview.lblT_VCTitle, &preview.lblT_ESRB}) {
+        text(*label);
+    }
+    for (auto _ : state) {
+        QPainter painter(&image);
+        for (const auto& [place, color] : fills) painter.fillRect(place, color);
+        for (const Shape& shape : shapes) {
+            const QRect place = Pixels(shape.area.left, shape.area.top, shape.area.Right(), shape.area.Bottom());
+            if (shape.thickness == 0) {
+                painter.fillRect(place, Shown_Color(shape.fill));
+                continue;
+            }
+            painter.setRenderHint(QPainter::Antialiasing, shape.rounded);
+            painter.setPen(QPen(Shown_Color(shape.border), std::max(1.0, shape.thickness * Scale)));
+            painter.setBrush(Shown_Color(shape.fill));
+            painter.drawRoundedRect(place, shape.rounded ? 12 : 0, shape.rounded ? 12 : 0);
+        }
+        painter.setRenderHint(QPainter::Antialiasing, false);
+        for (const BareText& t : texts) {
+            painter.setFont(t.font);
+            painter.setPen(t.color);
+            painter.drawText(t.place, t.flags, t.text);
+        }
+    }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
