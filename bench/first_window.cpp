@@ -1,6 +1,7 @@
-// first_window editor|empty: shows the editor's main window, or an empty one of the toolkit, and ends as
-// soon as it is painted.
+// first_window editor|empty|text: shows the editor's main window, an empty one of the toolkit, or one with a
+// line of Latin and Japanese text, and ends as soon as it is painted.
 #include <QApplication>
+#include <QLabel>
 #include <QMainWindow>
 #include <cstdlib>
 #include <cstring>
@@ -30,8 +31,9 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     EndWhenPainted end;
     application.installEventFilter(&end);
-    if (argc == 2 && std::strcmp(argv[1], "empty") == 0) {
+    if (argc == 2 && std::strcmp(argv[1], "editor") != 0) {
         QMainWindow window;
+        if (std::strcmp(argv[1], "text") == 0) window.setCentralWidget(new QLabel("Name: \u540D\u524D"));
         window.resize(600, 450);
         window.show();
         return QApplication::exec();

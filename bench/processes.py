@@ -59,6 +59,7 @@ def main():
             def renew():
                 with open(os.path.join(folder, BANNER), "wb") as file:
                     file.write(banner)
+                    os.fsync(file.fileno())  # what a run replaces has been on the disk for long
 
             if size < 1 << 20:
                 compare("batch run, all fields, 64 KiB / limit", fields, limit, folder, rounds, renew)
@@ -67,12 +68,14 @@ def main():
                 more = peak(fields, folder) - peak(limit, folder)
                 print("peak memory of a batch run above limit: %d KiB at %d KiB" % (more, size >> 10))
         compare("bannersmith --version / empty program", ["./bannersmith", "--version"], ["./empty"], folder, rounds)
+        shutil.copy(os.path.join(build, "program", BANNER), os.path.join(folder, BANNER))
         window = os.path.join(bench, "first_window")
         if os.path.exists(window):
             shutil.copy(window, folder)
             os.environ["XDG_CONFIG_HOME"] = folder
-            compare("first window / empty window", ["./first_window", "editor"], ["./first_window", "empty"], folder,
-                    max(20, rounds // 5))
+            for other in ("empty", "text"):
+                compare("first window / %s window" % other, ["./first_window", "editor"], ["./first_window", other],
+                        folder, max(20, rounds // 5))
 
 
 if __name__ == "__main__":

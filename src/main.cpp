@@ -9,6 +9,7 @@
 #include "mainwindow/usage.h"
 #include "platform/desktop.h"
 #include "platform/files.h"
+#include "platform/memory.h"
 #include "platform/text.h"
 
 namespace {
@@ -27,5 +28,7 @@ int Start_Window(char** argv) {
 int main(int argc, char** argv) {
     const std::u16string command_line = Command_Line(argc, argv);
     if (Answer_About(command_line, "bannersmith", Usage)) return 0;
-    return command_line.empty() ? Start_Window(argv) : Run_Batch_Mode(command_line);
+    if (command_line.empty()) return Start_Window(argv);
+    Take_Memory_At_Once();
+    return Run_Batch_Mode(command_line);
 }

@@ -7,15 +7,19 @@
 
 namespace {
 
-/// The families to fall back on that are installed. A font that names a family which is not makes
-/// the toolkit look through the aliases of all that are, which takes longer than the rest of the
-/// start.
-const QStringList& Installed_Substitutes() {
+/// A font that names a family which is not installed makes the toolkit look through the aliases of
+/// all that are, and so does asking for one; the list of all is at hand.
+bool Is_Installed(const QString& family) {
+    static const QStringList installed = QFontDatabase::families();
+    return installed.contains(family, Qt::CaseInsensitive);
+}
+
+const QStringList& Substitutes() {
     static const QStringList installed = [] {
         QStringList families;
         for (const char* family : {"IPAPGothic", "Noto Sans CJK JP", "IPAGothic", "MS PGothic",
                                    "Hiragino Sans", "Noto Sans JP"}) {
-            if (QFontDatabase::hasFamily(family)) families << family;
+            if (Is_Installed(family)) families << family;
         }
         return families;
     }();
@@ -28,8 +32,8 @@ QFont Japanese_Font(std::u16string_view family, double points) {
     QString name = Shown(family);
     if (name.startsWith('@'))
         name.remove(0, 1);  // marks vertical writing, which no family here has
-    QStringList families = Installed_Substitutes();
-    if (QFontDatabase::hasFamily(name)) families.prepend(name);
+    QStringList families = Substitutes();
+    if (Is_Installed(name)) families.prepend(name);
     QFont font;
     if (!families.isEmpty()) font.setFamilies(families);
     font.setPointSizeF(points);
