@@ -1,0 +1,16 @@
+// The inspect tool on any bytes.
+#include <string>
+
+#include "inspect/report.h"
+#include "inspect/sections.h"
+#include "inspect/warnings.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char* bytes, std::size_t size) {
+    const std::string data(reinterpret_cast<const char*>(bytes), size);
+    if (!Is_Layout(data)) return 0;
+    FileReport report{"fuzzed", Read_Layout(data), {}};
+    report.warnings = Find_Warnings(data, report.info);
+    As_Text(report);
+    As_Json({report});
+    return 0;
+}
