@@ -56,8 +56,9 @@ void Read_Materials(const ChainSection& section, LayoutInfo& info) {
         const std::size_t entry = MaterialList + 4 * i;
         const std::size_t at = entry + 4 <= bytes.size() ? Read_U32(bytes, entry) : bytes.size();
         if (at > bytes.size() || bytes.size() - at < MaterialName + MaterialColors) {
+            // The rest of a list that is no list says nothing more, and can be long.
             info.faults.push_back("material " + std::to_string(i) + " lies outside its section");
-            continue;
+            return;
         }
         MaterialInfo material{
             section.offset + at, Zero_Ended(bytes.substr(at, MaterialName)), {}, {}};
