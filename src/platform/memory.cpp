@@ -5,21 +5,24 @@
 #include <sys/mman.h>
 #include <unistd.h>
 
-#include <cstdint>
+#include <cstddef>
 #include <cstdlib>
+#include <memory>
 #endif
 
 void Take_Memory_At_Once() {
 #if defined(__linux__) && defined(__GLIBC__) && defined(MADV_POPULATE_WRITE)
-    constexpr int Amount = 384 << 10;       // a banner of 64 KiB, a few copies of it, and the rest
+    // A banner of 64 KiB, a few copies of it, and the rest.
+    constexpr std::size_t Amount = std::size_t{384} << 10;
     constexpr int LargestOnHeap = 1 << 20;  // above, memory is mapped and given back one by one
     ::mallopt(M_MMAP_THRESHOLD, LargestOnHeap);
     ::mallopt(M_TRIM_THRESHOLD, LargestOnHeap);
-    void* block = std::malloc(Amount);
-    const auto page = static_cast<std::uintptr_t>(::sysconf(_SC_PAGESIZE));
-    const auto begin = (reinterpret_cast<std::uintptr_t>(block) + page - 1) / page * page;
-    if (block != nullptr) {
-        ::madvise(reinterpret_cast<void*>(begin), Amount - page, MADV_POPULATE_WRITE);
+    void* const block = std::malloc(Amount);
+    void* first_page = block;
+    std::size_t space = Amount;
+    const auto page = static_cast<std::size_t>(::sysconf(_SC_PAGESIZE));
+    if (block != nullptr && std::align(page, Amount - page, first_page, space) != nullptr) {
+        ::madvise(first_page, Amount - page, MADV_POPULATE_WRITE);
     }
     std::free(block);  // stays on the heap, where the next allocations find it
 #endif
