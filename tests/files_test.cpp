@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 #include <csignal>
 
@@ -130,6 +131,18 @@ TEST(ReplaceFile, AFailedWriteLeavesTheOldFile) {
     EXPECT_TRUE(failure && failure->reason == "File too large");
     EXPECT_EQ(folder.Read("f"), "old");
     EXPECT_EQ(folder.Names(), std::vector<std::string>{"f"});
+}
+
+TEST(ReplaceFile, KeepsExtendedAttributes) {
+    const TempFolder folder;
+    folder.Write("f", "old");
+    const std::string file = (folder.Path() / "f").string();
+    if (::setxattr(file.c_str(), "user.note", "kept", 4, 0) != 0) GTEST_SKIP() << "none on this file system";
+    EXPECT_FALSE(Replace_File(folder.Text() + u"/f", "new", Durability::synced));
+    char note[8] = {};
+    EXPECT_EQ(::getxattr(file.c_str(), "user.note", note, sizeof note), 4);
+    EXPECT_STREQ(note, "kept");
+    EXPECT_EQ(folder.Read("f"), "new");
 }
 
 TEST(ReplaceFile, KeepsLinks) {

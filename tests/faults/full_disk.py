@@ -1,0 +1,64 @@
+#!/usr/bin/env python3
+"""full_disk.py PROGRAM-FOLDER MAKE-LAYOUT: saves layouts of many sizes on a small disk with more or less space left.
+
+Mounts a file system in memory; where that is not permitted it says so and exits with 77, which counts as skipped.
+"""
+import os
+import shutil
+import subprocess
+import sys
+import tempfile
+
+DISK = 4 << 20
+SIZES = [4096 * (k + 1) * (k + 1) for k in range(12)]  # 4 KiB to 576 KiB
+SHARES = [0, 0.1, 0.25, 0.5, 0.75, 0.9, 0.99, 1, 1.01, 1.1, 1.5, 2]  # of the size, left free
+
+
+def save_on(disk, program, layout, free):
+    """Fills the disk up to `free` bytes beside the layout, saves, and yields what is wrong afterwards."""
+    banner, filler = os.path.join(disk, "banner.brlyt"), os.path.join(disk, "filler")
+    with open(banner, "wb") as file:
+        file.write(layout)
+    left = os.statvfs(disk).f_bavail * os.statvfs(disk).f_bsize
+    with open(filler, "wb") as file:
+        file.write(b"x" * max(0, left - int(free)))
+    done = subprocess.run([program, banner, "-TITLE", "Another name", "-PAD", "0"], capture_output=True)
+    with open(banner, "rb") as file:
+        now = file.read()
+    if sorted(os.listdir(disk)) != ["banner.brlyt", "filler"]:
+        yield "left behind: %s" % os.listdir(disk)
+    if done.returncode == 0 and now == layout:
+        yield "says done, but is not"
+    if done.returncode == 1 and (now != layout or b": No space left on device" not in done.stderr):
+        yield "says %r" % done.stderr
+    if done.returncode not in (0, 1):
+        yield "ended with %d" % done.returncode
+    os.remove(filler)
+
+
+def main():
+    program_folder, make_layout = sys.argv[1:]
+    results, wrong = [], []
+    with tempfile.TemporaryDirectory(prefix="full_disk") as work:
+        shutil.copytree(program_folder, os.path.join(work, "program"))
+        disk = os.path.join(work, "disk")
+        os.mkdir(disk)
+        if subprocess.run(["mount", "-t", "tmpfs", "-o", "size=%d" % DISK, "tmpfs", disk]).returncode != 0:
+            print("SKIPPED: no file system can be mounted here")
+            return 77
+        try:
+            for size in SIZES:
+                layout = subprocess.run([make_layout, str(size)], check=True, capture_output=True).stdout
+                for share in SHARES:
+                    found = list(save_on(disk, os.path.join(work, "program", "bannersmith"), layout, size * share))
+                    results.append(found)
+                    wrong += ["%d bytes, %g free: %s" % (size, share, what) for what in found]
+        finally:
+            subprocess.run(["umount", disk], check=True)
+    print("%d saves" % len(results))
+    print("\n".join(wrong))
+    return 1 if wrong else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
