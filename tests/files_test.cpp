@@ -133,16 +133,36 @@ TEST(ReplaceFile, AFailedWriteLeavesTheOldFile) {
     EXPECT_EQ(folder.Names(), std::vector<std::string>{"f"});
 }
 
-TEST(ReplaceFile, KeepsExtendedAttributes) {
+TEST(ReplaceFile, KeepsAttributesAndAccessLists) {
+    // A list in the kernel's own form: version 2, then tag, rights and identity of each entry.
+    const auto entry = [](char tag, char rights, int user) {
+        return std::string{tag, 0, rights, 0} + (user < 0 ? std::string(4, '\xFF') : std::string{char(user), 0, 0, 0});
+    };
+    const std::string list = "\2" + std::string(3, '\0') + entry(1, 6, -1) + entry(2, 4, 9) + entry(4, 4, -1) +
+                             entry(16, 6, -1) + entry(32, 0, -1);
+    const std::pair<const char*, std::string> attributes[] = {{"user.note", "kept"}, {"system.posix_acl_access", list}};
+    for (const auto& [name, value] : attributes) {
+        const TempFolder folder;
+        folder.Write("f", "old");
+        const std::string file = (folder.Path() / "f").string();
+        if (::setxattr(file.c_str(), name, value.data(), value.size(), 0) != 0) {
+            GTEST_SKIP() << name << ": none on this file system";
+        }
+        EXPECT_FALSE(Replace_File(folder.Text() + u"/f", "new", Durability::synced));
+        std::string found(100, '\0');
+        found.resize(static_cast<std::size_t>(std::max<ssize_t>(0, ::getxattr(file.c_str(), name, found.data(), 100))));
+        EXPECT_EQ(found, value) << name;
+        EXPECT_EQ(folder.Read("f"), "new");
+    }
+}
+
+TEST(ReplaceFile, TakesNamesUpToTheLimit) {
     const TempFolder folder;
-    folder.Write("f", "old");
-    const std::string file = (folder.Path() / "f").string();
-    if (::setxattr(file.c_str(), "user.note", "kept", 4, 0) != 0) GTEST_SKIP() << "none on this file system";
-    EXPECT_FALSE(Replace_File(folder.Text() + u"/f", "new", Durability::synced));
-    char note[8] = {};
-    EXPECT_EQ(::getxattr(file.c_str(), "user.note", note, sizeof note), 4);
-    EXPECT_STREQ(note, "kept");
-    EXPECT_EQ(folder.Read("f"), "new");
+    EXPECT_FALSE(Replace_File(folder.Text() + u"/" + std::u16string(255, u'n'), "x", Durability::synced));
+    EXPECT_FALSE(Replace_File(folder.Text() + u"/" + std::u16string(255, u'n'), "y", Durability::synced));
+    EXPECT_EQ(folder.Read(std::string(255, 'n')), "y");
+    EXPECT_TRUE(Replace_File(folder.Text() + u"/" + std::u16string(256, u'n'), "x", Durability::synced));
+    EXPECT_EQ(folder.Names().size(), 1U);
 }
 
 TEST(ReplaceFile, KeepsLinks) {
