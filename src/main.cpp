@@ -1,25 +1,20 @@
 // bannersmith: batch mode itself; without command-line text it hands over to the program with the
 // windows, so that a batch run never pays for a toolkit.
-#include <unistd.h>
-
-#include <cerrno>
-#include <cstring>
-
 #include "mainwindow/run.h"
 #include "mainwindow/usage.h"
 #include "platform/desktop.h"
-#include "platform/files.h"
 #include "platform/memory.h"
-#include "platform/text.h"
+#include "platform/process.h"
 
 namespace {
 
-/// Replaces this process by the program with the windows; returns only when that fails.
+/// On success the windows have taken over; the exit status otherwise.
 int Start_Window(char** argv) {
-    const std::u16string window = Program_Folder() + u"/bannersmith-window";
-    ::execv(To_Utf8(window).c_str(), argv);
+    const std::u16string window = u"bannersmith-window";
+    const std::string reason = Start_Program(window, argv);
+    if (reason.empty()) return 0;
     NoDesktop().Report(
-        {window, std::string("The windows cannot be started: ") + std::strerror(errno)});
+        {Program_Folder() + u"/" + window, "The windows cannot be started: " + reason});
     return 1;
 }
 

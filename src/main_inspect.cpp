@@ -7,6 +7,7 @@
 #include "inspect/sections.h"
 #include "inspect/warnings.h"
 #include "platform/files.h"
+#include "platform/process.h"
 #include "platform/text.h"
 
 namespace {
@@ -25,24 +26,24 @@ void Print(const std::string& text, std::FILE* stream) {
 }
 
 /// False, with a line on standard error, when the file cannot be inspected.
-bool Inspect(const std::string& file, std::string& data, FileReport& report) {
+bool Inspect(const std::u16string& file, std::string& data, FileReport& report) {
     std::string reason;
-    if (const auto failure = Read_File(From_Utf8(file), data)) {
+    if (const auto failure = Read_File(file, data)) {
         reason = failure->reason;
     } else if (!Is_Layout(data)) {
         reason = "Not a layout file";
     }
     if (!reason.empty()) {
-        Print("bannersmith-inspect: " + file + ": " + reason + "\n", stderr);
+        Print("bannersmith-inspect: " + To_Utf8(file) + ": " + reason + "\n", stderr);
         return false;
     }
-    report.file = file;
+    report.file = To_Utf8(file);
     report.info = Read_Layout(data);
     report.warnings = Find_Warnings(data, report.info);
     return true;
 }
 
-int Inspect_All(const std::vector<std::string>& files, bool json) {
+int Inspect_All(const std::vector<std::u16string>& files, bool json) {
     std::vector<FileReport> reports;
     std::vector<std::string> contents(files.size());  // the reports point into them
     int status = 0;
@@ -63,12 +64,12 @@ int Inspect_All(const std::vector<std::string>& files, bool json) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    std::vector<std::string> files(argv + 1, argv + argc);
-    if (files.size() == 1 && files[0] == "--help") return Print(Usage, stdout), 0;
-    if (files.size() == 1 && files[0] == "--version") {
+    std::vector<std::u16string> files = Arguments(argc, argv);
+    if (files.size() == 1 && files[0] == u"--help") return Print(Usage, stdout), 0;
+    if (files.size() == 1 && files[0] == u"--version") {
         return Print("bannersmith-inspect " BANNERSMITH_VERSION "\n", stdout), 0;
     }
-    const bool json = std::erase(files, "--json") > 0;
+    const bool json = std::erase(files, u"--json") > 0;
     if (files.empty()) return Print(Usage, stderr), 2;
     return Inspect_All(files, json);
 }

@@ -8,7 +8,7 @@
 #include "desktop/widgets.h"
 #include "mainwindow/run.h"
 #include "mainwindow/usage.h"
-#include "platform/files.h"
+#include "platform/process.h"
 
 namespace {
 

@@ -48,13 +48,13 @@ Outcome Form1::Read_Configuration(std::u16string& line) const {
     std::string contents;
     if (auto failure = Read_File(Configuration_Path(), contents)) return failure;
     if (contents.empty()) return Failure{Configuration_Path(), "Holds no line"};
-    line = From_Utf8(contents.substr(0, contents.find_first_of("\r\n")));
+    line = From_Code_Page(contents.substr(0, contents.find_first_of("\r\n")));
     return std::nullopt;
 }
 
 /// A path that cannot be stored is no reason to stop working, so a failure is not reported.
 void Form1::Store_Path() const {
-    const std::string line = To_Utf8(txtSrc.Text()) + "\r\n";
+    const std::string line = To_Code_Page(txtSrc.Text()) + "\r\n";
     std::string stored;
     if (!Read_File(Configuration_Path(), stored) && stored == line) return;
     static_cast<void>(Replace_File(Configuration_Path(), line, Durability::unsynced));

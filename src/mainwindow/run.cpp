@@ -3,14 +3,7 @@
 #include <cstdio>
 
 #include "mainwindow/form1.h"
-#include "platform/files.h"
-#include "platform/text.h"
-
-std::u16string Command_Line(int argc, char** argv) {
-    std::string joined;
-    for (int i = 1; i < argc; ++i) joined.append(i > 1 ? " " : "").append(argv[i]);
-    return From_Utf8(joined);
-}
+#include "platform/process.h"
 
 bool Answer_About(const std::u16string& command_line, const std::string& program,
                   const std::string& usage) {

@@ -3,9 +3,6 @@
 
 #include <string>
 
-/// The command-line text of a process: its arguments joined by one blank each.
-std::u16string Command_Line(int argc, char** argv);
-
 /// Whether the command line is `--help` or `--version` alone. Either is answered on standard
 /// output: the text `usage`, or the name `program` with the version.
 bool Answer_About(const std::u16string& command_line, const std::string& program,

@@ -57,6 +57,3 @@ using Notice = std::function<void(const Failure& loss)>;
 /// temporary file is left.
 Outcome Replace_File(const std::u16string& path, std::string_view bytes, Durability durability,
                      const Notice& notice = {});
-
-/// The folder of the running executable, without a separator at its end.
-std::u16string Program_Folder();

@@ -14,7 +14,6 @@
 
 #include "platform/files.h"
 #include "platform/native_path.h"
-#include "platform/text.h"
 
 namespace {
 
@@ -282,10 +281,4 @@ Outcome Replace_File(const std::u16string& path, std::string_view bytes, Durabil
         const std::string lost = Replace(native, bytes, durability);
         if (!lost.empty() && notice) notice({path, lost});
     });
-}
-
-std::u16string Program_Folder() {
-    std::error_code ignored;
-    const auto program = std::filesystem::read_symlink("/proc/self/exe", ignored);
-    return From_Utf8(program.parent_path().string());
 }

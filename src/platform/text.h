@@ -13,6 +13,14 @@ std::u16string From_Utf8(std::string_view bytes);
 /// The UTF-8 bytes of a text: the inverse of `From_Utf8`. Any other lone surrogate becomes U+FFFD.
 std::string To_Utf8(std::u16string_view text);
 
+/// The text that bytes of the system's code page stand for: the ANSI code page on Windows, UTF-8
+/// elsewhere.
+std::u16string From_Code_Page(std::string_view bytes);
+
+/// A text in the system's code page. What that page does not have becomes its substitute, mostly
+/// "?".
+std::string To_Code_Page(std::u16string_view text);
+
 /// Each byte as the code unit of the same value.
 std::u16string From_Bytes(std::string_view bytes);
 

@@ -1,6 +1,6 @@
 // save-scheme NAME: saves a scheme as the colour window does, for the program folder that it lies in.
 #include "colors/frm_color.h"
-#include "platform/files.h"
+#include "platform/process.h"
 #include "platform/text.h"
 
 namespace {

@@ -1,0 +1,39 @@
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+
+#include "platform/process.h"
+#include "platform/text.h"
+
+std::u16string Command_Line(int argc, char** argv) {
+    std::string joined;
+    for (int i = 1; i < argc; ++i) joined.append(i > 1 ? " " : "").append(argv[i]);
+    return From_Utf8(joined);
+}
+
+std::vector<std::u16string> Arguments(int argc, char** argv) {
+    std::vector<std::u16string> arguments;
+    for (int i = 1; i < argc; ++i) arguments.push_back(From_Utf8(argv[i]));
+    return arguments;
+}
+
+std::u16string Program_Folder() {
+    std::error_code ignored;
+    const auto program = std::filesystem::read_symlink("/proc/self/exe", ignored);
+    return From_Utf8(program.parent_path().string());
+}
+
+std::string Start_Program(const std::u16string& name, char** argv) {
+    ::execv(To_Utf8(Program_Folder() + u"/" + name).c_str(), argv);
+    return std::strerror(errno);
+}
+
+std::u16string From_Code_Page(std::string_view bytes) {
+    return From_Utf8(bytes);
+}
+
+std::string To_Code_Page(std::u16string_view text) {
+    return To_Utf8(text);
+}

@@ -1,0 +1,89 @@
+#include "platform/process.h"
+
+#include <windows.h>
+// The system's own declarations come first.
+#include <shellapi.h>
+
+#include "platform/text.h"
+#include "platform/windows_error.h"
+
+namespace {
+
+std::u16string To_Text(const wchar_t* text) {
+    std::u16string units;
+    for (; *text != 0; ++text) units += static_cast<char16_t>(*text);
+    return units;
+}
+
+bool Is_Blank(wchar_t unit) {
+    return unit == L' ' || unit == L'\t';
+}
+
+}  // namespace
+
+std::u16string Command_Line(int /*argc*/, char** /*argv*/) {
+    const wchar_t* at = ::GetCommandLineW();
+    bool quoted = false;
+    for (; *at != 0 && (quoted || !Is_Blank(*at)); ++at) quoted ^= *at == L'"';
+    while (Is_Blank(*at)) ++at;
+    return To_Text(at);
+}
+
+std::vector<std::u16string> Arguments(int /*argc*/, char** /*argv*/) {
+    std::vector<std::u16string> arguments;
+    int count = 0;
+    wchar_t** const list = ::CommandLineToArgvW(::GetCommandLineW(), &count);
+    for (int i = 1; list != nullptr && i < count; ++i) arguments.push_back(To_Text(list[i]));
+    ::LocalFree(list);
+    return arguments;
+}
+
+std::u16string Program_Folder() {
+    constexpr std::size_t LongestPath = 32768;
+    std::wstring path(LongestPath, L'\0');
+    path.resize(::GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
+    return To_Text(path.substr(0, path.find_last_of(L'\\')).c_str());
+}
+
+std::string Start_Program(const std::u16string& name, char** /*argv*/) {
+    const std::u16string path = Program_Folder() + u"\\" + name + u".exe";
+    const std::wstring program(path.begin(), path.end());
+    std::wstring command_line = L"\"" + program + L"\"";
+    STARTUPINFOW start{};
+    start.cb = sizeof start;
+    PROCESS_INFORMATION started{};
+    if (!::CreateProcessW(program.c_str(), command_line.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                          nullptr, &start, &started)) {
+        return Error_Text(::GetLastError());
+    }
+    ::CloseHandle(started.hThread);
+    ::CloseHandle(started.hProcess);
+    return {};
+}
+
+std::u16string From_Code_Page(std::string_view bytes) {
+    const int size = static_cast<int>(bytes.size());
+    std::wstring text(bytes.size(), L'\0');  // no byte becomes more than one code unit
+    text.resize(static_cast<std::size_t>(
+        ::MultiByteToWideChar(CP_ACP, 0, bytes.data(), size, text.data(), size)));
+    return {text.begin(), text.end()};
+}
+
+std::string To_Code_Page(std::u16string_view text) {
+    const std::wstring wide(text.begin(), text.end());
+    std::string bytes(text.size() * 4, '\0');  // no code unit becomes more bytes than that
+    bytes.resize(static_cast<std::size_t>(
+        ::WideCharToMultiByte(CP_ACP, 0, wide.data(), static_cast<int>(wide.size()), bytes.data(),
+                              static_cast<int>(bytes.size()), nullptr, nullptr)));
+    return bytes;
+}
+
+std::string Error_Text(unsigned long code) {
+    constexpr DWORD LongestText = 512;
+    std::wstring text(LongestText, L'\0');
+    text.resize(::FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
+                                 nullptr, code, 0, text.data(), LongestText, nullptr));
+    text.erase(text.find_last_not_of(L"\r\n .") + 1);
+    if (text.empty()) return "Error " + std::to_string(code);
+    return To_Utf8({text.begin(), text.end()});
+}

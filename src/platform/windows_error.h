@@ -1,0 +1,6 @@
+#pragma once
+
+#include <string>
+
+/// The system's text for an error code of Windows, as UTF-8 without a full stop and a line end.
+std::string Error_Text(unsigned long code);
