@@ -45,7 +45,6 @@ class Handle {
     Handle& operator=(const Handle&) = delete;
 
     HANDLE get() const { return handle_; }
-    void Close() { Require(::CloseHandle(std::exchange(handle_, INVALID_HANDLE_VALUE))); }
 
  private:
     HANDLE handle_;
@@ -90,6 +89,14 @@ std::string Read_Whole(const std::wstring& path) {
     }
     bytes.resize(filled);
     return bytes;
+}
+
+/// Fails while another program keeps the file from being replaced, before anything is written.
+void Require_Replaceable(const std::wstring& path) {
+    constexpr DWORD Everyone = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    const Handle file(::CreateFileW(path.c_str(), GENERIC_WRITE | DELETE, Everyone, nullptr,
+                                    OPEN_EXISTING, 0, nullptr));
+    if (::GetFileType(file.get()) != FILE_TYPE_DISK) throw StepFailed{"Not an ordinary file"};
 }
 
 /// The file that `path` leads to where it is a link to one that exists.
@@ -163,9 +170,8 @@ class TemporaryFile {
 
 void Replace(const std::wstring& path, std::string_view bytes, Durability durability) {
     const std::wstring target = Follow_Links(path);
-    const DWORD attributes = Attributes_Of(target);
-    const bool exists = attributes != INVALID_FILE_ATTRIBUTES;
-    if (exists && (attributes & FILE_ATTRIBUTE_READONLY) != 0) Fail(ERROR_ACCESS_DENIED);
+    const bool exists = Attributes_Of(target) != INVALID_FILE_ATTRIBUTES;
+    if (exists) Require_Replaceable(target);
 
     const std::wstring folder = std::filesystem::path(target).parent_path().wstring();
     TemporaryFile fresh(folder.empty() ? L"." : folder);

@@ -85,5 +85,5 @@ std::string Error_Text(unsigned long code) {
                                  nullptr, code, 0, text.data(), LongestText, nullptr));
     text.erase(text.find_last_not_of(L"\r\n .") + 1);
     if (text.empty()) return "Error " + std::to_string(code);
-    return To_Utf8({text.begin(), text.end()});
+    return To_Utf8(std::u16string(text.begin(), text.end()));
 }
