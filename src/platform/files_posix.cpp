@@ -8,22 +8,13 @@
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
-#include <new>
 #include <string>
 #include <utility>
 
+#include "platform/file_steps.h"
 #include "platform/files.h"
-#include "platform/native_path.h"
 
 namespace {
-
-/// Thrown and caught inside this file: the error number of the step that failed.
-struct StepFailed {
-    std::string reason;
-};
-
-/// A layout's length field ends at 4 GiB; no banner comes near a part of that.
-constexpr off_t LargestFile = off_t{1} << 30;
 
 [[noreturn]] void Fail(int error) {
     throw StepFailed{std::strerror(error)};
@@ -253,32 +244,19 @@ std::string Replace(const std::string& path, std::string_view bytes, Durability 
     return lost;
 }
 
-template <typename Steps>
-Outcome Run(const std::u16string& path, Steps steps) {
-    try {
-        steps(Native_Path(path).string());
-        return std::nullopt;
-    } catch (const StepFailed& failed) {
-        return Failure{path, failed.reason};
-    } catch (const std::filesystem::filesystem_error& failed) {
-        return Failure{path, failed.code().message()};
-    } catch (const std::bad_alloc&) {
-        return Failure{path, std::strerror(ENOMEM)};
-    }
-}
-
 }  // namespace
 
 Outcome Read_File(const std::u16string& path, std::string& bytes) {
-    return Run(path, [&](const std::string& native) { bytes = Read_Whole(native); });
+    return Run_Steps(
+        path, [&](const std::filesystem::path& native) { bytes = Read_Whole(native.string()); });
 }
 
 Outcome Replace_File(const std::u16string& path, std::string_view bytes, Durability durability,
                      const Notice& notice) {
     // A limit on file sizes is then an error of the write, not the end of the process.
     std::signal(SIGXFSZ, SIG_IGN);
-    return Run(path, [&](const std::string& native) {
-        const std::string lost = Replace(native, bytes, durability);
+    return Run_Steps(path, [&](const std::filesystem::path& native) {
+        const std::string lost = Replace(native.string(), bytes, durability);
         if (!lost.empty() && notice) notice({path, lost});
     });
 }

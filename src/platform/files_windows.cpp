@@ -2,24 +2,15 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <new>
 #include <string>
 #include <utility>
 
+#include "platform/file_steps.h"
 #include "platform/files.h"
-#include "platform/native_path.h"
 #include "platform/text.h"
 #include "platform/windows_error.h"
 
 namespace {
-
-/// Thrown and caught inside this file: the error code of the step that failed.
-struct StepFailed {
-    std::string reason;
-};
-
-/// A layout's length field ends at 4 GiB; no banner comes near a part of that.
-constexpr LONGLONG LargestFile = LONGLONG{1} << 30;
 
 /// The most that one call reads or writes.
 constexpr std::size_t LargestPart = std::size_t{1} << 24;
@@ -180,27 +171,16 @@ void Replace(const std::wstring& path, std::string_view bytes, Durability durabi
     fresh.Take_Place_Of(target, exists);
 }
 
-template <typename Steps>
-Outcome Run(const std::u16string& path, Steps steps) {
-    try {
-        steps(Native_Path(path).wstring());
-        return std::nullopt;
-    } catch (const StepFailed& failed) {
-        return Failure{path, failed.reason};
-    } catch (const std::filesystem::filesystem_error& failed) {
-        return Failure{path, failed.code().message()};
-    } catch (const std::bad_alloc&) {
-        return Failure{path, Error_Text(ERROR_NOT_ENOUGH_MEMORY)};
-    }
-}
-
 }  // namespace
 
 Outcome Read_File(const std::u16string& path, std::string& bytes) {
-    return Run(path, [&](const std::wstring& native) { bytes = Read_Whole(native); });
+    return Run_Steps(
+        path, [&](const std::filesystem::path& native) { bytes = Read_Whole(native.wstring()); });
 }
 
 Outcome Replace_File(const std::u16string& path, std::string_view bytes, Durability durability,
                      const Notice& /*notice*/) {
-    return Run(path, [&](const std::wstring& native) { Replace(native, bytes, durability); });
+    return Run_Steps(path, [&](const std::filesystem::path& native) {
+        Replace(native.wstring(), bytes, durability);
+    });
 }
