@@ -10,11 +10,9 @@ namespace {
 
 /// On success the windows have taken over; the exit status otherwise.
 int Start_Window(char** argv) {
-    const std::u16string window = u"bannersmith-window";
-    const std::string reason = Start_Program(window, argv);
-    if (reason.empty()) return 0;
-    NoDesktop().Report(
-        {Program_Folder() + u"/" + window, "The windows cannot be started: " + reason});
+    const auto failure = Start_Program(u"bannersmith-window", argv);
+    if (!failure) return 0;
+    NoDesktop().Report({failure->subject, "The windows cannot be started: " + failure->reason});
     return 1;
 }
 

@@ -14,6 +14,7 @@ namespace {
 
 constexpr char Usage[] =
     "usage: bannersmith-inspect [--json] FILE...\n"
+    "       bannersmith-inspect --help | --version\n"
     "\n"
     "Shows each layout file's lengths, text boxes, material colours and groups, and\n"
     "warns of everything that an edit would not rewrite cleanly. Changes nothing.\n"

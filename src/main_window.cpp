@@ -44,6 +44,7 @@ int Run_Windows(int argc, char** argv) {
     qInstallMessageHandler(Leave_On_Fatal_Message);
     QApplication application(argc, argv);
     QApplication::setApplicationName("Bannersmith");
+    QApplication::setDesktopFileName(DesktopFileName);
     QApplication::setWindowIcon(Program_Icon());
     QtDesktop desktop;
     Form1 window({Program_Folder(), {}}, desktop);

@@ -6,12 +6,12 @@
 #include <QFontMetricsF>
 #include <QInputDialog>
 #include <QMessageBox>
-#include <QStringConverter>
 
 #include "colors/scheme.h"
 #include "desktop/fonts.h"
 #include "desktop/text.h"
 #include "desktop/widgets.h"
+#include "platform/text.h"
 
 namespace {
 
@@ -67,7 +67,5 @@ float QtDesktop::Text_Width(std::u16string_view text, const Font& font) {
 }
 
 std::u16string QtDesktop::In_Code_Page(std::u16string_view text) {
-    QStringEncoder encode(QStringEncoder::System);
-    QStringDecoder decode(QStringDecoder::System);
-    return Taken(decode(encode(Shown(text))));
+    return From_Code_Page(To_Code_Page(text));
 }

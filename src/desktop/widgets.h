@@ -52,6 +52,9 @@ QPushButton* Make_Button(const QString& caption, const QString& tooltip,
 /// A label that names `buddy`, to which its mnemonic leads.
 QLabel* Make_Label(const QString& caption, QWidget* buddy);
 
+/// What the desktop calls the program in its menu entry and its icon theme.
+inline constexpr char DesktopFileName[] = "org.bannersmith.Bannersmith";
+
 /// The program's own icon, drawn at the usual sizes.
 QIcon Program_Icon();
 

@@ -4,6 +4,7 @@
 inline constexpr char Usage[] =
     R"(usage: bannersmith                          open the editor's window
        bannersmith [PATH] -OPTION VALUE...  edit and save without a window
+       bannersmith --help | --version
 
 PATH is the layout file (banner.brlyt): a full path, or one below the program's
 folder. Without it the file used last is edited. Each hyphen begins an option,

@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "platform/failure.h"
+
 /// The command-line text of the process. On Windows its own text after the program's name, quotes
 /// and all; on POSIX the arguments joined by one blank each.
 std::u16string Command_Line(int argc, char** argv);
@@ -15,6 +17,6 @@ std::vector<std::u16string> Arguments(int argc, char** argv);
 std::u16string Program_Folder();
 
 /// Hands over to the program `name` of the program folder, which is called without command-line
-/// text. On POSIX this process becomes that program; on Windows it goes on beside it. Returns the
-/// reason when the program cannot be started, an empty text when it was.
-std::string Start_Program(const std::u16string& name, char** argv);
+/// text. On POSIX this process becomes that program; on Windows it goes on beside it. The failure
+/// names the program's file.
+Outcome Start_Program(const std::u16string& name, char** argv);

@@ -25,9 +25,10 @@ std::u16string Program_Folder() {
     return From_Utf8(program.parent_path().string());
 }
 
-std::string Start_Program(const std::u16string& name, char** argv) {
-    ::execv(To_Utf8(Program_Folder() + u"/" + name).c_str(), argv);
-    return std::strerror(errno);
+Outcome Start_Program(const std::u16string& name, char** argv) {
+    const std::u16string program = Program_Folder() + u"/" + name;
+    ::execv(To_Utf8(program).c_str(), argv);
+    return Failure{program, std::strerror(errno)};
 }
 
 std::u16string From_Code_Page(std::string_view bytes) {

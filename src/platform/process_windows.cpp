@@ -45,7 +45,7 @@ std::u16string Program_Folder() {
     return To_Text(path.substr(0, path.find_last_of(L'\\')).c_str());
 }
 
-std::string Start_Program(const std::u16string& name, char** /*argv*/) {
+Outcome Start_Program(const std::u16string& name, char** /*argv*/) {
     const std::u16string path = Program_Folder() + u"\\" + name + u".exe";
     const std::wstring program(path.begin(), path.end());
     std::wstring command_line = L"\"" + program + L"\"";
@@ -54,11 +54,11 @@ std::string Start_Program(const std::u16string& name, char** /*argv*/) {
     PROCESS_INFORMATION started{};
     if (!::CreateProcessW(program.c_str(), command_line.data(), nullptr, nullptr, FALSE, 0, nullptr,
                           nullptr, &start, &started)) {
-        return Error_Text(::GetLastError());
+        return Failure{path, Error_Text(::GetLastError())};
     }
     ::CloseHandle(started.hThread);
     ::CloseHandle(started.hProcess);
-    return {};
+    return std::nullopt;
 }
 
 std::u16string From_Code_Page(std::string_view bytes) {
