@@ -15,13 +15,15 @@ so neither paths nor values can hold one. Option words may be typed in any case.
   -PLAY N        the highest number of players, worded for every language
   -ESRB RATING   the rating, worded for every language
   -SYSTEM TEXT   the console's name
-  -T_xxx TEXT    the name, -Y_xxx YEAR the year, -E_xxx RATING the rating in one
-                 language: ENG, GER, FRA, ITA, SPA, NED or JPN
+  -T_xxx TEXT    the name in one language: ENG, GER, FRA, ITA, SPA, NED or JPN
+  -Y_xxx YEAR    the year in one language
+  -E_xxx RATING  the rating in one language
   -H_BOX TEXT    the raw text of any text box
   -COLOR NAME    apply the colour scheme schemes/NAME.vccs
   -LOGO FILE     replace the logo texture with a file of the folder logos,
                  or by a full path
   -FORCE xxx     let another language's items answer to this language
+  -2, -3, -4, -5 fill the window's players field, which no save writes
   -PAD N         pad the file to N bytes (12000 unless given); +N adds N bytes;
                  0 adds none
 

@@ -1,0 +1,132 @@
+#!/usr/bin/env python3
+"""check_documents.py [--write] SOURCES PROGRAM-FOLDER: what the documents for users say is what the programs do. Runs
+each example of the manual and of the messages page in a copy of the program folder and compares what it prints, option
+by option compares --help with the man pages and the manual, and the messages page with the messages in the sources.
+With --write the examples' outputs are put into the pages in place of being compared."""
+import os
+import re
+import shutil
+import subprocess
+import sys
+import tempfile
+
+PAGES = ["manual.md", "messages.md"]
+PROGRAMS = ["bannersmith", "bannersmith-window", "bannersmith-inspect"]
+# A text of three words or more (four without a capital), or one that ends in "!", is a message; what holds a line
+# break or a | is none.
+SENTENCE = re.compile(r'"((?=[^"]*!")[^"|\\n]*|[A-Z][\w\']*(?:,? [\w\'+.]+){2}[^"|]*|'
+                      r' ?[a-z]+(?:,? [a-z]+){3}[^"|]*)"')
+failures = []
+
+
+def read(*path):
+    with open(os.path.join(*path), encoding="utf-8") as file:
+        return file.read()
+
+
+def check(holds, what):
+    if not holds:
+        failures.append(what)
+        print("FAILED:", what)
+
+
+def run_example(command, folder):
+    done = subprocess.run(["bash", "-c", command], cwd=folder, stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
+                          timeout=60, env={**os.environ, "LC_ALL": "C.UTF-8"})
+    return done.stdout.decode("utf-8").replace(folder, "/programs/bannersmith").replace(" \n", "\n")
+
+
+def run_block(block, folder):
+    """The lines of a console block with what its commands print now."""
+    lines = []
+    for command in re.findall(r"^\$ (.*(?:\n> .*)*)\n", block, re.M):
+        lines.append("$ " + command + "\n" + run_example(command.replace("\n> ", "\n"), folder))
+    return "".join(lines)
+
+
+def examples(page, text, folder, write):
+    def compare(match):
+        now = run_block(match[1], folder)
+        if not write:
+            check(now == match[1], "%s: the example\n%s\nprints now\n%s" % (page, match[1], now))
+        return "```console\n" + now + "```"
+    return re.sub(r"```console\n(.*?)```", compare, text, flags=re.S)
+
+
+def help_options(text):
+    """The options of --help, with their arguments; "-2, -3" are two."""
+    found = set()
+    for names, argument in re.findall(r"^  (-[^\s,]+(?:, -[^\s,]+)*)((?: (?:[A-Z]+|xxx))?) +", text, re.M):
+        found |= {(name, argument.strip().lower()) for name in names.split(", ")}
+    return found | {(name, "") for name in re.findall(r"(?<!\w)--\w+", text)}
+
+
+def man_options(text):
+    found = set()
+    for line in re.findall(r"^\.It (Fl .*)$", text, re.M):
+        names = re.findall(r"Fl (\S+)", line)
+        argument = re.search(r"Ar (\w+)", line)
+        found |= {("-" + name, argument[1].lower() if argument else "") for name in names}
+    synopsis = re.search(r"\.Sh SYNOPSIS\n(.*?)\.Sh", text, re.S)[1]
+    return found | {("-" + name, "") for name in re.findall(r"-[a-z]+", synopsis.replace("Fl -", "Fl  -"))
+                    for name in ["-" + name.lstrip("-")]}
+
+
+def options(sources, folder, manual):
+    for program in PROGRAMS:
+        path = os.path.join(folder, program)
+        if not os.path.exists(path):
+            print("%s is not built: its man page is not compared" % program)
+            continue
+        shown = help_options(subprocess.run([path, "--help"], capture_output=True, check=True).stdout.decode())
+        page = man_options(read(sources, "packaging", "man", program + ".1"))
+        if program == "bannersmith-window":  # refers to bannersmith for the options
+            shown = {option for option in shown if option[0].startswith("--")}
+        check(shown == page, "%s: --help and man page differ in %s" % (program, sorted(shown ^ page)))
+        for name, _ in shown:
+            typed = name.replace("xxx", "[A-Z]{3}").replace("BOX", r"\w+")
+            check(re.search(r"^[$>] .*(?<![\w-])" + typed + r"(?![\w-])", manual, re.M), "no example of " + name)
+
+
+def code_of(sources):
+    """The sources that messages stand in, without comments, with literals in one piece."""
+    code = ""
+    for at, _, names in os.walk(os.path.join(sources, "src")):
+        if os.path.basename(at) not in ("samples", "pictures", "desktop"):  # the views have tooltips
+            code += "".join(read(at, name) for name in names if re.search(r"(?<!usage)\.(cpp|h)$", name))
+    code = re.sub(r"(?<!:)//.*|#include.*", "", code)
+    return re.sub(r'"\s*\n\s*"', "", code).replace('\\"', "'").replace("\\\\", "\\")
+
+
+def messages(sources, page):
+    listed = set(re.findall(r"^\| `(.*?)` \|", page, re.M))
+    code = code_of(sources)
+    said = {text.strip(" ':") for text in SENTENCE.findall(code) if "\\n" not in text and "NTLG" not in text}
+    check(len(said) > 25, "only %d messages are found in the sources" % len(said))
+    for text in said:
+        check(any(text in message for message in listed) or text.isupper(), "the messages page lacks: " + text)
+    for message in listed:
+        for part in re.split(r'"?\b(?:NUMBER|NAME|REASON|FILE|N)\b"?|\.\.\.', message):
+            check(part.strip(" ':") in code, "no program says: " + part)
+
+
+def main():
+    write = "--write" in sys.argv
+    sources, programs = [argument for argument in sys.argv[1:] if argument != "--write"]
+    with tempfile.TemporaryDirectory() as work:
+        folder = os.path.join(work, "program")
+        shutil.copytree(programs, folder)
+        texts = {page: read(sources, "docs", page) for page in PAGES}
+        for page, text in texts.items():
+            now = examples(page, text, folder, write)
+            if write:
+                with open(os.path.join(sources, "docs", page), "w", encoding="utf-8") as file:
+                    file.write(now)
+        options(sources, folder, texts["manual.md"])
+        messages(sources, texts["messages.md"])
+    print("%d failures" % len(failures))
+    return 1 if failures else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
