@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""check_documents.py [--write] SOURCES PROGRAM-FOLDER: what the documents for users say is what the programs do. Runs
-each example of the manual and of the messages page in a copy of the program folder and compares what it prints, option
-by option compares --help with the man pages and the manual, and the messages page with the messages in the sources.
+"""check_documents.py [--write] SOURCES PROGRAM-FOLDER [DATA-FOLDER]: what the documents for users say is what the programs do. Runs
+each example of the manual and of the messages page in a copy of the program folder, with samples, schemes and logos of
+the data folder in place of its own, and compares what it prints, option by option compares --help with the man pages and the manual, and the messages page with the messages in the sources.
 With --write the examples' outputs are put into the pages in place of being compared."""
 import os
 import re
@@ -112,10 +112,11 @@ def messages(sources, page):
 
 def main():
     write = "--write" in sys.argv
-    sources, programs = [argument for argument in sys.argv[1:] if argument != "--write"]
+    sources, *folders = [argument for argument in sys.argv[1:] if argument != "--write"]
     with tempfile.TemporaryDirectory() as work:
         folder = os.path.join(work, "program")
-        shutil.copytree(programs, folder)
+        for each in folders:
+            shutil.copytree(each, folder, dirs_exist_ok=True)
         texts = {page: read(sources, "docs", page) for page in PAGES}
         for page, text in texts.items():
             now = examples(page, text, folder, write)

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""compare.py LINUX-BUILD WINDOWS-BUILD: the programs for Windows, run with wine, write the same bytes as those for
-Linux, and do what only Windows asks of them."""
+"""compare.py LINUX-FOLDER WINDOWS-FOLDER HOLD-FILE: the programs for Windows, run with wine, write the same bytes as those
+for Linux, and do what only Windows asks of them. The first two are program folders, the last one hold-file.exe."""
 import os
 import shutil
 import subprocess
@@ -37,7 +37,7 @@ def contents(folder):
     found = {}
     for at, _, names in os.walk(folder):
         for name in names:
-            if at.endswith("cfgs") or name.startswith("bannersmith"):
+            if os.path.relpath(at, folder).split(os.sep)[0] not in ("samples", "schemes", "logos"):
                 continue
             with open(os.path.join(at, name), "rb") as file:
                 found[os.path.relpath(os.path.join(at, name), folder)] = file.read()
@@ -50,11 +50,11 @@ def run(folder, program, arguments):
 
 
 class Builds:
-    def __init__(self, linux, windows, work):
-        self.hold = os.path.join(os.path.abspath(windows), "tests", "windows", "hold-file.exe")
+    def __init__(self, linux, windows, hold, work):
+        self.hold = os.path.abspath(hold)
         self.linux, self.windows = os.path.join(work, "linux"), os.path.join(work, "windows é")
-        shutil.copytree(os.path.join(linux, "program"), self.linux)
-        shutil.copytree(os.path.join(windows, "program"), self.windows)
+        shutil.copytree(linux, self.linux)
+        shutil.copytree(windows, self.windows)
 
     def on_linux(self, *arguments):
         return run(self.linux, [os.path.join(self.linux, "bannersmith")], arguments)
@@ -96,6 +96,16 @@ def code_page(builds):
     os.remove(layout)
 
 
+def folder_outside_the_code_page(builds):
+    folder = os.path.join(os.path.dirname(builds.windows), "バナー of mine")
+    shutil.copytree(builds.windows, folder)
+    edit = [SEVEN, "-TITLE", "Anywhere", "-COLOR", "Lagoon", "-LOGO", "Waves.tpl"]
+    status, errors = run(folder, ["wine", os.path.join(folder, "bannersmith.exe")], edit)
+    check(status == 0, "a program folder with Japanese letters: " + errors)
+    builds.on_windows(*edit)
+    check(contents(folder) == contents(builds.windows), "the files of a folder with Japanese letters")
+
+
 def file_held_open(builds):
     layout = os.path.join(builds.windows, SEVEN.replace("\\", "/"))
     before = contents(builds.windows)
@@ -116,9 +126,10 @@ def main():
     with tempfile.TemporaryDirectory() as work:
         os.environ["WINEPREFIX"] = os.path.join(work, "prefix")
         subprocess.run(["wine", "wineboot", "-i"], check=True, capture_output=True, timeout=300)
-        builds = Builds(sys.argv[1], sys.argv[2], work)
+        builds = Builds(*sys.argv[1:], work)
         check(contents(builds.windows) == contents(builds.linux), "the samples, schemes and logos")
-        for test in (same_edits, paths_of_windows, code_page, file_held_open):
+        check(len(contents(builds.linux)) > 20, "there are samples, schemes and logos")
+        for test in (same_edits, paths_of_windows, code_page, folder_outside_the_code_page, file_held_open):
             test(builds)
         subprocess.run(["wineserver", "-k"], check=False)
     print("%d edits compared, %d failures" % (len(EDITS), len(failures)))
