@@ -9,43 +9,12 @@
 
 #include "colors/materials.h"
 #include "colors/scheme_list.h"
-#include "gameinfo/boxes.h"
 #include "platform/files.h"
 #include "platform/text.h"
 
 namespace {
 
 constexpr std::u16string_view NotFound = u"NF";
-
-/// Where the colours of an element are read: in a material, or in that of the language which a
-/// selector of the main window shows.
-struct Source {
-    Element element;
-    std::u16string_view material;
-    std::optional<GameInfo::Selector> selector;
-};
-
-constexpr std::array<Source, ElementCount> Sources = {{
-    {Element::PFLINE, u"PFLine", {}},
-    {Element::T_PF, u"T_PF", {}},
-    {Element::Shade, u"Shade", {}},
-    {Element::Back0, u"Back0", {}},
-    {Element::Back1, u"Back1", {}},
-    {Element::Back2, u"Back2", {}},
-    {Element::Back3, u"Back3", {}},
-    {Element::Back4, u"Back4", {}},
-    {Element::YearLine, u"YearLine", {}},
-    {Element::PlayLine, u"PlayLine", {}},
-    {Element::T_VCTitle, box_prefix::Title, GameInfo::title},
-    {Element::T_Play, box_prefix::Players, GameInfo::players},
-    {Element::T_Year, box_prefix::Year, GameInfo::year},
-    {Element::T_ESRB, box_prefix::Rating, GameInfo::rating},
-    {Element::VCPic, u"VCPic", {}},
-    {Element::VCPicBase, u"VCPicBase", {}},
-    {Element::VCPicSha, u"VCPicSha", {}},
-    {Element::BackMask1, u"BackMask1", {}},
-    {Element::BackMask2, u"BackMask2", {}},
-}};
 
 /// The whole number that a text stands for; nothing when it is none that fits 16 bits.
 std::optional<int> Whole_Number(std::u16string_view text) {
@@ -127,13 +96,13 @@ void frmColor::cmdGetScheme_Click() {
 }
 
 void frmColor::Read_Element_Set(std::string_view data) {
-    for (const Source& source : Sources) {
-        Boxes& boxes = pic[static_cast<std::size_t>(source.element)];
-        std::u16string name(source.material);
-        if (source.selector) name += main_.info.cmbRegion[*source.selector].Selected();
-        const auto found = Set_Pic_Colors_brlyt(data, To_Utf8(name), boxes[0], boxes[1]);
-        if (found == NotFound && source.selector) {
-            Set_Pic_Colors_brlyt(data, To_Utf8(Neutral_Box(source.material)), boxes[0], boxes[1]);
+    for (std::size_t i = 0; i < pic.size(); ++i) {
+        const auto& [material, text] = ElementMaterials[i];
+        std::u16string name(material);
+        if (text) name += main_.info.cmbRegion[*text].Selected();
+        const auto found = Set_Pic_Colors_brlyt(data, To_Utf8(name), pic[i][0], pic[i][1]);
+        if (found == NotFound && text) {
+            Set_Pic_Colors_brlyt(data, To_Utf8(Neutral_Box(material)), pic[i][0], pic[i][1]);
         }
     }
 }

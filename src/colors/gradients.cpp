@@ -12,28 +12,36 @@ Color Band_Color(Color from, Color to, int band, int steps) {
                       part(Blue_Of(from), Blue_Of(to)));
 }
 
+/// Calls `fill` with the two edges and the colour of each band, from the bound `from` to `to`, or
+/// over the surface's whole `extent` when both are 0.
+template <typename Fill>
+void Paint_Bands(float from, float to, float extent, Color colour1, Color colour2,
+                 std::int16_t steps, Fill fill) {
+    const bool whole = from == 0 && to == 0;
+    const float thickness = (whole ? extent : to - from) / static_cast<float>(steps);
+    float edge = whole ? 0 : from;
+    for (int band = 0; band < steps; ++band) {
+        fill(edge, edge + thickness, Band_Color(colour1, colour2, band, steps));
+        edge += thickness;
+    }
+}
+
 }  // namespace
 
 void BackgroundVerticalGradient(Surface& target, Color colour1, Color colour2, std::int16_t steps,
                                 float y1, float y2, float x1, float x2) {
-    const bool whole = y1 == 0 && y2 == 0;
-    const float height = (whole ? target.Height() : y2 - y1) / static_cast<float>(steps);
-    float y = whole ? 0 : y1;
     if (x2 == 0) x2 = target.Width();
-    for (int i = 0; i < steps; ++i) {
-        target.Fill({x1, y, x2, y + height, Band_Color(colour1, colour2, i, steps)});
-        y += height;
-    }
+    Paint_Bands(y1, y2, target.Height(), colour1, colour2, steps,
+                [&](float top, float bottom, Color color) {
+                    target.Fill({x1, top, x2, bottom, color});
+                });
 }
 
 void BackgroundHorizontalGradient(Surface& target, Color colour1, Color colour2, std::int16_t steps,
                                   float y1, float y2, float x1, float x2) {
-    const bool whole = x1 == 0 && x2 == 0;
-    const float width = (whole ? target.Width() : x2 - x1) / static_cast<float>(steps);
-    float x = whole ? 0 : x1;
     if (y2 == 0) y2 = target.Height();
-    for (int i = 0; i < steps; ++i) {
-        target.Fill({x, y1, x + width, y2, Band_Color(colour1, colour2, i, steps)});
-        x += width;
-    }
+    Paint_Bands(x1, x2, target.Width(), colour1, colour2, steps,
+                [&](float left, float right, Color color) {
+                    target.Fill({left, y1, right, y2, color});
+                });
 }

@@ -1,8 +1,5 @@
 #include "colors/materials.h"
 
-#include <array>
-#include <optional>
-
 #include "gameinfo/languages.h"
 #include "layout/mod_globals.h"
 #include "platform/text.h"
@@ -13,20 +10,6 @@ constexpr std::size_t NameBytes = 20;
 constexpr std::size_t FirstLowByte = 21;  ///< low byte of the first colour's red
 constexpr std::size_t ColorBytes = 13;    ///< up to the low byte of the second colour's blue
 constexpr std::size_t SecondColor = 8;    ///< counted from the first low byte
-
-/// The material of an element, or the beginning of its seven names, to which a code is added.
-struct Target {
-    std::string_view material;
-    bool per_language;
-};
-
-constexpr std::array<Target, ElementCount> Targets = {{
-    {"PFLine", false},   {"T_PF", false},      {"Shade", false},     {"Back0", false},
-    {"Back1", false},    {"Back2", false},     {"Back3", false},     {"Back4", false},
-    {"YearLine", false}, {"PlayLine", false},  {"T_VCTitle_", true}, {"T_Play_", true},
-    {"T_Year_", true},   {"T_ESRB_", true},    {"VCPic", false},     {"VCPicBase", false},
-    {"VCPicSha", false}, {"BackMask1", false}, {"BackMask2", false},
-}};
 
 /// Where the colour bytes of a material begin; nothing when they are not all inside the data.
 std::optional<std::size_t> Find_Colors(std::string_view data, std::string_view name) {
@@ -42,14 +25,14 @@ Color Color_At(std::string_view data, std::size_t at) {
     return Make_Color(byte(0), byte(2), byte(4));
 }
 
-void Write_Target(const Target& target, const ColorPair& colors) {
-    if (!target.per_language) {
-        Set_Mat_Colors(BrlytData, target.material, colors);
+void Write_Colors(const ElementMaterial& material, const ColorPair& colors) {
+    if (!material.text) {
+        Set_Mat_Colors(BrlytData, To_Utf8(material.name), colors);
         return;
     }
     for (const std::u16string_view code : LanguageList) {
         if (code == NoLanguage) continue;
-        Set_Mat_Colors(BrlytData, std::string(target.material) + To_Utf8(code), colors);
+        Set_Mat_Colors(BrlytData, To_Utf8(material.name) + To_Utf8(code), colors);
     }
 }
 
@@ -77,6 +60,6 @@ bool Get_Mat_Colors(std::string_view data, std::string_view name, ColorPair& col
 Outcome Apply_Color_Scheme(std::u16string_view program_folder, std::u16string_view name) {
     Scheme scheme;
     if (auto failure = Load_Scheme(program_folder, name, scheme)) return failure;
-    for (std::size_t i = 0; i < scheme.size(); ++i) Write_Target(Targets[i], scheme[i]);
+    for (std::size_t i = 0; i < scheme.size(); ++i) Write_Colors(ElementMaterials[i], scheme[i]);
     return std::nullopt;
 }

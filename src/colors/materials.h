@@ -3,11 +3,44 @@
 // here.
 #pragma once
 
+#include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "colors/scheme.h"
+#include "gameinfo/boxes.h"
+#include "gameinfo/game_info.h"
 #include "platform/failure.h"
+
+/// Where the colours of an element lie: in one material, or, for a text, in one of each language.
+struct ElementMaterial {
+    std::u16string_view name;  ///< of a text's materials what stands in front of the language code
+    std::optional<GameInfo::Selector> text = {};  ///< the field that the text belongs to
+};
+
+/// One for each element, in the order of `ElementKeys`.
+inline constexpr std::array<ElementMaterial, ElementCount> ElementMaterials = {{
+    {u"PFLine"},
+    {SystemBox},
+    {u"Shade"},
+    {u"Back0"},
+    {u"Back1"},
+    {u"Back2"},
+    {u"Back3"},
+    {u"Back4"},
+    {u"YearLine"},
+    {u"PlayLine"},
+    {box_prefix::Title, GameInfo::title},
+    {box_prefix::Players, GameInfo::players},
+    {box_prefix::Year, GameInfo::year},
+    {box_prefix::Rating, GameInfo::rating},
+    {u"VCPic"},
+    {u"VCPicBase"},
+    {u"VCPicSha"},
+    {u"BackMask1"},
+    {u"BackMask2"},
+}};
 
 /// Writes the first two colours of the material called `name`, at most 20 bytes of ASCII, into
 /// `data` and returns a reference to it. The material is the first place where the name, filled up

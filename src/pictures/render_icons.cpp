@@ -1,4 +1,5 @@
-// render-icons FOLDER: paints the program's icon in every size, as the desktop's icon theme wants them.
+// render-icons FOLDER: paints the program's icon in every size, as the desktop's icon theme wants
+// them.
 #include <QApplication>
 #include <QDir>
 #include <cstdio>
@@ -13,8 +14,7 @@ int main(int argc, char** argv) {
     }
     const QIcon icon = Program_Icon();
     for (const QSize& size : icon.availableSizes()) {
-        const QString folder =
-            QString("%1/hicolor/%2x%2/apps").arg(argv[1]).arg(size.width());
+        const QString folder = QString("%1/hicolor/%2x%2/apps").arg(argv[1]).arg(size.width());
         const QString file = folder + "/" + DesktopFileName + ".png";
         if (!QDir().mkpath(folder) || !icon.pixmap(size).save(file)) {
             std::fprintf(stderr, "render-icons: %s cannot be written\n", qPrintable(file));
