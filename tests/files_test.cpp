@@ -102,9 +102,7 @@ TEST(ReplaceFile, MakesAndReplacesFilesWhole) {
     EXPECT_EQ(made.st_mode & 07777, 0666 & ~mask);
     EXPECT_FALSE(Replace_File(file, "short", Durability::unsynced));
     EXPECT_EQ(folder.Read("f"), "short");
-    if (::geteuid() == 0) {
-        EXPECT_EQ(::chown((folder.Path() / "f").c_str(), 65534, 65534), 0);
-    }
+    if (::geteuid() == 0) { EXPECT_EQ(::chown((folder.Path() / "f").c_str(), 65534, 65534), 0); }
     struct stat owned {};
     ::stat((folder.Path() / "f").c_str(), &owned);
     ::chmod((folder.Path() / "f").c_str(), 03640);
@@ -204,14 +202,10 @@ TEST(ReplaceFile, RefusesWhatIsNoOrdinaryFile) {
 class Unprivileged {
  public:
     Unprivileged() {
-        if (privileged_) {
-            EXPECT_EQ(::seteuid(65534), 0);
-        }
+        if (privileged_) { EXPECT_EQ(::seteuid(65534), 0); }
     }
     ~Unprivileged() {
-        if (privileged_) {
-            EXPECT_EQ(::seteuid(0), 0);
-        }
+        if (privileged_) { EXPECT_EQ(::seteuid(0), 0); }
     }
     Unprivileged(const Unprivileged&) = delete;
     Unprivileged& operator=(const Unprivileged&) = delete;

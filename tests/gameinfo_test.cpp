@@ -44,11 +44,12 @@ TEST(Composing, NormalisesTheValue) {
     struct Case {
         const char16_t *value, *english, *japanese;
     };
-    for (const Case& c : {Case{u"", u"1-2", u"1\uFF5E2"},
+    const Case cases[] = {{u"", u"1-2", u"1\uFF5E2"},
                           {u"1", u"1", u"1"},
                           {u"12", u"1-12", u"1\uFF5E12"},
                           {u" 1", u"1- 1", u"1\uFF5E 1"},
-                          {u"1-2", u"1-1-2", u"1\uFF5E1\uFF5E2"}}) {
+                          {u"1-2", u"1-1-2", u"1\uFF5E1\uFF5E2"}};
+    for (const Case& c : cases) {
         std::u16string value = c.value;
         EXPECT_EQ(Make_Players(value, u"ENG"), u"Players: " + std::u16string(c.english));
         value = c.value;
@@ -139,7 +140,7 @@ TEST(Refill, TellsTheNeutralWording) {
     struct Case {
         const char16_t *year, *language;
     };
-    for (const Case& c : {Case{u"1985\u5E74\u767A\u58F2", u"JPN"},
+    const Case cases[] = {{u"1985\u5E74\u767A\u58F2", u"JPN"},
                           {u"", u"JPN"},
                           {u"Released: 1", u"ENG"},
                           {u"Erschienen: 1", u"GER"},
@@ -148,7 +149,8 @@ TEST(Refill, TellsTheNeutralWording) {
                           {u"A\u00F1o: 1", u"SPA"},
                           {u"Release: 1", u"NED"},
                           {u"released: 1", u"ENG"},
-                          {u"Erschienen : 1", u"ENG"}}) {
+                          {u"Erschienen : 1", u"ENG"}};
+    for (const Case& c : cases) {
         const Loaded info({Box("T_VCTitle", u"N"), Box("T_Year", c.year)});
         EXPECT_EQ(NoneRegion, c.language) << To_Utf8(c.year);
         EXPECT_EQ(info.txtName.Text(), u"N");

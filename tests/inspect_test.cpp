@@ -18,16 +18,6 @@ std::string All_Warnings(const std::string& layout) {
     return all;
 }
 
-/// A text box whose fields are as given.
-std::string Odd_Box(const std::string& name, const std::string& stored, unsigned buffer, unsigned length) {
-    TextBoxSpec box;
-    box.name = name;
-    box.stored = stored;
-    box.buffer_length = buffer;
-    box.text_length = length;
-    return Text_Box_Section(box);
-}
-
 TEST(Samples, AreSafeToEditAndStayAsTheyAre) {
     for (const std::string& layout :
          {Seven_Language_Banner(), Neutral_Banner(), German_Japanese_Banner(), Banner_Without_Closing_Group()}) {

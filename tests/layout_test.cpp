@@ -13,16 +13,6 @@ namespace {
 
 using namespace std::string_literals;
 
-/// A record with any lengths and any bytes at its end.
-std::string Record(const std::string& name, const std::string& stored, unsigned text_length) {
-    TextBoxSpec box;
-    box.name = name;
-    box.stored = stored;
-    box.buffer_length = 999;
-    box.text_length = text_length;
-    return Text_Box_Section(box);
-}
-
 TEST(GetText, CutsTheTextOffTheRecordsEnd) {
     struct Case {
         const char* what;
@@ -43,7 +33,7 @@ TEST(GetText, CutsTheTextOffTheRecordsEnd) {
         {"length beyond the record cannot be read", "\0H\0i\0\0\0\0"s, 0x270F + 1, u""},
     };
     for (const Case& c : cases) {
-        EXPECT_EQ(Get_Text(Layout_With({Record("B", c.stored, c.text_length)}), "B"), c.text) << c.what;
+        EXPECT_EQ(Get_Text(Layout_With({Odd_Box("B", c.stored, 999, c.text_length)}), "B"), c.text) << c.what;
     }
 }
 
@@ -81,9 +71,7 @@ TEST(GetText, ReadsNothingOutsideTheData) {
     for (std::size_t size = 0; size <= layout.size(); ++size) {
         const std::string cut = layout.substr(0, size);
         const std::string written = Set_Text(cut, "A", u"fresh");
-        if (size < 0x50) {
-            EXPECT_EQ(written, cut);
-        }
+        if (size < 0x50) { EXPECT_EQ(written, cut); }
         Get_Text(cut, "A");
         Get_Text(cut, "");
     }
@@ -109,7 +97,7 @@ TEST(SetText, RebuildsTheRecord) {
         {u"a^b", "0061000a00620000", 0x7C, 8},
         {u"\xD83D\xDE00\x2028", "d83dde0020280000", 0x7C, 8},
     };
-    const std::string before = Layout_With({Box("Q", u"?"), Record("B", "\0H\0i\0\0\0\0"s, 6)});
+    const std::string before = Layout_With({Box("Q", u"?"), Odd_Box("B", "\0H\0i\0\0\0\0"s, 999, 6)});
     const std::size_t at = before.rfind("txt1");
     for (const Case& c : cases) {
         const std::string after = Set_Text(before, "B", c.text);
@@ -231,24 +219,13 @@ TEST(Padding, FollowsItsText) {
         const char16_t* text;
         std::size_t size;  ///< of 300 bytes afterwards; 0 when the text is refused
     };
-    for (const Case& c : {Case{u"12000", 12000},
-                          {u"", 300},
-                          {u"0", 300},
-                          {u"+0", 300},
-                          {u"+16", 316},
-                          {u"300", 300},
-                          {u"301", 301},
-                          {u"+007", 307},
-                          {u"abc", 0},
-                          {u"+", 0},
-                          {u"-5", 0},
-                          {u"+-5", 0},
-                          {u"++5", 0},
-                          {u"12 ", 0},
-                          {u"1.5", 0},
-                          {u"\u0661", 0},
-                          {u"268435457", 0},
-                          {u"+99999999999999999999", 0}}) {
+    const Case cases[] = {{u"12000", 12000}, {u"", 300},        {u"0", 300},
+                          {u"+0", 300},      {u"+16", 316},     {u"300", 300},
+                          {u"301", 301},     {u"+007", 307},    {u"abc", 0},
+                          {u"+", 0},         {u"-5", 0},        {u"+-5", 0},
+                          {u"++5", 0},       {u"12 ", 0},       {u"1.5", 0},
+                          {u"\u0661", 0},    {u"268435457", 0}, {u"+99999999999999999999", 0}};
+    for (const Case& c : cases) {
         const auto padding = Read_Padding(c.text);
         ASSERT_EQ(padding.has_value(), c.size != 0) << To_Utf8(c.text);
         if (!padding) continue;

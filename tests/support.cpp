@@ -14,9 +14,7 @@ TempFolder::TempFolder() {
     path_ = ::mkdtemp(name.data());
 }
 
-TempFolder::~TempFolder() {
-    fs::remove_all(path_);
-}
+TempFolder::~TempFolder() { fs::remove_all(path_); }
 
 void TempFolder::Write(const std::string& name, std::string_view bytes) const {
     fs::create_directories((path_ / name).parent_path());
@@ -53,6 +51,15 @@ std::string Layout_With(std::vector<std::string> sections) {
 
 std::string Box(std::string_view name, std::u16string_view text) {
     return Text_Box_Section(Clean_Text_Box(name, text, 0));
+}
+
+std::string Odd_Box(std::string_view name, const std::string& stored, unsigned buffer_length, unsigned text_length) {
+    TextBoxSpec box;
+    box.name = name;
+    box.stored = stored;
+    box.buffer_length = buffer_length;
+    box.text_length = text_length;
+    return Text_Box_Section(box);
 }
 
 std::string Hex(std::string_view bytes) {

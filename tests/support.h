@@ -65,5 +65,8 @@ std::string Layout_With(std::vector<std::string> sections);
 /// A clean text box's section.
 std::string Box(std::string_view name, std::u16string_view text);
 
+/// A text box's section with any lengths and any bytes at its end.
+std::string Odd_Box(std::string_view name, const std::string& stored, unsigned buffer_length, unsigned text_length);
+
 /// `bytes` as hexadecimal digits, for readable failures.
 std::string Hex(std::string_view bytes);

@@ -119,22 +119,10 @@ TEST_F(Windows, ColorsAreEditedBoxByBox) {
         const char16_t* typed;
         int red;  ///< of the swatch afterwards
     };
-    for (const Case& c : {Case{u"7", 7},
-                          {u"300", 255},
-                          {u"a", 255},
-                          {u"2.5", 2},
-                          {u"3.5", 4},
-                          {u"", 4},
-                          {u"32767", 255},
-                          {u"1", 1},
-                          {u"32768", 1},
-                          {u"-5", 0},
-                          {u" 9 ", 9},
-                          {u"9x", 9},
-                          {u"nan", 9},
-                          {u"-32769", 9},
-                          {u"+-8", 9},
-                          {u"+8", 8}}) {
+    const Case cases[] = {{u"7", 7},       {u"300", 255},  {u"a", 255},   {u"2.5", 2}, {u"3.5", 4}, {u"", 4},
+                          {u"32767", 255}, {u"1", 1},      {u"32768", 1}, {u"-5", 0},  {u" 9 ", 9}, {u"9x", 9},
+                          {u"nan", 9},     {u"-32769", 9}, {u"+-8", 9},   {u"+8", 8}};
+    for (const Case& c : cases) {
         colors.txtR.Set(c.typed);
         EXPECT_EQ(colors.picClr.Value(), Rgb(c.red, 217, 230)) << To_Utf8(c.typed);
     }
