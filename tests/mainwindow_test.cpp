@@ -108,6 +108,11 @@ TEST_F(MainWindow, FollowsThePathBoxAtEachKeystroke) {
     window->txtSrc.Set(path);
     EXPECT_EQ(BrlytData, Seven_Language_Banner());
     EXPECT_EQ(folder.Read(Configuration), configured);
+    folder.Write("huge", "");
+    std::filesystem::resize_file(folder.Path() / "huge", (std::uintmax_t{1} << 30) + 1);
+    window->txtSrc.Set(u"\\huge");
+    EXPECT_EQ(folder.Read(Configuration), "\\huge\r\n") << "a file that cannot be read is stored as well";
+    EXPECT_EQ(BrlytData, "");
     NoneRegion = u"JPN";
     window->txtSrc.Set(u"\\logos\\");
     EXPECT_EQ(NoneRegion, u"");
@@ -133,6 +138,9 @@ TEST_F(MainWindow, BrowsesForAFile) {
     desktop.file = elsewhere.Text() + u"/x.brlyt";
     window->cmdFileBrowse_Click();
     EXPECT_EQ(window->txtSrc.Text(), desktop.file);
+    desktop.file = folder.Text() + u"/a" + folder.Text() + u"/b";
+    window->cmdFileBrowse_Click();
+    EXPECT_EQ(window->txtSrc.Text(), u"\\a\\b") << "the program's folder goes wherever it stands";
 }
 
 TEST_F(MainWindow, SavesOnlyWhatTheWriterChanges) {
@@ -159,6 +167,10 @@ TEST_F(MainWindow, SavesOnlyWhatTheWriterChanges) {
     window->txtPad.Set(u"");
     window->cmdSave_Click();
     EXPECT_EQ(Hex(folder.Read(Layout)), Hex(neutral)) << "neutral boxes take no part";
+    folder.Write(Layout, Layout_With({Box("T_Year", u"11"), Box("T_Year_NONE", u"22")}));
+    Start();
+    window->cmdSave_Click();
+    EXPECT_EQ(On_Disk("T_Year"), "22") << "unless a box has the name that stands for them";
 }
 
 TEST_F(MainWindow, SavesWithASchemeAloneAndStoresThePath) {
