@@ -66,6 +66,8 @@ TEST(SchemeFile, IsRefusedWhole) {
         EXPECT_NE(Parse_Scheme(contents, scheme), "") << contents;
         EXPECT_EQ(scheme, before);
     }
+    Scheme scheme;
+    EXPECT_EQ(Parse_Scheme(Numbers(13, " ") + " 256", scheme), "Shade: 256 is not between 0 and 255");
 }
 
 TEST(MaterialColors, AreThirteenBytesBehindTheName) {

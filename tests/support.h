@@ -41,6 +41,12 @@ class TestDesktop : public Desktop {
     Color color = 0;
     std::u16string code_page_lacks;  ///< characters that the system's code page has not
 
+    bool confirms = true;
+
+    bool Confirm(const std::u16string& asked) override {
+        question = asked;
+        return confirms;
+    }
     void Message(const std::u16string& text) override { messages.push_back(text); }
     void Report(const Failure& failure) override { failures.push_back(failure); }
     std::u16string Open_File(const std::u16string& wanted) override {

@@ -304,26 +304,35 @@ TEST_F(Windows, TextEditorWithoutLayoutDoesNothing) {
 }
 
 TEST_F(Windows, StatusTellsWhatIsLoadedAndChanged) {
-    EXPECT_EQ(main.lblLoaded.Caption(), u"banner.brlyt  |  ENG GER FRA ITA SPA NED JPN  |  10876 bytes  |  saved");
+    EXPECT_EQ(main.lblLoaded.Caption(),
+              u"banner.brlyt  |  ENG GER FRA ITA SPA NED JPN  |  10876 bytes  |  texts as in the file");
     main.info.txtESRB.Set(u"T");
     main.cmdSet_Click(2);
     EXPECT_EQ(main.lblLastCommand.Caption(), u"ESRB Rating: 1 text changed: T_ESRB_ENG");
     EXPECT_TRUE(main.Has_Unsaved_Changes());
-    EXPECT_TRUE(main.lblLoaded.Caption().ends_with(u"unsaved changes"));
+    EXPECT_TRUE(main.May_Close());
+    EXPECT_NE(desktop.question, u"");
+    desktop.confirms = false;
+    EXPECT_FALSE(main.May_Close());
+    EXPECT_TRUE(main.lblLoaded.Caption().ends_with(u"texts not saved"));
     main.cmdSet_Click(2);
     EXPECT_EQ(main.lblLastCommand.Caption(), u"ESRB Rating: nothing changed");
     main.cmdSave_Click();
     EXPECT_FALSE(main.Has_Unsaved_Changes());
+    EXPECT_TRUE(main.May_Close());
     EXPECT_EQ(main.lblLastCommand.Caption(), u"Saved");
     frmHC& editor = Open_Editor();
     editor.txtHC.Set(u"new");
     editor.cmdSet_Click();
     EXPECT_EQ(main.lblLastCommand.Caption(), u"Text editor: 1 text changed: T_PF");
-    EXPECT_TRUE(main.lblLoaded.Caption().ends_with(u"unsaved changes"));
+    EXPECT_TRUE(main.lblLoaded.Caption().ends_with(u"texts not saved"));
     main.Close_Text_Editor();
     main.txtPad.Set(u"x");
     main.cmdSave_Click();
     EXPECT_EQ(main.lblLastCommand.Caption(), u"Not saved");
+    folder.Write("text.txt", "neither a layout nor short");
+    main.txtSrc.Set(u"\\text.txt");
+    EXPECT_TRUE(main.lblLoaded.Caption().starts_with(u"text.txt  |  not a layout file"));
     main.txtSrc.Set(u"x");
     EXPECT_EQ(main.lblLoaded.Caption(), u"No layout loaded");
     EXPECT_EQ(main.lblLastCommand.Caption(), u"");

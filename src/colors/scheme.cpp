@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/files.h"
+#include "platform/text.h"
 
 namespace {
 
@@ -79,7 +80,9 @@ std::string Parse_Scheme(std::string_view contents, Scheme& scheme) {
         }
         std::uint8_t component = 0;
         const std::string reason = Parse_Component(Take_Number(rest), component);
-        if (!reason.empty()) return reason;
+        if (!reason.empty()) {
+            return To_Utf8(ElementKeys[numbers.size() / NumbersPerElement]) + ": " + reason;
+        }
         numbers.push_back(component);
     }
     const std::uint8_t* next = numbers.data();

@@ -55,8 +55,8 @@ std::string Format_Scheme(const Scheme& scheme);
 
 /// Reads the 114 numbers of a scheme file's contents in sequence, whatever its lines: they are
 /// separated by blanks, a comma or line ends, and what follows the last one does not count. A text
-/// that ends early, something that is no whole number, and a number outside 0 to 255 give a reason
-/// and leave `scheme` as it was.
+/// that ends early, something that is no whole number, and a number outside 0 to 255 give a reason,
+/// which names the element, and leave `scheme` as it was.
 std::string Parse_Scheme(std::string_view contents, Scheme& scheme);
 
 /// Reads the file of the scheme called `name` whole. On failure `scheme` is left as it was.

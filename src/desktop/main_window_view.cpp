@@ -214,9 +214,8 @@ void MainWindowView::Make_Status_Line() {
     };
 }
 
-/// A disabled window stays: the one in front of it depends on it.
 void MainWindowView::closeEvent(QCloseEvent* event) {
-    event->setAccepted(window_.form.Enabled());
+    event->setAccepted(window_.May_Close());
     if (event->isAccepted()) Store_Position(*this, "main window");
 }
 

@@ -35,6 +35,11 @@ void QtDesktop::Message(const std::u16string& text) {
     Show_Box(QMessageBox::NoIcon, Shown(text));
 }
 
+bool QtDesktop::Confirm(const std::u16string& question) {
+    return QMessageBox::question(QApplication::activeWindow(), "Bannersmith", Shown(question)) ==
+           QMessageBox::Yes;
+}
+
 void QtDesktop::Report(const Failure& failure) {
     NoDesktop().Report(failure);
     Show_Box(QMessageBox::Critical,

@@ -7,6 +7,7 @@
 class QtDesktop : public Desktop {
  public:
     void Message(const std::u16string& text) override;
+    bool Confirm(const std::u16string& question) override;
     void Report(const Failure& failure) override;
     std::u16string Open_File(const std::u16string& filter) override;
     std::u16string Ask(const std::u16string& prompt, const std::u16string& title) override;

@@ -120,10 +120,19 @@ QIcon Program_Icon() {
     return icon;
 }
 
+namespace {
+
+/// A file of the user's on every system, so that nothing is left in a registry.
+QSettings Positions() {
+    return QSettings(QSettings::IniFormat, QSettings::UserScope, "Bannersmith", "Bannersmith");
+}
+
+}  // namespace
+
 void Restore_Position(QWidget& window, const QString& name) {
-    window.restoreGeometry(QSettings("Bannersmith", "Bannersmith").value(name).toByteArray());
+    window.restoreGeometry(Positions().value(name).toByteArray());
 }
 
 void Store_Position(const QWidget& window, const QString& name) {
-    QSettings("Bannersmith", "Bannersmith").setValue(name, window.saveGeometry());
+    Positions().setValue(name, window.saveGeometry());
 }

@@ -77,6 +77,10 @@ class Form1 {
     /// Whether the layout in memory differs from the file as it was loaded or saved last.
     bool Has_Unsaved_Changes() const;
 
+    /// Whether the window may be closed: it is enabled, and there are no unsaved changes or the
+    /// user gives them up.
+    bool May_Close();
+
     /// Saves the layout and loads the saved file. A failure is reported and leaves the file, the
     /// logo texture and `BrlytData` as they were.
     void cmdSave_Click();

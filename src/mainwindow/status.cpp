@@ -85,13 +85,21 @@ bool Form1::Has_Unsaved_Changes() const {
     return BrlytData != on_disk_;
 }
 
+bool Form1::May_Close() {
+    if (!form.Enabled()) return false;
+    return !Has_Unsaved_Changes() ||
+           desktop_.Confirm(u"The file does not have the latest changes. Close without saving?");
+}
+
 void Form1::Tell_What_Is_Loaded() {
     if (BrlytData.empty()) {
         lblLoaded.Set(u"No layout loaded");
         return;
     }
     const std::u16string path = With_Backslashes(txtSrc.Text());
-    lblLoaded.Set(path.substr(path.rfind(u'\\') + 1) + u"  |  " + Languages_Present() + u"  |  " +
+    const bool is_layout = BrlytData.starts_with("RLYT");
+    lblLoaded.Set(path.substr(path.rfind(u'\\') + 1) + u"  |  " +
+                  (is_layout ? Languages_Present() : u"not a layout file") + u"  |  " +
                   Number(BrlytData.size()) + u" bytes  |  " +
-                  (Has_Unsaved_Changes() ? u"unsaved changes" : u"saved"));
+                  (Has_Unsaved_Changes() ? u"texts not saved" : u"texts as in the file"));
 }

@@ -9,6 +9,9 @@ inline constexpr char Usage[] =
 PATH is the layout file (banner.brlyt): a full path, or one below the program's
 folder. Without it the file used last is edited. Each hyphen begins an option,
 so neither paths nor values can hold one. Option words may be typed in any case.
+Values lose the blanks around them and, but for a year, their double quotes; they
+are not checked.
+Unknown options, and texts for boxes that the layout lacks, are passed over.
 
   -TITLE TEXT    the game's name in every language        (^ is a line break)
   -YEAR YEAR     the release year, worded for every language

@@ -90,6 +90,7 @@ void Render(const std::u16string& program_folder, const Painter& painter) {
     QApplication::processEvents();
     painter.Save(view, "main-window-japanese");
 
+    for (DropDownList& list : window.info.cmbRegion) list.Pick(0);
     window.cmdEditColor_Click();
     window.ColorWindow->pic_Click(u"T_VCTitle", 1);
     auto& colors = Find_View<ColorWindowView>();

@@ -6,6 +6,10 @@
 
 void NoDesktop::Message(const std::u16string& /*text*/) {}
 
+bool NoDesktop::Confirm(const std::u16string& /*question*/) {
+    return false;
+}
+
 void NoDesktop::Report(const Failure& failure) {
     const std::string line =
         "bannersmith: " + To_Utf8(failure.subject) + ": " + failure.reason + "\n";

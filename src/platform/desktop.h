@@ -31,6 +31,9 @@ class Desktop {
     /// Shows `text` with an OK button.
     virtual void Message(const std::u16string& text) = 0;
 
+    /// Whether the user says yes to `question`.
+    virtual bool Confirm(const std::u16string& question) = 0;
+
     /// Tells the user what went wrong with what.
     virtual void Report(const Failure& failure) = 0;
 
@@ -54,10 +57,11 @@ class Desktop {
 };
 
 /// A run without windows: failures go to standard error as one line each, "bannersmith: SUBJECT:
-/// REASON"; messages are not shown and every question is left unanswered.
+/// REASON"; messages are not shown, every question is left unanswered and nothing is confirmed.
 class NoDesktop : public Desktop {
  public:
     void Message(const std::u16string& text) override;
+    bool Confirm(const std::u16string& question) override;
     void Report(const Failure& failure) override;
     std::u16string Open_File(const std::u16string& filter) override;
     std::u16string Ask(const std::u16string& prompt, const std::u16string& title) override;

@@ -99,7 +99,7 @@ def code_of(sources):
 
 
 def messages(sources, page):
-    listed = set(re.findall(r"^\| `(.*?)` \|", page, re.M))
+    listed = {message for cell in re.findall(r"^\| (`.*?`) \|", page, re.M) for message in cell.strip("`").split("`, `")}
     code = code_of(sources)
     said = {text.strip(" ':") for text in SENTENCE.findall(code) if "\\n" not in text and "NTLG" not in text}
     check(len(said) > 25, "only %d messages are found in the sources" % len(said))
