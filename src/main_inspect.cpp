@@ -1,5 +1,6 @@
 // bannersmith-inspect: shows what layout files hold and what an edit would not rewrite cleanly.
 #include <cstdio>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -22,26 +23,18 @@ constexpr char Usage[] =
     "Exit status: 0 no warning; 1 a warning; 2 a file that cannot be read or is no\n"
     "layout.\n";
 
-void Print(const std::string& text, std::FILE* stream) {
-    std::fwrite(text.data(), 1, text.size(), stream);
-}
-
-/// False, with a line on standard error, when the file cannot be inspected.
-bool Inspect(const std::u16string& file, std::string& data, FileReport& report) {
-    std::string reason;
-    if (const auto failure = Read_File(file, data)) {
-        reason = failure->reason;
-    } else if (!Is_Layout(data)) {
-        reason = "Not a layout file";
+/// Fills `report`, which points into `data`. The reason when the file cannot be inspected.
+std::string Inspect(const std::u16string& file, std::string& data, FileReport& report) {
+    try {
+        if (const auto failure = Read_File(file, data)) return failure->reason;
+        if (!Is_Layout(data)) return "Not a layout file";
+        report.file = To_Utf8(file);
+        report.info = Read_Layout(data);
+        report.warnings = Find_Warnings(data, report.info);
+        return {};
+    } catch (const std::bad_alloc&) {
+        return "Not enough memory";
     }
-    if (!reason.empty()) {
-        Print("bannersmith-inspect: " + To_Utf8(file) + ": " + reason + "\n", stderr);
-        return false;
-    }
-    report.file = To_Utf8(file);
-    report.info = Read_Layout(data);
-    report.warnings = Find_Warnings(data, report.info);
-    return true;
 }
 
 int Inspect_All(const std::vector<std::u16string>& files, bool json) {
@@ -50,7 +43,9 @@ int Inspect_All(const std::vector<std::u16string>& files, bool json) {
     int status = 0;
     for (std::size_t i = 0; i < files.size(); ++i) {
         FileReport report;
-        if (!Inspect(files[i], contents[i], report)) {
+        const std::string reason = Inspect(files[i], contents[i], report);
+        if (!reason.empty()) {
+            Print("bannersmith-inspect: " + To_Utf8(files[i]) + ": " + reason + "\n", stderr);
             status = 2;
             continue;
         }

@@ -2,6 +2,7 @@
 // bannersmith.
 #include <QApplication>
 #include <cstdlib>
+#include <new>
 
 #include "desktop/main_window_view.h"
 #include "desktop/qt_desktop.h"
@@ -39,10 +40,25 @@ void Leave_On_Fatal_Message(QtMsgType type, const QMessageLogContext& /*context*
     if (type == QtCriticalMsg) NoDesktop().Report({u"window", text.toStdString()});
 }
 
+/// The toolkit's own, but a command for which memory lacks is reported and the editor goes on.
+class Application : public QApplication {
+ public:
+    using QApplication::QApplication;
+
+    bool notify(QObject* receiver, QEvent* event) override {
+        try {
+            return QApplication::notify(receiver, event);
+        } catch (const std::bad_alloc&) {
+            QtDesktop().Report({u"Bannersmith", "Not enough memory"});
+            return true;
+        }
+    }
+};
+
 int Run_Windows(int argc, char** argv) {
     if (!Display_Is_Named()) return No_Display();
     qInstallMessageHandler(Leave_On_Fatal_Message);
-    QApplication application(argc, argv);
+    const Application application(argc, argv);
     QApplication::setApplicationName("Bannersmith");
     QApplication::setDesktopFileName(DesktopFileName);
     QApplication::setWindowIcon(Program_Icon());

@@ -131,13 +131,17 @@ TEST(ReplaceFile, AFailedWriteLeavesTheOldFile) {
     EXPECT_EQ(folder.Names(), std::vector<std::string>{"f"});
 }
 
-TEST(ReplaceFile, KeepsAttributesAndAccessLists) {
-    // A list in the kernel's own form: version 2, then tag, rights and identity of each entry.
+/// A list in the kernel's own form: version 2, then tag, rights and identity of each entry.
+std::string Access_List() {
     const auto entry = [](char tag, char rights, int user) {
         return std::string{tag, 0, rights, 0} + (user < 0 ? std::string(4, '\xFF') : std::string{char(user), 0, 0, 0});
     };
-    const std::string list = "\2" + std::string(3, '\0') + entry(1, 6, -1) + entry(2, 4, 9) + entry(4, 4, -1) +
-                             entry(16, 6, -1) + entry(32, 0, -1);
+    return "\2" + std::string(3, '\0') + entry(1, 6, -1) + entry(2, 4, 9) + entry(4, 4, -1) + entry(16, 6, -1) +
+           entry(32, 0, -1);
+}
+
+TEST(ReplaceFile, KeepsAttributesAndAccessLists) {
+    const std::string list = Access_List();
     const std::pair<const char*, std::string> attributes[] = {{"user.note", "kept"}, {"system.posix_acl_access", list}};
     for (const auto& [name, value] : attributes) {
         const TempFolder folder;
@@ -152,6 +156,21 @@ TEST(ReplaceFile, KeepsAttributesAndAccessLists) {
         EXPECT_EQ(found, value) << name;
         EXPECT_EQ(folder.Read("f"), "new");
     }
+}
+
+TEST(ReplaceFile, GainsNoAccessListFromItsFolder) {
+    const TempFolder folder;
+    folder.Write("d/f", "old");
+    ::chmod((folder.Path() / "d/f").c_str(), 0640);
+    const std::string list = Access_List();
+    if (::setxattr((folder.Path() / "d").c_str(), "system.posix_acl_default", list.data(), list.size(), 0) != 0) {
+        GTEST_SKIP() << "no access lists on this file system";
+    }
+    EXPECT_FALSE(Replace_File(folder.Text() + u"/d/f", "new", Durability::synced));
+    EXPECT_LT(::getxattr((folder.Path() / "d/f").c_str(), "system.posix_acl_access", nullptr, 0), 0);
+    struct stat info {};
+    ::stat((folder.Path() / "d/f").c_str(), &info);
+    EXPECT_EQ(info.st_mode & 07777, 0640U);
 }
 
 TEST(ReplaceFile, TakesNamesUpToTheLimit) {

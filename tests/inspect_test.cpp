@@ -3,7 +3,6 @@
 #include "inspect/report.h"
 #include "inspect/sections.h"
 #include "inspect/warnings.h"
-#include "layout/numbers.h"
 #include "layout/text_box.h"
 #include "samples/banners.h"
 #include "support.h"

@@ -5,7 +5,6 @@
 #include <cstdlib>
 
 #include "layout/text_box.h"
-#include "platform/text.h"
 #include "support.h"
 
 namespace {
@@ -23,21 +22,22 @@ class Program : public testing::Test {
     Program() {
         fs::create_directories(Home().parent_path());
         fs::copy(PROGRAM_FOLDER, Home(), fs::copy_options::recursive);
-        folder.Write("home/cfgs/vcinfopath.cfg", "\\samples\\german_japanese\\arc\\blyt\\banner.brlyt\r\n");
+        folder.Write(HomeName + "/cfgs/vcinfopath.cfg", "\\samples\\german_japanese\\arc\\blyt\\banner.brlyt\r\n");
     }
 
-    fs::path Home() const { return folder.Path() / "home"; }
+    fs::path Home() const { return folder.Path() / HomeName; }
 
     /// Runs a program of the copy from another folder; `arguments` as a shell takes them.
-    Result Run(const std::string& program, const std::string& arguments) const {
-        const std::string command = "cd /; '" + (Home() / program).string() + "' " + arguments + " >'" +
+    Result Run(const std::string& program, const std::string& arguments, const std::string& before = "") const {
+        const std::string command = before + "cd /; '" + (Home() / program).string() + "' " + arguments + " >'" +
                                     (folder.Path() / "out").string() + "' 2>'" + (folder.Path() / "err").string() + "'";
         const int status = std::system(command.c_str());
         return {WEXITSTATUS(status), folder.Read("out"), folder.Read("err")};
     }
 
+    const std::string HomeName = "home of \u30D0\u30CA\u30FC";
     const TempFolder folder;
-    const std::string layout = "home/samples/german_japanese/arc/blyt/banner.brlyt";
+    const std::string layout = HomeName + "/samples/german_japanese/arc/blyt/banner.brlyt";
 };
 
 TEST_F(Program, EditsAndSaves) {
@@ -63,6 +63,16 @@ TEST_F(Program, NeedsItsConfigurationForEditsAlone) {
     EXPECT_TRUE(edit.errors.starts_with("bannersmith: " + Home().string()));
     EXPECT_EQ(Run("bannersmith-inspect", "").status, 2);
 }
+
+#ifndef __SANITIZE_ADDRESS__  // which needs more memory than there is here
+TEST_F(Program, TellsThatMemoryLacks) {
+    folder.Write(HomeName + "/huge", "RLYT");
+    fs::resize_file(Home() / "huge", 60 << 20);
+    const Result run = Run("bannersmith", "huge -TITLE x", "ulimit -v 100000; ");
+    EXPECT_EQ(run.status, 1);
+    EXPECT_TRUE(run.errors.ends_with("huge: Not enough memory\n")) << run.errors;
+}
+#endif
 
 TEST_F(Program, InspectTellsByItsStatus) {
     folder.Write("twice", Layout_With({Box("A", u"a"), Box("A", u"bbb")}));

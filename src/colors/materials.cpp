@@ -30,8 +30,7 @@ void Write_Colors(const ElementMaterial& material, const ColorPair& colors) {
         Set_Mat_Colors(BrlytData, To_Utf8(material.name), colors);
         return;
     }
-    for (const std::u16string_view code : LanguageList) {
-        if (code == NoLanguage) continue;
+    for (const std::u16string_view code : Languages) {
         Set_Mat_Colors(BrlytData, To_Utf8(material.name) + To_Utf8(code), colors);
     }
 }

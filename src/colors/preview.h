@@ -2,7 +2,6 @@
 #pragma once
 
 #include <array>
-#include <span>
 
 #include "colors/scheme.h"
 #include "gameinfo/game_info.h"

@@ -6,6 +6,7 @@
 #include <QSettings>
 #include <QShortcut>
 #include <cmath>
+#include <numbers>
 
 #include "colors/scheme.h"
 
@@ -43,7 +44,7 @@ void ColorButton::paintEvent(QPaintEvent* /*event*/) {
 
 void ElidedLabel::Show_Text(const QString& text) {
     setText(text);
-    setToolTip(text.toHtmlEscaped());
+    setToolTip("<span>" + text.toHtmlEscaped() + "</span>");  // rich whatever it holds
 }
 
 void ElidedLabel::paintEvent(QPaintEvent* /*event*/) {
@@ -104,7 +105,7 @@ QPixmap Draw_Icon(int size) {
     painter.drawPath(cloth);
     QPolygonF star;
     for (int i = 0; i < 10; ++i) {
-        const double angle = M_PI / 5 * i, radius = i % 2 ? 4.6 : 11;
+        const double angle = std::numbers::pi / 5 * i, radius = i % 2 ? 4.6 : 11;
         star << QPointF(32 + radius * std::sin(angle), 28 - radius * std::cos(angle));
     }
     painter.setBrush(QColor(0xFF, 0xD9, 0x66));

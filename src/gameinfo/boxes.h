@@ -1,6 +1,7 @@
 // The text boxes of a banner by name, on the loaded layout.
 #pragma once
 
+#include <array>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,6 +13,11 @@ inline constexpr std::u16string_view Year = u"T_Year_";
 inline constexpr std::u16string_view Players = u"T_Play_";
 inline constexpr std::u16string_view Rating = u"T_ESRB_";
 }  // namespace box_prefix
+
+/// The prefixes of the four fields that each language has a box for, in the order in which a save
+/// treats them.
+inline constexpr std::array<std::u16string_view, 4> FieldPrefixes = {
+    box_prefix::Title, box_prefix::Year, box_prefix::Players, box_prefix::Rating};
 
 /// The one box that serves all languages: the name of the console.
 inline constexpr std::u16string_view SystemBox = u"T_PF";

@@ -1,6 +1,6 @@
 #include "gameinfo/game_info.h"
 
-#include <optional>
+#include <algorithm>
 #include <vector>
 
 #include "gameinfo/boxes.h"

@@ -1,7 +1,7 @@
 // Batch mode: the command line's layout path and options.
 #include <algorithm>
 #include <array>
-#include <utility>
+#include <new>
 
 #include "colors/materials.h"
 #include "gameinfo/boxes.h"
@@ -56,7 +56,11 @@ struct Form1::PrefixedOption {
 };
 
 int Form1::Run_Batch() {
-    ParseClo();
+    try {
+        ParseClo();
+    } catch (const std::bad_alloc&) {
+        Fail(Failed, {txtSrc.Text(), "Not enough memory"});
+    }
     if (status_ == Done) {
         cmdSave_Click();
     } else {
@@ -90,9 +94,11 @@ void Form1::Take_Layout_Path(std::u16string_view piece) {
 
 Failure Form1::Why_No_Layout() const {
     if (txtSrc.Text().empty()) return {Configuration_Path(), "Names no layout file"};
+    if (!why_not_loaded_.empty()) return {txtSrc.Text(), why_not_loaded_};
     std::string bytes;
-    const auto failure = Read_File(Layout_Path(), bytes);
-    if (failure) return {txtSrc.Text(), failure->reason};
+    if (const auto failure = Read_File(Layout_Path(), bytes)) {
+        return {txtSrc.Text(), failure->reason};
+    }
     return {txtSrc.Text(),
             bytes.size() < HeaderBytes ? "Too short to be a layout" : "Cannot be read"};
 }

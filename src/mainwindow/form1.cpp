@@ -52,9 +52,12 @@ Outcome Form1::Read_Configuration(std::u16string& line) const {
     return std::nullopt;
 }
 
-/// A path that cannot be stored is no reason to stop working, so a failure is not reported.
+/// A path that cannot be stored is no reason to stop working, so a failure is not reported. One
+/// that the code page has not would come back as another path, so the last one stays.
 void Form1::Store_Path() const {
-    const std::string line = To_Code_Page(txtSrc.Text()) + "\r\n";
+    const std::string path = To_Code_Page(txtSrc.Text());
+    if (From_Code_Page(path) != txtSrc.Text()) return;
+    const std::string line = path + "\r\n";
     std::string stored;
     if (!Read_File(Configuration_Path(), stored) && stored == line) return;
     static_cast<void>(Replace_File(Configuration_Path(), line, Durability::unsynced));
@@ -66,6 +69,7 @@ std::u16string Form1::Layout_Path() const {
 
 void Form1::txtSrc_Change() {
     BrlytData.clear();
+    why_not_loaded_.clear();
     const std::u16string path = Layout_Path();
     if (Ordinary_File_Exists(path)) {
         BrlytPath = path;
@@ -81,9 +85,17 @@ void Form1::txtSrc_Change() {
 void Form1::Load_Brlyt() {
     NoneRegion.clear();
     if (!Ordinary_File_Exists(BrlytPath) || Ends_In_Separator(BrlytPath)) return;
-    if (Read_File(BrlytPath, BrlytData)) return;
-    BrlytData = CutPadding(std::move(BrlytData));
-    info.Refill();
+    try {
+        if (const auto failure = Read_File(BrlytPath, BrlytData)) {
+            why_not_loaded_ = failure->reason;
+            return;
+        }
+        BrlytData = CutPadding(std::move(BrlytData));
+        info.Refill();
+    } catch (const std::bad_alloc&) {
+        BrlytData = {};
+        why_not_loaded_ = "Not enough memory";
+    }
 }
 
 void Form1::cmdFileBrowse_Click() {

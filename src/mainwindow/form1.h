@@ -147,6 +147,7 @@ class Form1 {
     Process process_;
     Desktop& desktop_;
     std::u16string BrlytPath;
+    std::string why_not_loaded_;     ///< the reason where the path names a file that cannot be read
     std::vector<Texture> replaced_;  ///< textures as they were before replacements not yet saved
     std::string on_disk_;  ///< the layout as loaded, to tell unsaved changes; only with a window
     int status_ = Done;

@@ -1,5 +1,6 @@
 #include "mainwindow/region_force.h"
 
+#include "gameinfo/boxes.h"
 #include "gameinfo/languages.h"
 #include "layout/text_box.h"
 #include "platform/text.h"
@@ -7,14 +8,14 @@
 namespace {
 
 bool Has_Title(std::string_view data, std::string_view code) {
-    return !Get_Text(data, "T_VCTitle_" + std::string(code)).empty();
+    return !Get_Text(data, To_Utf8(box_prefix::Title).append(code)).empty();
 }
 
 /// The first language with a title; empty when there is none.
 std::string Titled_Language(std::string_view data) {
-    for (const std::u16string_view language : LanguageList) {
-        const std::string code = To_Utf8(language);
-        if (language != NoLanguage && Has_Title(data, code)) return code;
+    for (const std::u16string_view language : Languages) {
+        std::string code = To_Utf8(language);
+        if (Has_Title(data, code)) return code;
     }
     return {};
 }
@@ -29,7 +30,7 @@ void Overwrite_All(std::string& data, std::string_view old, std::string_view fre
 }  // namespace
 
 std::string& Region_Force(std::string& tFile, std::string_view region) {
-    if (region.empty() || region == "NONE" || Has_Title(tFile, region)) return tFile;
+    if (region.empty() || region == To_Utf8(NoLanguage) || Has_Title(tFile, region)) return tFile;
     const std::string source = Titled_Language(tFile);
     if (source.empty()) return tFile;
     for (const std::string stem : {"T_YEAR_", "T_PLAY_", "T_ESRB_", "L"}) {

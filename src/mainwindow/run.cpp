@@ -1,7 +1,5 @@
 #include "mainwindow/run.h"
 
-#include <cstdio>
-
 #include "mainwindow/form1.h"
 #include "platform/process.h"
 
@@ -10,7 +8,7 @@ bool Answer_About(const std::u16string& command_line, const std::string& program
     std::string answer;
     if (command_line == u"--version") answer = program + " " BANNERSMITH_VERSION "\n";
     if (command_line == u"--help") answer = usage;
-    std::fwrite(answer.data(), 1, answer.size(), stdout);
+    Print(answer, stdout);
     return !answer.empty();
 }
 

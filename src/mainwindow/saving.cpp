@@ -19,8 +19,7 @@ namespace {
 std::vector<std::string> Boxes_To_Rewrite() {
     std::vector<std::string> names;
     for (const std::u16string_view code : LanguageList) {
-        for (const std::u16string_view prefix :
-             {box_prefix::Title, box_prefix::Year, box_prefix::Players, box_prefix::Rating}) {
+        for (const std::u16string_view prefix : FieldPrefixes) {
             names.push_back(To_Utf8(prefix) + To_Utf8(code));
         }
     }
@@ -68,14 +67,15 @@ Outcome Form1::Save() {
         return Failure{u"Padding \"" + txtPad.Text() + u"\"",
                        "Not a whole number up to 268435456, with or without + in front of it"};
     }
-    std::string before = BrlytData;
+    std::string before;
     Outcome failure;
     try {
+        before = BrlytData;
         failure = Write_Layout(*padding);
     } catch (const std::bad_alloc&) {
         failure = Failure{txtSrc.Text(), "Not enough memory"};
     }
-    if (failure) BrlytData = std::move(before);
+    if (failure && !before.empty()) BrlytData = std::move(before);
     return failure;
 }
 

@@ -22,8 +22,7 @@ std::u16string Number(std::size_t number) {
 /// The codes of the languages that have a title, or whose wording the one text for all has.
 std::u16string Languages_Present() {
     std::u16string codes;
-    for (const std::u16string_view code : LanguageList) {
-        if (code == NoLanguage) continue;
+    for (const std::u16string_view code : Languages) {
         if (Read_Box(std::u16string(box_prefix::Title).append(code)).empty()) continue;
         codes.append(codes.empty() ? u"" : u" ").append(code);
     }
@@ -37,8 +36,7 @@ std::vector<std::string> Changed_Boxes(const std::string& before, const std::str
     const auto compare = [&](const std::string& name) {
         if (Get_Text(before, name) != Get_Text(after, name)) changed.push_back(name);
     };
-    for (const std::u16string_view prefix :
-         {box_prefix::Title, box_prefix::Year, box_prefix::Players, box_prefix::Rating}) {
+    for (const std::u16string_view prefix : FieldPrefixes) {
         for (const std::u16string_view code : LanguageList) {
             compare(code == NoLanguage ? To_Utf8(Neutral_Box(prefix))
                                        : To_Utf8(prefix) + To_Utf8(code));
@@ -93,7 +91,8 @@ bool Form1::May_Close() {
 
 void Form1::Tell_What_Is_Loaded() {
     if (BrlytData.empty()) {
-        lblLoaded.Set(u"No layout loaded");
+        const std::string reason = why_not_loaded_.empty() ? "" : ": " + why_not_loaded_;
+        lblLoaded.Set(u"No layout loaded" + From_Utf8(reason));
         return;
     }
     const std::u16string path = With_Backslashes(txtSrc.Text());

@@ -13,7 +13,6 @@
 #include "desktop/qt_desktop.h"
 #include "desktop/text.h"
 #include "desktop/text_editor_view.h"
-#include "desktop/widgets.h"
 
 namespace {
 

@@ -1,7 +1,6 @@
 #include "platform/desktop.h"
 
-#include <cstdio>
-
+#include "platform/process.h"
 #include "platform/text.h"
 
 void NoDesktop::Message(const std::u16string& /*text*/) {}
@@ -11,9 +10,7 @@ bool NoDesktop::Confirm(const std::u16string& /*question*/) {
 }
 
 void NoDesktop::Report(const Failure& failure) {
-    const std::string line =
-        "bannersmith: " + To_Utf8(failure.subject) + ": " + failure.reason + "\n";
-    std::fwrite(line.data(), 1, line.size(), stderr);
+    Print("bannersmith: " + To_Utf8(failure.subject) + ": " + failure.reason + "\n", stderr);
 }
 
 std::u16string NoDesktop::Open_File(const std::u16string& /*filter*/) {

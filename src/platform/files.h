@@ -51,9 +51,10 @@ using Notice = std::function<void(const Failure& loss)>;
 /// Puts a file with exactly `bytes` in the place of `path`, or makes a new one there. The bytes are
 /// written to a temporary file in the same folder, which takes over mode, owner, group, access
 /// control list and extended attributes of the old file and then trades places with it, so that at
-/// each moment the old or the new file is there whole. What cannot be taken over goes to `notice`.
-/// A link stays a link: the file it leads to is replaced. A file without write permission, a
-/// folder, a pipe and a device are refused. On failure the old file is there as it was and no
-/// temporary file is left.
+/// each moment the old or the new file is there whole. What cannot be taken over goes to `notice`;
+/// on Windows the system takes it over without telling. A link stays a link: the file it leads to
+/// is replaced. A file without write permission, a folder, a pipe and a device are refused. On
+/// failure the old file is there as it was and no temporary file is left; the one exception, a new
+/// file that could neither be made safe nor be taken back, is told in the reason.
 Outcome Replace_File(const std::u16string& path, std::string_view bytes, Durability durability,
                      const Notice& notice = {});

@@ -143,6 +143,8 @@ class TemporaryFile {
             const bool group_kept = ::fchown(file_.get(), static_cast<uid_t>(-1), old.st_gid) == 0;
             lost = group_kept ? "owner" : "owner and group";
         }
+        // The folder may have given it a list that the old file has not; there mostly is none.
+        static_cast<void>(::fremovexattr(file_.get(), "system.posix_acl_access"));
         Retry([&] { return ::fchmod(file_.get(), old.st_mode & 07777); });
         const std::string attributes = Copy_Attributes(target, file_.get());
         if (!attributes.empty()) lost.append(lost.empty() ? "" : ", ").append(attributes);

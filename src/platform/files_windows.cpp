@@ -7,7 +7,6 @@
 
 #include "platform/file_steps.h"
 #include "platform/files.h"
-#include "platform/text.h"
 #include "platform/windows_error.h"
 
 namespace {
@@ -101,7 +100,7 @@ std::wstring Follow_Links(const std::wstring& path) {
 /// A file beside the target that removes itself at the end.
 class TemporaryFile {
  public:
-    explicit TemporaryFile(const std::wstring& folder)
+    explicit TemporaryFile(const std::filesystem::path& folder)
         : path_(Free_Name(folder)), file_(Make(path_)) {}
     ~TemporaryFile() {
         if (!path_.empty()) {
@@ -127,16 +126,19 @@ class TemporaryFile {
     /// its access control list, attributes and streams.
     void Take_Place_Of(const std::wstring& target, bool target_exists) {
         Require(::CloseHandle(std::exchange(file_, INVALID_HANDLE_VALUE)));
-        const bool replaced = target_exists && Replace(target);
-        if (!replaced)
+        if (target_exists) {
+            Replace(target);
+        } else {
             Require(::MoveFileExW(path_.c_str(), target.c_str(), MOVEFILE_WRITE_THROUGH));
+        }
         path_.clear();
     }
 
  private:
-    static std::wstring Free_Name(const std::wstring& folder) {
-        return folder + L"\\.bannersmith-" + std::to_wstring(::GetCurrentProcessId()) + L"-" +
-               std::to_wstring(::GetTickCount64());
+    static std::wstring Free_Name(const std::filesystem::path& folder) {
+        const std::wstring name = L".bannersmith-" + std::to_wstring(::GetCurrentProcessId()) +
+                                  L"-" + std::to_wstring(::GetTickCount64());
+        return (folder / name).wstring();
     }
 
     static HANDLE Make(const std::wstring& path) {
@@ -146,13 +148,19 @@ class TemporaryFile {
         return file;
     }
 
-    /// False: the old file is gone and the new one still has its temporary name.
-    bool Replace(const std::wstring& target) {
-        if (::ReplaceFileW(target.c_str(), path_.c_str(), nullptr, 0, nullptr, nullptr))
-            return true;
+    /// The old file keeps a second name until the new one is in its place, so that it can come
+    /// back from every failure in between.
+    void Replace(const std::wstring& target) const {
+        const std::wstring old = path_ + L"-old";
+        if (::ReplaceFileW(target.c_str(), path_.c_str(), old.c_str(), 0, nullptr, nullptr)) {
+            ::DeleteFileW(old.c_str());
+            return;
+        }
         const DWORD error = ::GetLastError();
-        if (error != ERROR_UNABLE_TO_MOVE_REPLACEMENT_2) Fail(error);
-        return false;
+        if (error == ERROR_UNABLE_TO_MOVE_REPLACEMENT_2) {
+            ::MoveFileExW(old.c_str(), target.c_str(), MOVEFILE_WRITE_THROUGH);
+        }
+        Fail(error);
     }
 
     std::wstring path_;
@@ -164,8 +172,7 @@ void Replace(const std::wstring& path, std::string_view bytes, Durability durabi
     const bool exists = Attributes_Of(target) != INVALID_FILE_ATTRIBUTES;
     if (exists) Require_Replaceable(target);
 
-    const std::wstring folder = std::filesystem::path(target).parent_path().wstring();
-    TemporaryFile fresh(folder.empty() ? L"." : folder);
+    TemporaryFile fresh(std::filesystem::path(target).parent_path());
     fresh.Write(bytes);
     if (durability == Durability::synced) fresh.Sync();
     fresh.Take_Place_Of(target, exists);

@@ -1,6 +1,7 @@
 // The process: how it was called, where its program lies, and how it hands over to another one.
 #pragma once
 
+#include <cstdio>
 #include <string>
 #include <vector>
 
@@ -13,7 +14,12 @@ std::u16string Command_Line(int argc, char** argv);
 /// The arguments without the program's name, taken apart as the system does it.
 std::vector<std::u16string> Arguments(int argc, char** argv);
 
-/// The folder of the running executable, without a separator at its end.
+/// Writes a UTF-8 text to standard output or standard error, so that a console of the system shows
+/// it as it is.
+void Print(const std::string& text, std::FILE* stream);
+
+/// The folder of the running executable, without a separator at its end; empty where the system
+/// does not tell.
 std::u16string Program_Folder();
 
 /// Hands over to the program `name` of the program folder, which is called without command-line

@@ -19,6 +19,10 @@ std::vector<std::u16string> Arguments(int argc, char** argv) {
     return arguments;
 }
 
+void Print(const std::string& text, std::FILE* stream) {
+    std::fwrite(text.data(), 1, text.size(), stream);
+}
+
 std::u16string Program_Folder() {
     std::error_code ignored;
     const auto program = std::filesystem::read_symlink("/proc/self/exe", ignored);

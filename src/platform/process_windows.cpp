@@ -38,6 +38,20 @@ std::vector<std::u16string> Arguments(int /*argc*/, char** /*argv*/) {
     return arguments;
 }
 
+/// A console would take the bytes for those of its own code page.
+void Print(const std::string& text, std::FILE* stream) {
+    const HANDLE handle = ::GetStdHandle(stream == stderr ? STD_ERROR_HANDLE : STD_OUTPUT_HANDLE);
+    DWORD mode = 0;
+    if (!::GetConsoleMode(handle, &mode)) {
+        std::fwrite(text.data(), 1, text.size(), stream);
+        return;
+    }
+    const std::u16string units = From_Utf8(text);
+    const std::wstring wide(units.begin(), units.end());
+    DWORD written = 0;
+    ::WriteConsoleW(handle, wide.data(), static_cast<DWORD>(wide.size()), &written, nullptr);
+}
+
 std::u16string Program_Folder() {
     constexpr std::size_t LongestPath = 32768;
     std::wstring path(LongestPath, L'\0');
@@ -72,9 +86,9 @@ std::u16string From_Code_Page(std::string_view bytes) {
 std::string To_Code_Page(std::u16string_view text) {
     const std::wstring wide(text.begin(), text.end());
     std::string bytes(text.size() * 4, '\0');  // no code unit becomes more bytes than that
-    bytes.resize(static_cast<std::size_t>(
-        ::WideCharToMultiByte(CP_ACP, 0, wide.data(), static_cast<int>(wide.size()), bytes.data(),
-                              static_cast<int>(bytes.size()), nullptr, nullptr)));
+    bytes.resize(static_cast<std::size_t>(::WideCharToMultiByte(
+        CP_ACP, WC_NO_BEST_FIT_CHARS, wide.data(), static_cast<int>(wide.size()), bytes.data(),
+        static_cast<int>(bytes.size()), nullptr, nullptr)));
     return bytes;
 }
 

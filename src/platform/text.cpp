@@ -2,7 +2,6 @@
 
 #include <utf8.h>
 
-#include <algorithm>
 #include <iterator>
 
 namespace {

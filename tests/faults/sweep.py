@@ -39,6 +39,12 @@ def files_of(folder):
     return {os.path.relpath(os.path.join(at, name), folder) for at, _, names in os.walk(folder) for name in names}
 
 
+def copy_file(source, target):
+    """A program is linked: one that is being written cannot be run, and threads that start processes meanwhile would
+    hand on the descriptor that it is written through."""
+    (os.link if os.access(source, os.X_OK) else shutil.copy2)(source, target)
+
+
 class Scenario:
     def __init__(self, name, base, work):
         self.name, (self.command, self.replaced) = name, SCENARIOS[name]
@@ -54,7 +60,7 @@ class Scenario:
 
     def copy(self, label):
         folder = os.path.join(self.work, self.name + "_" + label)
-        shutil.copytree(self.base, folder)
+        shutil.copytree(self.base, folder, copy_function=copy_file)
         return folder
 
     def faults(self):
