@@ -26,7 +26,7 @@ constexpr std::array<std::u16string_view, 6> LowerRow = {u"YearLine", u"PlayLine
 }  // namespace
 
 ColorWindowView::ColorWindowView(frmColor& window, std::function<void()> closed, QWidget* parent)
-    : QDialog(parent), closed_(std::move(closed)) {
+    : SecondWindow("color window", std::move(closed), parent) {
     setWindowTitle("Bannersmith Colors");
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     auto* upper = new QHBoxLayout;
@@ -41,9 +41,8 @@ ColorWindowView::ColorWindowView(frmColor& window, std::function<void()> closed,
     rows->addLayout(upper);
     rows->addLayout(lower);
     rows->addWidget(new PreviewView(window.preview), 1);
-    window.form.Shown = [this, &window] { setVisible(window.form.Visible()); };
     resize(sizeHint().boundedTo(screen()->availableSize()));
-    Restore_Position(*this, "color window");
+    Follow(window.form);
 }
 
 QBoxLayout* ColorWindowView::Make_Bar(frmColor& window) {
@@ -125,12 +124,4 @@ QWidget* ColorWindowView::Make_Edit_Area(frmColor& window) {
     columns->addWidget(instruction, 1);
     columns->addLayout(right);
     return area;
-}
-
-/// Escape, the close box and the window manager all end here.
-void ColorWindowView::done(int result) {
-    Store_Position(*this, "color window");
-    QDialog::done(result);
-    deleteLater();
-    if (closed_) std::exchange(closed_, {})();
 }

@@ -9,6 +9,7 @@
 #include <QMimeData>
 #include <QStatusBar>
 #include <QUrl>
+#include <utility>
 
 #include "desktop/binding.h"
 #include "desktop/color_window_view.h"
@@ -19,11 +20,19 @@
 
 namespace {
 
-constexpr std::u16string_view ConsoleFont = u"Wii NTLG PGothic Regular";
 constexpr double FieldPoints = 8.25;
 
 /// The columns of the frame "Game Info".
 enum Column { caption, field, selector, set, set_all, columns };
+
+QLineEdit* Make_Field(TextBox& box, bool bold) {
+    auto* edit = new QLineEdit;
+    QFont font = Japanese_Font(FieldFont, FieldPoints);
+    font.setBold(bold);
+    edit->setFont(font);
+    Bind(*edit, box);
+    return edit;
+}
 
 QComboBox* Make_List(DropDownList& list, const QString& tooltip) {
     auto* combo = new QComboBox;
@@ -75,94 +84,83 @@ QWidget* MainWindowView::Make_Game_Info() {
     GameInfo& info = window_.info;
     auto* frame = new QGroupBox("Game Info");
     auto* grid = new QGridLayout(frame);
-    const auto button = [this, grid](int row, int column, const char* name, const QString& tooltip,
-                                     auto command) {
-        grid->addWidget(Make_Button(name, tooltip, {}, [this, command] { command(window_); }), row,
-                        column);
-    };
-
     Add_Field(*grid, 0, "&Name:", info.txtName, true);
-    Add_Selector(*grid, 0, "name", info.cmbRegion[GameInfo::title]);
-    button(0, set, "Set", "Write the name for this language", [](Form1& w) { w.cmdSet_Click(0); });
-    button(0, set_all, "Set All", "Write the name for every language",
-           [](Form1& w) { w.cmdSetAll_Click(0); });
-
+    Add_Selector(*grid, 0, "name", GameInfo::title, 0, 0);
     Add_Field(*grid, 1, "S&ystem:", info.txtSystem, true);
-    button(1, set, "Set", "Write the console's name", [](Form1& w) { w.cmdSetAll_Click(3); });
-
+    grid->addWidget(Set_All_Button("Set", "Write the console's name", 3), 1, set);
     Add_Field(*grid, 2, "Y&ear:", info.txtYear, true);
-    Add_Selector(*grid, 2, "year", info.cmbRegion[GameInfo::year]);
-    button(2, set, "Set", "Write the year for this language", [](Form1& w) { w.cmdSet_Click(1); });
-    button(2, set_all, "Set All", "Write the year for every language",
-           [](Form1& w) { w.cmdSetAll_Click(1); });
-
-    auto* players = new QHBoxLayout;
-    auto* narrow = new QLineEdit;
-    narrow->setFont(Japanese_Font(ConsoleFont, FieldPoints));
-    narrow->setAlignment(Qt::AlignCenter);
-    narrow->setFixedWidth(48);
-    QFont bold = narrow->font();
-    bold.setBold(true);
-    narrow->setFont(bold);
-    Bind(*narrow, info.txtPlayers);
-    players->addWidget(narrow);
-    players->addWidget(Make_Button("Set", "Write the number of players for every language", {},
-                                   [this] { window_.cmdSetAll_Click(2); }));
-    players->addWidget(new QLabel("No Dashes!!  (E.g.  Type \"2\" for \"1-2\")"), 1);
-    grid->addWidget(Make_Label("&Players:", narrow), 3, caption);
-    grid->addLayout(players, 3, field, 1, columns - field);
-
+    Add_Selector(*grid, 2, "year", GameInfo::year, 1, 1);
+    Add_Players(*grid, 3);
     Add_Field(*grid, 4, "ESRB &Rating:", info.txtESRB, false);
-    Add_Selector(*grid, 4, "rating", info.cmbRegion[GameInfo::rating]);
-    button(4, set, "Set", "Write the rating for this language",
-           [](Form1& w) { w.cmdSet_Click(2); });
-    button(4, set_all, "Set All", "Write the rating for every language",
-           [](Form1& w) { w.cmdSetAll_Click(4); });
-
+    Add_Selector(*grid, 4, "rating", GameInfo::rating, 2, 4);
     auto* hardcore =
         Make_Button("Hardcore Manual Text Editor", "Show and replace the text of any text box",
                     QKeySequence("Ctrl+T"), [this] { window_.cmdHC_Click(); });
     grid->addWidget(hardcore, 5, 0, 1, columns);
     grid->addLayout(Make_Padding_Row(), 6, 0, 1, columns);
-
-    auto* schemes = Make_List(window_.cmbFileList, "The color scheme that the next save applies");
-    auto* edit_colors =
-        Make_Button("Color Editor And Preview", "Edit colors and see the banner",
-                    QKeySequence("Ctrl+P"), [this] { window_.cmdEditColor_Click(); });
-    grid->addWidget(Make_Label("&Colors:", schemes), 7, caption);
-    grid->addWidget(schemes, 7, field);
-    grid->addWidget(edit_colors, 7, selector, 1, columns - selector);
-
-    auto* logos =
-        Make_List(window_.cmbLogo, "The logo texture that the next save puts into the banner");
-    grid->addWidget(Make_Label("&Logo:", logos), 8, caption);
-    grid->addWidget(logos, 8, field);
-
-    auto* force =
-        Make_List(window_.cmbForce, "The language that the next save lets another one answer to");
-    grid->addWidget(Make_Label("Region &Force:", force), 9, caption);
-    grid->addWidget(force, 9, field, Qt::AlignLeft);
+    Add_Looks(*grid, 7);
     grid->setColumnStretch(field, 1);
     return frame;
 }
 
 void MainWindowView::Add_Field(QGridLayout& grid, int row, const QString& name, TextBox& box,
                                bool bold) {
-    auto* edit = new QLineEdit;
-    QFont font = Japanese_Font(ConsoleFont, FieldPoints);
-    font.setBold(bold);
-    edit->setFont(font);
+    QLineEdit* edit = Make_Field(box, bold);
     edit->setMinimumWidth(220);
-    Bind(*edit, box);
     grid.addWidget(Make_Label(name, edit), row, caption);
     grid.addWidget(edit, row, field);
 }
 
+/// The language list behind a field, and the buttons that write the field for that language or for
+/// all, by their indexes.
 void MainWindowView::Add_Selector(QGridLayout& grid, int row, const QString& name,
-                                  DropDownList& list) {
-    auto* combo = Make_List(list, "The language of the " + name + " shown");
+                                  GameInfo::Selector list, std::int16_t set_index,
+                                  std::int16_t set_all_index) {
+    auto* combo = Make_List(window_.info.cmbRegion[list], "The language of the " + name + " shown");
     combo->setAccessibleName("Language of the " + name);
     grid.addWidget(combo, row, selector);
+    grid.addWidget(Make_Button("Set", "Write the " + name + " for this language", {},
+                               [this, set_index] { window_.cmdSet_Click(set_index); }),
+                   row, set);
+    grid.addWidget(
+        Set_All_Button("Set All", "Write the " + name + " for every language", set_all_index), row,
+        set_all);
+}
+
+QPushButton* MainWindowView::Set_All_Button(const QString& name, const QString& tooltip,
+                                            std::int16_t index) {
+    return Make_Button(name, tooltip, {}, [this, index] { window_.cmdSetAll_Click(index); });
+}
+
+/// The number of players needs little room and has no language of its own.
+void MainWindowView::Add_Players(QGridLayout& grid, int row) {
+    QLineEdit* narrow = Make_Field(window_.info.txtPlayers, true);
+    narrow->setAlignment(Qt::AlignCenter);
+    narrow->setFixedWidth(48);
+    auto* players = new QHBoxLayout;
+    players->addWidget(narrow);
+    players->addWidget(Set_All_Button("Set", "Write the number of players for every language", 2));
+    players->addWidget(new QLabel("No Dashes!!  (E.g.  Type \"2\" for \"1-2\")"), 1);
+    grid.addWidget(Make_Label("&Players:", narrow), row, caption);
+    grid.addLayout(players, row, field, 1, columns - field);
+}
+
+/// What a save does beside writing the texts.
+void MainWindowView::Add_Looks(QGridLayout& grid, int row) {
+    auto* schemes = Make_List(window_.cmbFileList, "The color scheme that the next save applies");
+    auto* logos =
+        Make_List(window_.cmbLogo, "The logo texture that the next save puts into the banner");
+    auto* force =
+        Make_List(window_.cmbForce, "The language that the next save lets another one answer to");
+    grid.addWidget(Make_Label("&Colors:", schemes), row, caption);
+    grid.addWidget(schemes, row, field);
+    grid.addWidget(Make_Button("Color Editor And Preview", "Edit colors and see the banner",
+                               QKeySequence("Ctrl+P"), [this] { window_.cmdEditColor_Click(); }),
+                   row, selector, 1, columns - selector);
+    grid.addWidget(Make_Label("&Logo:", logos), row + 1, caption);
+    grid.addWidget(logos, row + 1, field);
+    grid.addWidget(Make_Label("Region &Force:", force), row + 2, caption);
+    grid.addWidget(force, row + 2, field, Qt::AlignLeft);
 }
 
 QBoxLayout* MainWindowView::Make_Padding_Row() {

@@ -8,6 +8,7 @@
 class QBoxLayout;
 class QComboBox;
 class QGridLayout;
+class QPushButton;
 
 /// The view of the main window, and of the windows that it opens. `window` must outlive it.
 class MainWindowView : public QMainWindow {
@@ -22,8 +23,12 @@ class MainWindowView : public QMainWindow {
  private:
     QWidget* Make_Game_Info();
     QWidget* Make_File_Frame();
-    void Add_Field(QGridLayout& grid, int row, const QString& caption, TextBox& box, bool bold);
-    void Add_Selector(QGridLayout& grid, int row, const QString& field, DropDownList& list);
+    void Add_Field(QGridLayout& grid, int row, const QString& name, TextBox& box, bool bold);
+    void Add_Selector(QGridLayout& grid, int row, const QString& name, GameInfo::Selector list,
+                      std::int16_t set_index, std::int16_t set_all_index);
+    QPushButton* Set_All_Button(const QString& name, const QString& tooltip, std::int16_t index);
+    void Add_Players(QGridLayout& grid, int row);
+    void Add_Looks(QGridLayout& grid, int row);
     QBoxLayout* Make_Padding_Row();
     void Make_Status_Line();
     void Show_State();

@@ -10,14 +10,14 @@
 #include "desktop/widgets.h"
 
 TextEditorView::TextEditorView(frmHC& editor, std::function<void()> closed, QWidget* parent)
-    : QDialog(parent), closed_(std::move(closed)) {
+    : SecondWindow("text editor", std::move(closed), parent) {
     setWindowTitle("\"Hardcore\" Manual Text Editor");
     auto* names = new QComboBox;
     names->setMinimumWidth(145);
     names->setToolTip("The text boxes of the layout, in the order of the file");
     auto* value = new QLineEdit;
     value->setMinimumWidth(193);
-    value->setFont(Japanese_Font(u"Wii NTLG PGothic Regular", value->font().pointSizeF()));
+    value->setFont(Japanese_Font(FieldFont, value->font().pointSizeF()));
     value->setToolTip("The box's text; ^ is a line break");
 
     auto* grid = new QGridLayout(this);
@@ -33,15 +33,6 @@ TextEditorView::TextEditorView(frmHC& editor, std::function<void()> closed, QWid
 
     Bind(*names, editor.cmbHC);
     Bind(*value, editor.txtHC);
-    editor.form.Shown = [this, &editor] { setVisible(editor.form.Visible()); };
     setFixedHeight(sizeHint().height());
-    Restore_Position(*this, "text editor");
-}
-
-/// Escape, the close box and the window manager all end here.
-void TextEditorView::done(int result) {
-    Store_Position(*this, "text editor");
-    QDialog::done(result);
-    deleteLater();
-    if (closed_) std::exchange(closed_, {})();
+    Follow(editor.form);
 }

@@ -10,7 +10,8 @@
 #include "platform/controls.h"
 
 /// The language in whose wording the loaded banner's language-neutral boxes are composed; empty for
-/// a banner with a name of its own for some language.
+/// a banner with a name of its own for some language. Set by `GameInfo::Refill`, read by Set and
+/// Set All: like `BrlytData` there is one for the whole program.
 inline std::u16string NoneRegion;  // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
 
 /// The language whose wording the neutral year box of `BrlytData` has: Japanese for a text without
@@ -22,23 +23,28 @@ std::u16string Get_Year_Lang();
 namespace bare_value {
 /// The first four characters of a text that begins with a digit, otherwise its last four.
 std::u16string Year(std::u16string_view text);
-/// The last character of what stands behind the first colon, in front of the first blank, or on the
-/// second line.
+/// The last character of what stands behind the first colon or in front of the first blank; of a
+/// second line the last but one, which has a counter behind the number.
 std::u16string Players(std::u16string_view text);
 /// What stands between the first and the second colon, without the blanks around it.
 std::u16string Rating(std::u16string_view text);
 }  // namespace bare_value
 
-/// The fields and selectors of the main window. The names of the controls are those of the window.
+/// The fields and selectors of the main window, a view of `BrlytData`: what they hold reaches it
+/// only through Set and Set All. The names of the controls are those of the window.
 class GameInfo {
  public:
+    /// The fields that have a language list, by its place in `cmbRegion`.
     enum Selector : std::size_t { title = 0, year = 1, players = 2, rating = 3 };
 
+    /// Empty fields, and lists of all languages with nothing selected.
     GameInfo();
     GameInfo(const GameInfo&) = delete;
     GameInfo& operator=(const GameInfo&) = delete;
 
+    /// The bare values. Line breaks are shown as "^".
     TextBox txtName, txtYear, txtPlayers, txtESRB, txtSystem;
+    /// The language that each field shows; a selection runs `cmbRegion_click`.
     std::array<DropDownList, 4> cmbRegion;
 
     /// Shows the value of field `Index` for the language that its selector shows: 0 name, 1 year,

@@ -19,13 +19,15 @@ inline std::uint32_t Read_U32(std::string_view bytes, std::size_t offset) {
     return static_cast<std::uint32_t>(Read_U16(bytes, offset)) << 16 | Read_U16(bytes, offset + 2);
 }
 
-/// Overwrites two bytes of `bytes` at `offset` with `value`, high byte first.
+/// Overwrites two bytes of `bytes` at `offset` with `value`, high byte first. The caller makes sure
+/// that they lie inside `bytes`.
 inline void Write_U16(std::string& bytes, std::size_t offset, std::uint16_t value) {
     bytes[offset] = static_cast<char>(value >> 8);
     bytes[offset + 1] = static_cast<char>(value & 0xFF);
 }
 
-/// Overwrites four bytes of `bytes` at `offset` with `value`, highest byte first.
+/// Overwrites four bytes of `bytes` at `offset` with `value`, highest byte first, with the same
+/// duty of the caller.
 inline void Write_U32(std::string& bytes, std::size_t offset, std::uint32_t value) {
     Write_U16(bytes, offset, static_cast<std::uint16_t>(value >> 16));
     Write_U16(bytes, offset + 2, static_cast<std::uint16_t>(value & 0xFFFF));

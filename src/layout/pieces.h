@@ -17,6 +17,7 @@ class Pieces {
         prefix,  ///< the name alone
     };
 
+    /// Splits `data`, which is not kept: each call is handed the same bytes again.
     explicit Pieces(std::string_view data);
 
     /// What stands behind each tag, up to the next one or the end of the data, in order.

@@ -7,7 +7,7 @@
 
 /// Offsets from the first byte of the record's tag. All numbers are unsigned and big-endian.
 namespace record {
-inline constexpr std::string_view Tag = "txt1";
+inline constexpr std::string_view Tag = "txt1";    ///< 4 bytes: what each record begins with
 inline constexpr std::size_t SectionSize = 0x04;   ///< 4 bytes: length of the record, tag included
 inline constexpr std::size_t Name = 0x0C;          ///< the box's name, zero bytes behind it
 inline constexpr std::size_t BufferLength = 0x4C;  ///< 2 bytes: room for the text, in bytes
