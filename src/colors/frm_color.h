@@ -15,14 +15,16 @@
 
 /// What the colour window needs of the main window.
 struct MainWindowForColors {
-    Form& form;
-    TextBox& txtSrc;
-    DropDownList& cmbFileList;
-    const GameInfo& info;
+    Form& form;                 ///< enabled again at the end
+    TextBox& txtSrc;            ///< the path of the layout
+    DropDownList& cmbFileList;  ///< the schemes; gets this window's list and selection
+    const GameInfo& info;       ///< the texts of the preview, the languages of the text colours
 };
 
+/// The colour window as state and events. Closing it is the main window's to do.
 class frmColor {
  public:
+    /// The first and the second colour of an element.
     using Boxes = std::array<ColorBox, 2>;
 
     /// `main` and `desktop` must outlive the window.
@@ -32,15 +34,15 @@ class frmColor {
 
     Form form;
     std::array<Boxes, ElementCount> pic;  ///< the elements' boxes, in the order of `ElementKeys`
-    DropDownList cmbFileList;
+    DropDownList cmbFileList;             ///< "Current Brlyt" and the schemes
     FileList File1{".vccs"};
-    TextBox txtBannerPath{u"gen.brlyt"};
-    TextBox txtR{u"0"}, txtG{u"0"}, txtB{u"0"};
-    ColorBox picClr;
-    Label lblEdit;
+    TextBox txtBannerPath{u"gen.brlyt"};         ///< the layout to read colours from
+    TextBox txtR{u"0"}, txtG{u"0"}, txtB{u"0"};  ///< the colour being edited, 0 to 255 each
+    ColorBox picClr;                             ///< the same as a swatch
+    Label lblEdit;                               ///< the box being edited: key, blank, 0 or 1
     Preview preview;
 
-    /// Fills the lists and takes path and scheme over from the main window.
+    /// Fills this window's list and takes path and scheme over from the main window.
     void Form_Load();
     /// Enables the main window again and gives it this window's scheme selection.
     void Form_Unload();
@@ -70,6 +72,7 @@ class frmColor {
     /// is reported and changes nothing.
     void Load_Scheme_Colors(std::u16string_view name);
 
+    /// Draws the preview from the boxes, the main window's fields and `BrlytData`.
     void MakePreview();
 
  private:

@@ -36,6 +36,7 @@ enum class Element : std::size_t {
 /// and a label whose text box is empty keeps the text it had.
 class Preview {
  public:
+    /// `desktop` measures texts and must outlive the preview.
     explicit Preview(Desktop& desktop) : desktop_(desktop) {}
 
     /// Draws everything anew from the colours, the main window's fields and `BrlytData`.
@@ -47,20 +48,24 @@ class Preview {
     /// The colour window's own surface, which lies beneath everything else.
     Surface surface{11600, 9720};
 
+    /// The bar above the banner, and the banner's own ground.
     Shape Shape1{{240, 2400, 11115, 300}, false, 0, DarkGrey};
     Shape shpBack1{{360, 2640, 10815, 3735}, false, 0, White};
     /// The bar, the frame around the console's name, which lies over both bars, and the bar again.
     std::array<Shape, 3> shpPFLine{{{{480, 2640, 10575, 495}, false, Thin, White},
                                     {{8880, 2640, 2295, 855}, true, Thin, White},
                                     {{375, 2655, 10755, 465}, false, Thin, White}}};
+    /// The picture with its frame, and the ground of the lower part.
     Shape shpVcPic{{4080, 4920, 3495, 2415}, true, Thick, White};
     Shape shpBackMask2{{360, 7560, 10815, 2055}, false, 0, White};
     static constexpr Area shpBackMask1{360, 6360, 10790, 1215};  ///< only marks the lower fade
 
+    /// The lines below year and players: where they lie, and what is painted into them.
     static constexpr Area YearLineArea{600, 3960, 3045, 45}, PlayLineArea{600, 4920, 3045, 45};
     Surface shpYearLine{YearLineArea.width, YearLineArea.height};
     Surface shpPlayLine{PlayLineArea.width, PlayLineArea.height};
 
+    /// The texts, as wide as they may be before they wrap.
     DrawnLabel lblT_PF{{6240, 3000, 4590, 390}, u"Console  ", ConsoleFont, Alignment::centre};
     Area lbl_PFSize{9870, 3360, 945, 390};                    ///< as wide as the console's name
     static constexpr Area lbl_PlayPos{600, 4005, 3015, 420};  ///< where the players text may begin

@@ -9,6 +9,7 @@
 #include "platform/desktop.h"
 #include "platform/failure.h"
 
+/// The components of a colour value, 0 to 255 each.
 constexpr std::uint8_t Red_Of(Color color) {
     return color & 0xFF;
 }
@@ -19,6 +20,7 @@ constexpr std::uint8_t Blue_Of(Color color) {
     return color >> 16 & 0xFF;
 }
 
+/// The colour value of three components.
 constexpr Color Make_Color(std::uint8_t red, std::uint8_t green, std::uint8_t blue) {
     return static_cast<Color>(red | green << 8 | blue << 16);
 }
@@ -26,6 +28,7 @@ constexpr Color Make_Color(std::uint8_t red, std::uint8_t green, std::uint8_t bl
 /// First and second colour of one element.
 using ColorPair = std::array<Color, 2>;
 
+/// How many elements of a banner have colours of their own.
 inline constexpr std::size_t ElementCount = 19;
 
 /// The elements' keys in the order of the scheme file's lines.

@@ -10,6 +10,7 @@
 
 #include "platform/controls.h"
 
+/// Each shows the control now and from here on, and passes on what a person does.
 void Bind(QLineEdit& edit, TextBox& box);
 void Bind(QComboBox& combo, DropDownList& list);
 void Bind(QLabel& shown, Label& label);

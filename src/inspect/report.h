@@ -7,7 +7,7 @@
 
 /// What the inspect tool says about one file.
 struct FileReport {
-    std::string file;
+    std::string file;  ///< as the user named it, in UTF-8
     LayoutInfo info;
     std::vector<std::string> warnings;
 };

@@ -27,20 +27,23 @@ struct TextBoxInfo {
     std::string_view record;       ///< what the data holds of it
 };
 
+/// A material by its name field and the two colours behind it.
 struct MaterialInfo {
-    std::size_t offset = 0;
+    std::size_t offset = 0;  ///< of the name, from the start of the data
     std::string name;
     std::array<std::int16_t, 4> first{}, second{};  ///< red, green, blue, alpha
 };
 
+/// A group of panes.
 struct GroupInfo {
     std::string name;
-    std::vector<std::string> members;
+    std::vector<std::string> members;  ///< the panes' names
 };
 
-/// What a layout file holds, in file order. Everything points into the data it was read from.
+/// What a layout file holds, in file order. The records of its text boxes point into the data.
 struct LayoutInfo {
-    std::size_t file_size = 0, header_length = 0;
+    std::size_t file_size = 0;      ///< bytes of the file
+    std::size_t header_length = 0;  ///< bytes of the layout as its header says, offset 8
     std::vector<TextBoxInfo> boxes;
     std::vector<MaterialInfo> materials;
     std::vector<GroupInfo> groups;

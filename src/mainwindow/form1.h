@@ -17,6 +17,8 @@
 #include "platform/desktop.h"
 #include "platform/files.h"
 
+/// The main window as state and events, and the batch run. There is one at a time: the layout that
+/// it works on is the program's one `BrlytData`.
 class Form1 {
  public:
     /// Exit statuses of a batch run.
@@ -31,9 +33,12 @@ class Form1 {
 
     Form form;
     GameInfo info;
-    TextBox txtSrc;
-    TextBox txtPad{u"12000"};
+    TextBox txtSrc;            ///< the layout's path as typed; a change runs `txtSrc_Change`
+    TextBox txtPad{u"12000"};  ///< read by each save, see `Read_Padding`
+    /// What each save applies: a scheme and a logo, none for the first entry, and a forced
+    /// language.
     DropDownList cmbFileList, cmbLogo, cmbForce;
+    /// The files listed last: of the schemes folder, and of the logos or the timg folder.
     FileList File1{".vccs"}, File2{".tpl"};
     Label lblLoaded;       ///< what is loaded: file, languages, size, unsaved changes
     Label lblLastCommand;  ///< what the last command changed
@@ -55,10 +60,12 @@ class Form1 {
     /// Lets the user choose a file, and takes it.
     void cmdFileBrowse_Click();
 
-    /// Puts the full path of a file into the path box. One below the program's folder is named
-    /// relative to it.
+    /// Puts the full path of a file into the path box. The program's folder and the separator
+    /// behind it become "\\", wherever they stand in it, so that a path below it is named relative
+    /// to it.
     void Take_File(const std::u16string& file);
 
+    /// The events of the language lists, see `GameInfo`.
     void cmbRegion_click(std::int16_t Index) { info.cmbRegion_click(Index); }
     void cmbRegion_Change(std::int16_t Index) { cmbRegion_click(Index); }
     /// Set and Set All of the fields, see `GameInfo`.

@@ -4,6 +4,7 @@
 #include "gameinfo/game_info.h"
 #include "platform/controls.h"
 
+/// The editor as state and events. What it writes goes into `BrlytData` at once.
 class frmHC {
  public:
     /// `main_form` and `info` are the main window's and must outlive this window.
@@ -12,9 +13,9 @@ class frmHC {
     frmHC& operator=(const frmHC&) = delete;
 
     Form form;
-    DropDownList cmbHC;
-    TextBox txtHC;
-    Event Written;  ///< after each Set
+    DropDownList cmbHC;  ///< the names of all text boxes, in file order
+    TextBox txtHC;       ///< the raw text of the selected one, "^" for a line break
+    Event Written;       ///< after each Set
 
     /// Disables the main window, lists the layout's text boxes and shows the first.
     void Form_Load();

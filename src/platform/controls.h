@@ -16,7 +16,9 @@
 /// What happens on an event: nothing until a handler is set.
 class Event {
  public:
+    /// Sets the handler in place of the one before.
     void operator=(std::function<void()> handler) { handler_ = std::move(handler); }
+    /// Runs the handler before it returns.
     void Raise() const {
         if (handler_) handler_();
     }
@@ -35,10 +37,12 @@ class Control {
 /// A box with one line of text.
 class TextBox : public Control {
  public:
-    Event Change;
+    Event Change;  ///< the text is another one
 
+    /// Begins with `text` and raises nothing.
     explicit TextBox(std::u16string text = {}) : text_(std::move(text)) {}
 
+    /// What the box shows.
     const std::u16string& Text() const { return text_; }
 
     /// From code or typed by a person: raises `Change` when the text is another one.
@@ -56,16 +60,19 @@ class TextBox : public Control {
 /// A list from which a person picks one entry and into which nothing can be typed.
 class DropDownList : public Control {
  public:
-    static constexpr int NoSelection = -1;
+    static constexpr int NoSelection = -1;  ///< the index where nothing is selected
 
-    Event Click;
+    Event Click;  ///< the selection changed, or a person picked an entry
 
+    /// Begins with `entries`, nothing selected.
     explicit DropDownList(std::vector<std::u16string> entries = {})
         : entries_(std::move(entries)) {}
 
+    /// The entries from the first to the last, their number, and the selected one's index from 0.
     const std::vector<std::u16string>& Entries() const { return entries_; }
     int Count() const { return static_cast<int>(entries_.size()); }
     int Index() const { return index_; }
+    /// Whether the last entry is selected; also true of an empty list.
     bool On_Last_Entry() const { return index_ == Count() - 1; }
 
     /// The text of the selected entry; empty when none is selected.
@@ -81,6 +88,7 @@ class DropDownList : public Control {
         Shown.Raise();
     }
 
+    /// Appends an entry and raises no event.
     void Add(std::u16string_view entry) {
         entries_.emplace_back(entry);
         Shown.Raise();
@@ -113,11 +121,14 @@ class DropDownList : public Control {
 /// A window as a whole.
 class Form : public Control {
  public:
+    /// Hidden until it is shown.
     bool Visible() const { return visible_; }
+    /// Whether a person can work in it.
     bool Enabled() const { return enabled_; }
 
     /// Shows the window and returns at once.
     void Show() { Change(visible_, true); }
+    /// Lets a person work in the window or not.
     void Set_Enabled(bool enabled) { Change(enabled_, enabled); }
 
  private:
@@ -141,6 +152,7 @@ class FileList {
     /// Lists `folder`: file names sorted by name; none where it fails.
     Outcome Set_Path(const std::u16string& folder);
 
+    /// The names as they were listed, without their folder.
     const std::vector<std::u16string>& Names() const { return names_; }
 
  private:
@@ -151,8 +163,10 @@ class FileList {
 /// A text that the user cannot edit.
 class Label : public Control {
  public:
+    /// What the label shows.
     const std::u16string& Caption() const { return caption_; }
 
+    /// Shows another text; raises no event of its own.
     void Set(std::u16string_view caption) {
         if (caption == caption_) return;
         caption_ = caption;
@@ -166,8 +180,10 @@ class Label : public Control {
 /// A box of one colour that can be clicked.
 class ColorBox : public Control {
  public:
+    /// The box's colour, light grey at first.
     Color Value() const { return color_; }
 
+    /// Shows another colour; raises no event of its own.
     void Set(Color color) {
         if (color == color_) return;
         color_ = color;

@@ -11,11 +11,13 @@
 struct Area {
     float left = 0, top = 0, width = 0, height = 0;
 
+    /// The first place behind the area.
     float Right() const { return left + width; }
     float Bottom() const { return top + height; }
 };
 
-/// A rectangle of one colour, border and inside alike.
+/// A rectangle of one colour, border and inside alike: from `x1`, `y1` up to `x2`, `y2`, which are
+/// outside, in the scale of its surface.
 struct FilledRectangle {
     float x1 = 0, y1 = 0, x2 = 0, y2 = 0;
     Color color = 0;
@@ -28,10 +30,13 @@ class Surface {
     /// Width and height of the surface's inner scale.
     Surface(float width, float height) : width_(width), height_(height) {}
 
+    /// The size of the inner scale.
     float Width() const { return width_; }
     float Height() const { return height_; }
 
+    /// Takes everything away.
     void Clear() { painted_.clear(); }
+    /// Paints over what is there.
     void Fill(const FilledRectangle& rectangle) { painted_.push_back(rectangle); }
 
     /// Everything painted since the last `Clear`, first to last.
@@ -51,6 +56,7 @@ struct Shape {
     Color border = 0;
 };
 
+/// Where the lines of a label lie between its left and its right edge.
 enum class Alignment { left, centre, right };
 
 /// A text on a transparent background.

@@ -11,15 +11,20 @@
 /// Bytes appended in order; numbers big-endian.
 class ByteWriter {
  public:
+    /// One, two or four bytes; what does not fit is cut off above.
     ByteWriter& U8(unsigned value);
     ByteWriter& U16(unsigned value);
     ByteWriter& U32(std::uint32_t value);
+    /// An IEEE 754 number of four bytes.
     ByteWriter& F32(float value);
     /// `text` cut or filled up with zero bytes to `width` bytes.
     ByteWriter& Name(std::string_view text, std::size_t width);
+    /// The bytes as they are, or as many zero bytes.
     ByteWriter& Bytes(std::string_view bytes);
     ByteWriter& Zeros(std::size_t count);
+    /// Zero bytes up to a multiple of so many bytes.
     ByteWriter& Align(std::size_t multiple);
+    /// Everything written so far.
     const std::string& Data() const { return data_; }
 
  private:
@@ -46,9 +51,9 @@ struct Place {
 struct TextBoxSpec {
     std::string name;
     std::string stored;
-    unsigned buffer_length = 0;
-    unsigned text_length = 0;
-    unsigned material = 0;
+    unsigned buffer_length = 0;  ///< in bytes, as stored
+    unsigned text_length = 0;    ///< in bytes, as stored
+    unsigned material = 0;       ///< index into the material list
     Place place;
     float font_size = 20;
     std::uint32_t color = 0xFFFFFFFF;
@@ -61,12 +66,14 @@ TextBoxSpec Clean_Text_Box(std::string_view name, std::u16string_view text, unsi
 /// A section: tag, size and body, filled up to a multiple of four bytes.
 std::string Section(std::string_view tag, std::string_view body);
 
+/// The sections "txt1", "pan1", "pic1" (one texture, drawn whole) and "mat1".
 std::string Text_Box_Section(const TextBoxSpec& box);
 std::string Pane_Section(std::string_view name, Place place);
 std::string Picture_Section(std::string_view name, unsigned material, Place place);
 std::string Material_Section(const std::vector<Material>& materials);
 /// A list of names: "txl1" for textures, "fnl1" for fonts.
 std::string Name_List_Section(std::string_view tag, const std::vector<std::string>& names);
+/// "grp1": a group with the names of its panes.
 std::string Group_Section(std::string_view name, const std::vector<std::string>& members);
 /// A section without a body: "pas1", "pae1", "grs1", "gre1".
 std::string Empty_Section(std::string_view tag);
