@@ -178,6 +178,7 @@ TEST_F(MainWindow, SavesWithASchemeAloneAndStoresThePath) {
     Start();
     EXPECT_EQ(window->cmbFileList.Entries()[2], u"My.1");
     window->cmbFileList.Pick(2);
+    window->cmbLogo.Pick(1);
     folder.Write(Configuration, "x");
     NoneRegion = u"JPN";
     window->cmdSave_Click();
@@ -186,15 +187,9 @@ TEST_F(MainWindow, SavesWithASchemeAloneAndStoresThePath) {
     ColorPair pair;
     ASSERT_TRUE(Get_Mat_Colors(folder.Read(Layout), "VCPic", pair));
     EXPECT_EQ(pair, Shipped_Schemes()[3].scheme[14]);
-}
-
-TEST_F(MainWindow, AFailureAfterASaveKeepsTheSavedTexture) {
-    Start();
-    window->cmbLogo.Pick(1);
-    window->cmdSave_Click();
     window->txtPad.Set(u"x");
     window->cmdSave_Click();
-    EXPECT_EQ(folder.Read(Texture), "new texture");
+    EXPECT_EQ(folder.Read(Texture), "new texture") << "a failure afterwards takes nothing back";
 }
 
 TEST_F(MainWindow, SavesWithLooksForceAndPadding) {
@@ -420,25 +415,6 @@ TEST_F(MainWindow, AppliesOptionsInTheirOrder) {
         EXPECT_EQ(On_Disk(c.box), c.text) << To_Utf8(c.options);
     }
     EXPECT_TRUE(desktop.failures.empty());
-}
-
-TEST_F(MainWindow, BatchOptionsReachTheSave) {
-    folder.Write("schemes/apple.vccs", Format_Scheme(Shipped_Schemes()[3].scheme));
-    EXPECT_EQ(Start(u"-FORCE xx -force \"Jpn\" -PAD +8 -PAD \"+4\" -LOGO \"New.tpl\" -COLOR Zebra -color "
-                    u"\"apple\""),
-              Form1::Done);
-    EXPECT_EQ(window->cmbForce.Selected(), u"JPN");
-    EXPECT_EQ(folder.Read(Layout).size(), Seven_Language_Banner().size() + 4);
-    EXPECT_EQ(folder.Read(Texture), "new texture");
-    EXPECT_EQ(window->cmbFileList.Count() + window->cmbLogo.Count(), 0);
-    ColorPair pair;
-    ASSERT_TRUE(Get_Mat_Colors(folder.Read(Layout), "VCPic", pair));
-    EXPECT_EQ(pair, Shipped_Schemes()[3].scheme[14]);
-    folder.Write(Layout, German_Japanese_Banner());
-    EXPECT_EQ(Start(u"-FORCE ENG"), Form1::Done);
-    EXPECT_NE(folder.Read(Layout).find("T_ESRB_ENG"), std::string::npos);
-    EXPECT_EQ(Start(u"\"b/arc/blyt/banner.brlyt\" -PAD 0"), Form1::NoLayout);
-    EXPECT_EQ(Start(u"b/arc/blyt/banner.brlyt -LOGO New.tpl"), Form1::Done);
 }
 
 TEST_F(MainWindow, AFailedRunChangesNoBanner) {

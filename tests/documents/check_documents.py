@@ -10,7 +10,8 @@ import subprocess
 import sys
 import tempfile
 
-PAGES = ["manual.md", "messages.md"]
+PAGES = {name: os.path.join(*path, name) for *path, name in (
+    ("docs", "manual.md"), ("docs", "messages.md"), ("tests", "documents", "programs.md"))}
 PROGRAMS = ["bannersmith", "bannersmith-window", "bannersmith-inspect"]
 # A text of three words or more (four without a capital), or one that ends in "!", is a message; what holds a line
 # break or a | is none.
@@ -114,14 +115,15 @@ def main():
     write = "--write" in sys.argv
     sources, *folders = [argument for argument in sys.argv[1:] if argument != "--write"]
     with tempfile.TemporaryDirectory() as work:
-        folder = os.path.join(work, "program")
-        for each in folders:
-            shutil.copytree(each, folder, dirs_exist_ok=True)
-        texts = {page: read(sources, "docs", page) for page in PAGES}
+        folder = os.path.join(work, "home of \u30d0\u30ca\u30fc")
+        texts = {page: read(sources, path) for page, path in PAGES.items()}
         for page, text in texts.items():
+            shutil.rmtree(folder, ignore_errors=True)
+            for each in folders:
+                shutil.copytree(each, folder, dirs_exist_ok=True)
             now = examples(page, text, folder, write)
             if write:
-                with open(os.path.join(sources, "docs", page), "w", encoding="utf-8") as file:
+                with open(os.path.join(sources, PAGES[page]), "w", encoding="utf-8") as file:
                     file.write(now)
         options(sources, folder, texts["manual.md"])
         messages(sources, texts["messages.md"])

@@ -106,6 +106,19 @@ class Scenario:
             yield "no message: status %d, %r" % (done.returncode, errors)
 
 
+def without_memory(base):
+    """A layout for which memory lacks is told and left alone."""
+    layout = os.path.join(base, "huge.brlyt")
+    with open(layout, "wb") as file:
+        file.write(b"RLYT")
+        file.truncate(60 << 20)
+    done = subprocess.run("ulimit -v 100000; ./bannersmith huge.brlyt -TITLE x", shell=True, cwd=base, capture_output=True)
+    if done.returncode != 1 or not done.stderr.endswith(b"huge.brlyt: Not enough memory\n"):
+        yield "without memory: status %d, %r" % (done.returncode, done.stderr)
+    if os.path.getsize(layout) != 60 << 20 or read(layout).count(0) != (60 << 20) - 4:
+        yield "without memory: the layout was changed"
+
+
 def main():
     program_folder, save_scheme = sys.argv[1:]
     with tempfile.TemporaryDirectory() as work:
@@ -119,6 +132,7 @@ def main():
         runs = [(s, fault) for s in (Scenario(name, base, work) for name in SCENARIOS) for fault in s.faults()]
         with concurrent.futures.ThreadPoolExecutor(os.cpu_count() * 2) as pool:
             wrong = [what for found in pool.map(lambda run: run[0].run(run[1]), runs) for what in found]
+        wrong += without_memory(base)
     kills = sum(fault[2] == "signal=KILL" for _, fault in runs)
     print("%d kills and %d failures" % (kills, len(runs) - kills))
     print("\n".join(wrong))
