@@ -71,29 +71,6 @@ TEST_F(MainWindow, NeedsItsConfiguration) {
     EXPECT_FALSE(window->form.Visible());
 }
 
-TEST_F(MainWindow, ReadsTheConfigurationsFirstLine) {
-    struct Case {
-        std::string contents;
-        std::u16string path;
-        std::string afterwards;
-    };
-    const std::string path = "\\b\\arc\\blyt\\banner.brlyt";
-    const Case cases[] = {
-        {path + "\nsecond", From_Utf8(path), path + "\r\n"},
-        {path, From_Utf8(path), path + "\r\n"},
-        {"\r\n" + path, u"", "\r\n" + path},
-        {"\\none.brlyt\r\nx", u"\\none.brlyt", "\\none.brlyt\r\nx"},
-    };
-    for (const Case& c : cases) {
-        folder.Write(Configuration, c.contents);
-        BrlytData.clear();
-        EXPECT_EQ(Start(), std::nullopt);
-        EXPECT_EQ(window->txtSrc.Text(), c.path);
-        EXPECT_EQ(folder.Read(Configuration), c.afterwards);
-        EXPECT_EQ(BrlytData.empty(), c.afterwards == c.contents);
-    }
-}
-
 TEST_F(MainWindow, FollowsThePathBoxAtEachKeystroke) {
     Start();
     const std::u16string path = u"\\b\\arc\\blyt\\banner.brlyt";
@@ -345,105 +322,6 @@ TEST(RegionForce, RenamesTheFirstTitledLanguagesItems) {
     data = Box("T_VCTitle_GER", u"") + Box("T_VCTitle_NONE", u"x") + items + "LNONE";
     const std::string untitled = data;
     EXPECT_EQ(Region_Force(data, "ITA"), untitled);
-}
-
-TEST_F(MainWindow, TakesTheLayoutPathFromTheCommandLine) {
-    const std::u16string base = folder.Text();
-    struct Case {
-        std::u16string typed, stored;
-    };
-    const Case cases[] = {
-        {u"  b/arc/blyt/banner.brlyt  ", base + u"\\b/arc/blyt/banner.brlyt"},
-        {u"\\b\\arc\\blyt\\banner.brlyt", base + u"\\b\\arc\\blyt\\banner.brlyt"},
-        {base + u"/b/arc/blyt/banner.brlyt", base + u"/b/arc/blyt/banner.brlyt"},
-        {u"", u"\\b\\arc\\blyt\\banner.brlyt"},
-    };
-    for (const Case& c : cases) {
-        folder.Write(Configuration, "\\b\\arc\\blyt\\banner.brlyt\r\n");
-        EXPECT_EQ(Start(c.typed + u"-TITLE New"), Form1::Done);
-        EXPECT_EQ(On_Disk("T_VCTitle_GER"), "New");
-        EXPECT_EQ(folder.Read(Configuration), To_Utf8(c.stored) + "\r\n");
-        folder.Write(Layout, Seven_Language_Banner());
-    }
-    EXPECT_TRUE(desktop.messages.empty());
-    EXPECT_FALSE(window->form.Visible());
-}
-
-TEST_F(MainWindow, AppliesOptionsInTheirOrder) {
-    struct Case {
-        const char16_t* options;
-        const char* box;
-        const char* text;
-    };
-    const Case cases[] = {
-        {u"-TITLE All -T_GER Nur", "T_VCTitle_GER", "Nur"},
-        {u"-T_GER Nur -TITLE All", "T_VCTitle_GER", "All"},
-        {u"-tItLe  a \"b\" c\" ", "T_VCTitle_ENG", "a b c"},
-        {u"-TITLE Cut-off", "T_VCTitle_ENG", "Cut"},
-        {u"-TITLE \u3042^b", "T_VCTitle_JPN", "\u3042^b"},
-        {u"- TITLE x", "T_VCTitle_ENG", "Starlight Courier"},
-        {u"-TITLE", "T_VCTitle_ENG", "Starlight Courier"},
-        {u"-TITLES x", "T_VCTitle_ENG", "Starlight Courier"},
-        {u"-YEAR \"1985\"", "T_Year_ENG", "Released: \"1985\""},
-        {u"-YEAR ", "T_Year_NED", "Release: ????"},
-        {u"-YEAR", "T_Year_ENG", "Released: 1991"},
-        {u"-TITLE \" x \"", "T_VCTitle_ENG", " x "},
-        {u"-T_GER \" x \"", "T_VCTitle_GER", " x "},
-        {u"-H_T_VCTitle_GER \" x \"", "T_VCTitle_GER", " x "},
-        {u"-Y_GER ", "T_Year_GER", "Erschienen: ????"},
-        {u"-SYSTEM New", "T_PF", "New"},
-        {u"-PLAY \"4\"", "T_Play_ENG", "Players: 1-4"},
-        {u"-ESRB \"T\"", "T_ESRB_ENG", "ESRB Rating: T"},
-        {u"-y_ger \"85\"", "T_Year_GER", "Erschienen: 85"},
-        {u"-Y_GER 85", "T_Year_ENG", "Released: 1991"},
-        {u"-E_FRA T", "T_ESRB_FRA", "Classement ESRB: T"},
-        {u"-ESRB T", "T_ESRB_JPN", "ESRB Rating: T"},
-        {u"-PLAY 4", "T_Play_GER", "1-4 Spieler"},
-        {u"-4", "T_Play_GER", "1-2 Spieler"},
-        {u"-SYSTEM \"X\" 1", "T_PF", "X 1"},
-        {u"-H_T_Year_SPA raw \"text\" ", "T_Year_SPA", "raw text"},
-        {u"-h_T_Year_SPA x", "T_Year_SPA", "x"},
-        {u"-h_T_year_SPA x", "T_Year_SPA", "A\u00F1o: 1991"},
-        {u"-H_T_VCTitle x", "T_VCTitle_JPN", "x"},
-        {u"-T_G x", "T_VCTitle_GER", "Der Sternenbote"},
-        {u"-T_xyzGER abc x", "T_VCTitle_GER", "ER abc x"},
-        {u"-X_GER x", "T_VCTitle_GER", "Der Sternenbote"},
-    };
-    for (const Case& c : cases) {
-        folder.Write(Layout, Seven_Language_Banner());
-        EXPECT_EQ(Start(c.options), Form1::Done);
-        EXPECT_EQ(On_Disk(c.box), c.text) << To_Utf8(c.options);
-    }
-    EXPECT_TRUE(desktop.failures.empty());
-}
-
-TEST_F(MainWindow, AFailedRunChangesNoBanner) {
-    struct Case {
-        const char16_t* command_line;
-        int status;
-        std::string subject;
-    };
-    const Case cases[] = {
-        {u"-LOGO New.tpl -PAD x", 1, "Padding \"x\""},
-        {u"-LOGO New.tpl -COLOR none -LOGO New.tpl", 1, "\\schemes\\none.vccs"},
-        {u"-LOGO New.tpl -LOGO \\second.tpl -COLOR none -COLOR none", 1, "\\schemes\\none.vccs"},
-        {u"-TITLE x -LOGO none.tpl", 1, "\\logos\\none.tpl"},
-        {u"none.brlyt -LOGO New.tpl", 2, "\\none.brlyt"},
-        {u"b -LOGO New.tpl", 2, "\\b"},
-    };
-    for (const Case& c : cases) {
-        folder.Write("second.tpl", "second");
-        desktop.failures.clear();
-        EXPECT_EQ(Start(c.command_line), c.status);
-        ASSERT_EQ(desktop.failures.size(), 1U) << To_Utf8(c.command_line);
-        EXPECT_TRUE(To_Utf8(desktop.failures[0].subject).ends_with(c.subject));
-        EXPECT_EQ(folder.Read(Layout), Seven_Language_Banner());
-        EXPECT_EQ(folder.Read(Texture), "old texture");
-    }
-    EXPECT_EQ(Start(u"C:\\none.brlyt -TITLE x"), Form1::NoLayout);
-    EXPECT_EQ(window->txtSrc.Text(), u"C:\\none.brlyt");
-    folder.Write(Configuration, "\r\n");
-    EXPECT_EQ(Start(u"-TITLE x"), Form1::NoLayout);
 }
 
 }  // namespace

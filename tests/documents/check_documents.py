@@ -11,7 +11,8 @@ import sys
 import tempfile
 
 PAGES = {name: os.path.join(*path, name) for *path, name in (
-    ("docs", "manual.md"), ("docs", "messages.md"), ("tests", "documents", "programs.md"))}
+    ("docs", "manual.md"), ("docs", "messages.md"), ("tests", "documents", "programs.md"),
+    ("tests", "documents", "options.md"))}
 PROGRAMS = ["bannersmith", "bannersmith-window", "bannersmith-inspect"]
 # A text of three words or more (four without a capital), or one that ends in "!", is a message; what holds a line
 # break or a | is none.
