@@ -115,10 +115,6 @@ class Form1 {
  private:
     struct NamedOption;
     struct PrefixedOption;
-    struct Texture {
-        std::u16string path;
-        std::string bytes;
-    };
 
     void Load_Brlyt();
     std::u16string Configuration_Path() const;
@@ -154,8 +150,8 @@ class Form1 {
     Process process_;
     Desktop& desktop_;
     std::u16string BrlytPath;
-    std::string why_not_loaded_;     ///< the reason where the path names a file that cannot be read
-    std::vector<Texture> replaced_;  ///< textures as they were before replacements not yet saved
+    std::string why_not_loaded_;  ///< the reason where the path names a file that cannot be read
+    std::vector<KeptFile> replaced_;  ///< textures as they were before replacements not yet saved
     std::string on_disk_;  ///< the layout as loaded, to tell unsaved changes; only with a window
     int status_ = Done;
 };

@@ -123,12 +123,13 @@ Outcome Form1::ReplaceLogo(std::u16string& lgPath) {
     if (auto failure = File2.Set_Path(folder)) return failure;
     for (const std::u16string& name : File2.Names()) {
         if (!name.starts_with(u"my_Back")) continue;
-        Texture old{folder + name, {}};
         std::string logo;
         if (auto failure = Read_File(lgPath, logo)) return failure;
-        if (auto failure = Read_File(old.path, old.bytes)) return failure;
-        if (auto failure = Replace_File(old.path, logo, Durability::synced, Reporting()))
+        KeptFile old;
+        if (auto failure = old.Keep(folder + name)) return failure;
+        if (auto failure = Replace_File(folder + name, logo, Durability::synced, Reporting())) {
             return failure;
+        }
         replaced_.push_back(std::move(old));
         break;
     }
@@ -138,8 +139,6 @@ Outcome Form1::ReplaceLogo(std::u16string& lgPath) {
 /// Newest first, so that a texture replaced twice ends as it was before the first time.
 void Form1::Put_Textures_Back() {
     for (; !replaced_.empty(); replaced_.pop_back()) {
-        const Texture& texture = replaced_.back();
-        const auto failure = Replace_File(texture.path, texture.bytes, Durability::synced);
-        if (failure) desktop_.Report(*failure);
+        if (const auto failure = replaced_.back().Put_Back()) desktop_.Report(*failure);
     }
 }

@@ -1,5 +1,7 @@
 #include "platform/desktop.h"
 
+#include <algorithm>
+
 #include "platform/process.h"
 #include "platform/text.h"
 
@@ -10,7 +12,10 @@ bool NoDesktop::Confirm(const std::u16string& /*question*/) {
 }
 
 void NoDesktop::Report(const Failure& failure) {
-    Print("bannersmith: " + To_Utf8(failure.subject) + ": " + failure.reason + "\n", stderr);
+    std::string line = "bannersmith: " + To_Utf8(failure.subject) + ": " + failure.reason;
+    const auto breaks_the_line = [](char byte) { return byte >= 0 && byte < ' '; };
+    std::replace_if(line.begin(), line.end(), breaks_the_line, '?');
+    Print(line + "\n", stderr);
 }
 
 std::u16string NoDesktop::Open_File(const std::u16string& /*filter*/) {

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <utility>
 
+#include "platform/file_steps.h"
 #include "platform/native_path.h"
 #include "platform/text.h"
 
@@ -27,6 +29,21 @@ char Small_Letter(char byte) {
 std::string Without_Case(std::string name) {
     std::transform(name.begin(), name.end(), name.begin(), Small_Letter);
     return name;
+}
+
+/// A second name for `file`, or, where there are none or an open file could not lose it again, a
+/// copy. False when the name is taken.
+bool Keep_Under(const fs::path& file, const fs::path& second_name) {
+    std::error_code error = std::make_error_code(std::errc::not_supported);
+    if (Posix) fs::create_hard_link(file, second_name, error);
+    if (!error) return true;
+    if (fs::exists(second_name)) return false;
+    try {
+        return fs::copy_file(file, second_name);
+    } catch (const fs::filesystem_error&) {
+        fs::remove(second_name, error);
+        throw;
+    }
 }
 
 /// The regular files of a folder, by their UTF-8 names, in no order. Stops at the first error.
@@ -104,4 +121,38 @@ Outcome List_Files(const std::u16string& folder, std::string_view ending,
     names.reserve(files.size());
     for (const std::string& name : files) names.push_back(From_Utf8(name));
     return std::nullopt;
+}
+
+KeptFile::KeptFile(KeptFile&& other) noexcept
+    : path_(std::move(other.path_)),
+      file_(std::move(other.file_)),
+      second_name_(std::exchange(other.second_name_, {})) {}
+
+KeptFile::~KeptFile() {
+    std::error_code error;
+    if (second_name_.empty() || fs::remove(second_name_, error)) return;
+    fs::remove(second_name_, error);  // a call that fails once need not fail twice
+}
+
+Outcome KeptFile::Keep(const std::u16string& path) {
+    path_ = path;
+    return Run_Steps(path, [&](const fs::path& native) {
+        file_ = fs::canonical(native);
+        fs::path second;
+        int number = 0;
+        do {
+            second = file_.parent_path() / (".bannersmith-old-" + std::to_string(number++));
+        } while (!Keep_Under(file_, second));
+        second_name_ = second;
+    });
+}
+
+Outcome KeptFile::Put_Back() {
+    std::error_code error;
+    fs::rename(second_name_, file_, error);
+    if (error) fs::rename(second_name_, file_, error);
+    const std::u8string kept = std::exchange(second_name_, {}).u8string();
+    if (!error) return std::nullopt;
+    return Failure{path_, error.message() + ". The old file is kept as " +
+                              std::string(kept.begin(), kept.end())};
 }

@@ -3,6 +3,7 @@
 // the system's own separator.
 #pragma once
 
+#include <filesystem>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -58,3 +59,26 @@ using Notice = std::function<void(const Failure& loss)>;
 /// file that could neither be made safe nor be taken back, is told in the reason.
 Outcome Replace_File(const std::u16string& path, std::string_view bytes, Durability durability,
                      const Notice& notice = {});
+
+/// A file that is there under a second, hidden name in its own folder too, until the object goes.
+/// It comes back in one step that needs no room on the disk, whatever was put in its place
+/// meanwhile.
+class KeptFile {
+ public:
+    KeptFile() = default;
+    KeptFile(KeptFile&& other) noexcept;
+    KeptFile& operator=(KeptFile&&) = delete;
+    ~KeptFile();
+
+    /// Keeps the file at `path`, or the one that a link there leads to. On failure there is no
+    /// second name.
+    Outcome Keep(const std::u16string& path);
+
+    /// Puts the kept file in the place of the one that is there now. On failure it stays under its
+    /// second name, which the reason tells.
+    Outcome Put_Back();
+
+ private:
+    std::u16string path_;
+    std::filesystem::path file_, second_name_;
+};

@@ -16,21 +16,26 @@ SHARES = [0, 0.1, 0.25, 0.5, 0.75, 0.9, 0.99, 1, 1.01, 1.1, 1.5, 2]  # of the si
 
 def save_on(disk, program, layout, free):
     """Fills the disk up to `free` bytes beside the layout, saves, and yields what is wrong afterwards."""
-    banner, filler = os.path.join(disk, "banner.brlyt"), os.path.join(disk, "filler")
-    with open(banner, "wb") as file:
-        file.write(layout)
+    banner, filler = os.path.join(disk, "blyt", "banner.brlyt"), os.path.join(disk, "filler")
+    texture = os.path.join(disk, "timg", "my_Back.tpl")
+    old = {banner: layout, texture: b"o" * (30000 + len(layout))}
+    for path, contents in old.items():
+        os.makedirs(os.path.dirname(path), exist_ok=True)
+        with open(path, "wb") as file:
+            file.write(contents)
     left = os.statvfs(disk).f_bavail * os.statvfs(disk).f_bsize
     with open(filler, "wb") as file:
         file.write(b"x" * max(0, left - int(free)))
-    done = subprocess.run([program, banner, "-TITLE", "Another name", "-PAD", "0"], capture_output=True)
-    with open(banner, "rb") as file:
-        now = file.read()
-    if sorted(os.listdir(disk)) != ["banner.brlyt", "filler"]:
-        yield "left behind: %s" % os.listdir(disk)
-    if done.returncode == 0 and now == layout:
+    command = [program, banner, "-LOGO", "Comet.tpl", "-TITLE", "Another name", "-PAD", "0"]
+    done = subprocess.run(command, capture_output=True)
+    files = sorted(os.path.join(at, name) for at, _, names in os.walk(disk) for name in names)
+    if files != sorted([*old, filler]):
+        yield "left behind: %s" % files
+    kept = [path for path, contents in old.items() if open(path, "rb").read() == contents]
+    if done.returncode == 0 and kept:
         yield "says done, but is not"
-    if done.returncode == 1 and (now != layout or b": No space left on device" not in done.stderr):
-        yield "says %r" % done.stderr
+    if done.returncode == 1 and (len(kept) != 2 or b": No space left on device" not in done.stderr):
+        yield "says %r, %d files are as they were" % (done.stderr, len(kept))
     if done.returncode not in (0, 1):
         yield "ended with %d" % done.returncode
     os.remove(filler)
