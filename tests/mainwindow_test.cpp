@@ -90,6 +90,7 @@ TEST_F(MainWindow, FollowsThePathBoxAtEachKeystroke) {
     window->txtSrc.Set(u"\\huge");
     EXPECT_EQ(folder.Read(Configuration), "\\huge\r\n") << "a file that cannot be read is stored as well";
     EXPECT_EQ(BrlytData, "");
+    EXPECT_EQ(window->lblLoaded.Caption(), u"No layout loaded: File too large");
     NoneRegion = u"JPN";
     window->txtSrc.Set(u"\\logos\\");
     EXPECT_EQ(NoneRegion, u"");

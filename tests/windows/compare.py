@@ -102,6 +102,8 @@ def folder_outside_the_code_page(builds):
     edit = [SEVEN, "-TITLE", "Anywhere", "-COLOR", "Lagoon", "-LOGO", "Waves.tpl"]
     status, errors = run(folder, ["wine", os.path.join(folder, "bannersmith.exe")], edit)
     check(status == 0, "a program folder with Japanese letters: " + errors)
+    with open(os.path.join(folder, "cfgs", "vcinfopath.cfg"), "rb") as file:
+        check(file.read() == builds.configuration(), "a path outside the code page is not stored")
     builds.on_windows(*edit)
     check(contents(folder) == contents(builds.windows), "the files of a folder with Japanese letters")
 
