@@ -18,6 +18,7 @@
 #include "desktop/text_editor_view.h"
 #include "desktop/widgets.h"
 #include "layout/mod_globals.h"
+#include "mainwindow/form1.h"
 #include "platform/text.h"
 #include "samples/banners.h"
 #include "support.h"
@@ -26,6 +27,18 @@ namespace {
 
 constexpr char Layout[] = "b/arc/blyt/banner.brlyt";
 constexpr char Texture[] = "b/arc/timg/my_BackX.tpl";
+
+/// Notes what it is shown and answers what it is told to.
+class TestDesktop : public NoDesktop {
+ public:
+    std::vector<std::u16string> messages, failures;
+    std::u16string answer;
+
+    void Message(const std::u16string& text) override { messages.push_back(text); }
+    void Report(const Failure& failure) override { failures.push_back(failure.subject); }
+    std::u16string Ask(const std::u16string& /*prompt*/, const std::u16string& /*title*/) override { return answer; }
+    bool Confirm(const std::u16string& /*question*/) override { return true; }
+};
 
 class Widgets : public testing::Test {
  public:

@@ -36,32 +36,6 @@ std::vector<std::string> TempFolder::Names() const {
     return names;
 }
 
-std::u16string TestDesktop::In_Code_Page(std::u16string_view text) {
-    std::u16string kept(text);
-    for (char16_t& unit : kept) {
-        if (code_page_lacks.find(unit) != code_page_lacks.npos) unit = u'?';
-    }
-    return kept;
-}
-
-std::string Layout_With(std::vector<std::string> sections) {
-    sections.push_back(Empty_Section("gre1"));
-    return Layout_File(sections);
-}
-
-std::string Box(std::string_view name, std::u16string_view text) {
-    return Text_Box_Section(Clean_Text_Box(name, text, 0));
-}
-
-std::string Odd_Box(std::string_view name, const std::string& stored, unsigned buffer_length, unsigned text_length) {
-    TextBoxSpec box;
-    box.name = name;
-    box.stored = stored;
-    box.buffer_length = buffer_length;
-    box.text_length = text_length;
-    return Text_Box_Section(box);
-}
-
 std::string Hex(std::string_view bytes) {
     std::string hex;
     for (const char byte : bytes) {

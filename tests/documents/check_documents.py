@@ -1,8 +1,11 @@
 #!/usr/bin/env python3
-"""check_documents.py [--write] SOURCES PROGRAM-FOLDER [DATA-FOLDER]: what the documents for users say is what the programs do. Runs
-each example of the manual and of the messages page in a copy of the program folder, with samples, schemes and logos of
-the data folder in place of its own, and compares what it prints, option by option compares --help with the man pages and the manual, and the messages page with the messages in the sources.
-With --write the examples' outputs are put into the pages in place of being compared."""
+"""check_documents.py [--write] SOURCES PROGRAM-FOLDER [FOLDER...]: what the pages say is what the programs do. Runs each
+example of the manual, the messages page and the pages beside this file in a copy of the program folder, with what the
+other folders hold laid over it, and compares what it prints; option by option compares --help with the man pages and
+the manual, and the messages page with the messages in the sources. With --write the examples' outputs are put into the
+pages in place of being compared."""
+import difflib
+import glob
 import os
 import re
 import shutil
@@ -10,9 +13,8 @@ import subprocess
 import sys
 import tempfile
 
-PAGES = {name: os.path.join(*path, name) for *path, name in (
-    ("docs", "manual.md"), ("docs", "messages.md"), ("tests", "documents", "programs.md"),
-    ("tests", "documents", "options.md"))}
+USER_PAGES = ["docs/manual.md", "docs/messages.md"]
+TOOLS = ["operate", "make-layout"]  # of this project; a released folder is tried without them
 PROGRAMS = ["bannersmith", "bannersmith-window", "bannersmith-inspect"]
 # A text of three words or more (four without a capital), or one that ends in "!", is a message; what holds a line
 # break or a | is none.
@@ -41,8 +43,8 @@ def run_example(command, folder):
 def run_block(block, folder):
     """The lines of a console block with what its commands print now."""
     lines = []
-    for command in re.findall(r"^\$ (.*(?:\n> .*)*)\n", block, re.M):
-        lines.append("$ " + command + "\n" + run_example(command.replace("\n> ", "\n"), folder))
+    for command in re.findall(r"^\$ (.*(?:\n>(?: .*)?)*)\n", block, re.M):
+        lines.append("$ " + command + "\n" + run_example(re.sub(r"\n> ?", "\n", command), folder))
     return "".join(lines)
 
 
@@ -50,7 +52,9 @@ def examples(page, text, folder, write):
     def compare(match):
         now = run_block(match[1], folder)
         if not write:
-            check(now == match[1], "%s: the example\n%s\nprints now\n%s" % (page, match[1], now))
+            changes = difflib.unified_diff(match[1].split("\n"), now.split("\n"), page, "what it prints now", n=9,
+                                           lineterm="")
+            check(now == match[1], "\n".join(changes))
         return "```console\n" + now + "```"
     return re.sub(r"```console\n(.*?)```", compare, text, flags=re.S)
 
@@ -117,17 +121,22 @@ def main():
     sources, *folders = [argument for argument in sys.argv[1:] if argument != "--write"]
     with tempfile.TemporaryDirectory() as work:
         folder = os.path.join(work, "home of \u30d0\u30ca\u30fc")
-        texts = {page: read(sources, path) for page, path in PAGES.items()}
+        beside = sorted(glob.glob(os.path.join(sources, "tests", "documents", "*.md")))
+        texts = {page: read(sources, page) for page in USER_PAGES + [os.path.relpath(each, sources) for each in beside]}
         for page, text in texts.items():
             shutil.rmtree(folder, ignore_errors=True)
             for each in folders:
                 shutil.copytree(each, folder, dirs_exist_ok=True)
+            lacks = [tool for tool in TOOLS if "./" + tool in text and not os.path.exists(os.path.join(folder, tool))]
+            if lacks:
+                print("%s is not run: it needs %s" % (page, ", ".join(lacks)))
+                continue
             now = examples(page, text, folder, write)
             if write:
-                with open(os.path.join(sources, PAGES[page]), "w", encoding="utf-8") as file:
+                with open(os.path.join(sources, page), "w", encoding="utf-8") as file:
                     file.write(now)
-        options(sources, folder, texts["manual.md"])
-        messages(sources, texts["messages.md"])
+        options(sources, folder, texts["docs/manual.md"])
+        messages(sources, texts["docs/messages.md"])
     print("%d failures" % len(failures))
     return 1 if failures else 0
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""full_disk.py PROGRAM-FOLDER MAKE-LAYOUT: saves layouts of many sizes on a small disk with more or less space left.
+"""full_disk.py PROGRAM-FOLDER TOOLS-FOLDER: saves layouts of many sizes on a small disk with more or less space left.
 
 Mounts a file system in memory; where that is not permitted it says so and exits with 77, which counts as skipped.
 """
@@ -10,6 +10,7 @@ import sys
 import tempfile
 
 DISK = 4 << 20
+LAYOUT = b"box T_VCTitle_ENG A name\nbox T_PF X\nfill %d\nsection gre1\n"
 SIZES = [4096 * (k + 1) * (k + 1) for k in range(12)]  # 4 KiB to 576 KiB
 SHARES = [0, 0.1, 0.25, 0.5, 0.75, 0.9, 0.99, 1, 1.01, 1.1, 1.5, 2]  # of the size, left free
 
@@ -42,7 +43,7 @@ def save_on(disk, program, layout, free):
 
 
 def main():
-    program_folder, make_layout = sys.argv[1:]
+    program_folder, tools_folder = sys.argv[1:]
     results, wrong = [], []
     with tempfile.TemporaryDirectory(prefix="full_disk") as work:
         shutil.copytree(program_folder, os.path.join(work, "program"))
@@ -53,7 +54,8 @@ def main():
             return 77
         try:
             for size in SIZES:
-                layout = subprocess.run([make_layout, str(size)], check=True, capture_output=True).stdout
+                layout = subprocess.run([os.path.join(tools_folder, "make-layout")], check=True, capture_output=True,
+                                        input=LAYOUT % size).stdout
                 for share in SHARES:
                     found = list(save_on(disk, os.path.join(work, "program", "bannersmith"), layout, size * share))
                     results.append(found)

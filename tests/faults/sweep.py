@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
-"""sweep.py PROGRAM-FOLDER SAVE-SCHEME: kills the program before each of its file calls and makes each call
+"""sweep.py PROGRAM-FOLDER TOOLS-FOLDER: kills the program before each of its file calls and makes each call
 fail, and looks at what is on disk afterwards.
 
-PROGRAM-FOLDER: where bannersmith and the samples are. SAVE-SCHEME: the program that saves a scheme as the
-colour window does. Needs strace, whose fault injection does the work.
+PROGRAM-FOLDER: where bannersmith and the samples are. TOOLS-FOLDER: where operate is, which saves a scheme as a person
+does. Needs strace, whose fault injection does the work.
 """
 import collections
 import concurrent.futures
@@ -21,12 +21,15 @@ SCHEME = "schemes/Swept.vccs"
 ERRORS = ("ENOSPC", "EIO", "EACCES", "EDQUOT", "EINTR")
 CALLS = "%file,%desc"
 
-# What is run in a copy of the folder, and the files that it replaces.
+# A layout that cannot be read would leave other colours to save.
+SAVE_SCHEME = b"set txtSrc none\nclick cmdEditColor\nanswer Swept\nclick colors.cmdSaveScheme\n"
+
+# What is run in a copy of the folder, what it reads, and the files that it replaces.
 SCENARIOS = {
-    "layout": (["./bannersmith", "-TITLE", "Swept", "-YEAR", "2001"], [BANNER]),
-    "logo": (["./bannersmith", "-LOGO", "Comet.tpl", "-TITLE", "Swept"], [BANNER, TEXTURE]),
-    "configuration": (["./bannersmith", BANNER, "-PAD", "0"], [BANNER, CONFIG]),
-    "scheme": (["./save-scheme", "Swept"], [SCHEME]),
+    "layout": (["./bannersmith", "-TITLE", "Swept", "-YEAR", "2001"], b"", [BANNER]),
+    "logo": (["./bannersmith", "-LOGO", "Comet.tpl", "-TITLE", "Swept"], b"", [BANNER, TEXTURE]),
+    "configuration": (["./bannersmith", BANNER, "-PAD", "0"], b"", [BANNER, CONFIG]),
+    "scheme": (["./operate"], SAVE_SCHEME, [SCHEME]),
 }
 
 
@@ -47,12 +50,13 @@ def copy_file(source, target):
 
 class Scenario:
     def __init__(self, name, base, work):
-        self.name, (self.command, self.replaced) = name, SCENARIOS[name]
+        self.name, (self.command, self.input, self.replaced) = name, SCENARIOS[name]
         self.base, self.work = base, work
         self.old = {file: read(os.path.join(base, file)) for file in self.replaced}
         folder = self.copy("clean")
         trace = os.path.join(work, name + ".trace")
-        subprocess.run(["strace", "-qq", "-o", trace, "-e", "trace=" + CALLS] + self.command, cwd=folder, check=True)
+        subprocess.run(["strace", "-qq", "-o", trace, "-e", "trace=" + CALLS] + self.command, cwd=folder, check=True,
+                       input=self.input, stdout=subprocess.DEVNULL)
         self.new = {file: read(os.path.join(folder, file)) for file in self.replaced}
         self.clean = folder
         self.calls = re.findall(r"^(\w+)\(", read(trace).decode("latin-1"), re.M)[1:]  # the first starts the program
@@ -79,7 +83,7 @@ class Scenario:
         before = files_of(folder)
         inject = "inject=%s:%s:when=%d" % (call, effect, ordinal)
         done = subprocess.run(["strace", "-qq", "-o", "/dev/null", "-e", inject] + self.command, cwd=folder,
-                              capture_output=True, timeout=60)
+                              input=self.input, capture_output=True, timeout=60)
         wrong = list(self.judge(folder, before, done, killed=effect == "signal=KILL"))
         shutil.rmtree(folder)
         return ["%s, %s: %s" % (self.name, label, what) for what in wrong]
@@ -120,11 +124,11 @@ def without_memory(base):
 
 
 def main():
-    program_folder, save_scheme = sys.argv[1:]
+    program_folder, tools_folder = sys.argv[1:]
     with tempfile.TemporaryDirectory() as work:
         base = os.path.join(work, "base")
         shutil.copytree(program_folder, base, ignore=shutil.ignore_patterns("bannersmith-*"))
-        shutil.copy(save_scheme, os.path.join(base, "save-scheme"))
+        shutil.copy(os.path.join(tools_folder, "operate"), base)
         with open(os.path.join(base, CONFIG), "wb") as file:
             file.write(("\\" + BANNER.replace("/", "\\") + "\r\n").encode())
         with open(os.path.join(base, SCHEME), "wb") as file:
