@@ -84,15 +84,11 @@ class Scenario:
         inject = "inject=%s:%s:when=%d" % (call, effect, ordinal)
         done = subprocess.run(["strace", "-qq", "-o", "/dev/null", "-e", inject] + self.command, cwd=folder,
                               input=self.input, capture_output=True, timeout=60)
-        wrong = list(self.judge(folder, before, done, killed=effect == "signal=KILL"))
-        # Of the configuration, which nobody asked to have written, nothing is told.
-        if self.name != "configuration" and call == "fchown" and b"could not keep its owner" not in done.stderr and \
-                effect.startswith("error"):
-            wrong.append("does not say that the owner is another one")
+        wrong = list(self.judge(folder, before, done, call, effect))
         shutil.rmtree(folder)
         return ["%s, %s: %s" % (self.name, label, what) for what in wrong]
 
-    def judge(self, folder, before, done, killed):
+    def judge(self, folder, before, done, call, effect):
         errors = done.stderr.decode()
         now = {file: read(os.path.join(folder, file)) for file in self.replaced}
         # The configuration holds the folder's path.
@@ -100,7 +96,7 @@ class Scenario:
         for file in self.replaced:
             if now[file] not in (self.old[file], new[file]):
                 yield file + " is neither the old nor the new one"
-        if killed:
+        if effect == "signal=KILL":
             return
         left = files_of(folder) - before
         if left:
@@ -112,6 +108,11 @@ class Scenario:
             yield "says failed (%s), but a file is new" % errors.strip()
         if done.returncode != 0 and not re.search(r"^bannersmith: .+: .+$", errors, re.M):
             yield "no message: status %d, %r" % (done.returncode, errors)
+        if done.returncode == 0 and call == "fsync" and effect != "error=EINTR":
+            yield "says done, but it is not safe from a power failure"
+        # Of the configuration, which nobody asked to have written, nothing is told.
+        if call == "fchown" and self.name != "configuration" and "could not keep its owner" not in errors:
+            yield "does not say that the owner is another one"
 
 
 def without_memory(base):
