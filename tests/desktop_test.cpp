@@ -32,8 +32,11 @@ constexpr char Texture[] = "b/arc/timg/my_BackX.tpl";
 class TestDesktop : public NoDesktop {
  public:
     std::vector<std::u16string> messages, failures;
-    std::u16string answer;
+    std::u16string answer, file;
+    Color color = 0;
 
+    std::u16string Open_File(const std::u16string& /*filter*/) override { return file; }
+    Color Choose_Color(Color /*color*/) override { return color; }
     void Message(const std::u16string& text) override { messages.push_back(text); }
     void Report(const Failure& failure) override { failures.push_back(failure.subject); }
     std::u16string Ask(const std::u16string& /*prompt*/, const std::u16string& /*title*/) override { return answer; }
@@ -119,16 +122,22 @@ TEST_F(Widgets, WriteTheSameBytesAsABatchRun) {
     Press(*view, "Write the name for this");
     Type(Named<QLineEdit>(*view, "Year"), "2001");
     Press(*view, "Write the year for every");
+    Choose(Named<QComboBox>(*view, "Language of the year"), "JPN");
+    Type(Named<QLineEdit>(*view, "Year"), "1999");
+    Press(*view, "Write the year for this");
     Type(Named<QLineEdit>(*view, "Players"), "4");
     Press(*view, "Write the number of players");
     Type(Named<QLineEdit>(*view, "System"), "MEGA");
     Press(*view, "Write the console");
     Type(Named<QLineEdit>(*view, "ESRB Rating"), "T");
+    Press(*view, "Write the rating for every");
+    Choose(Named<QComboBox>(*view, "Language of the rating"), "GER");
+    Type(Named<QLineEdit>(*view, "ESRB Rating"), "M");
     Press(*view, "Write the rating for this");
     EXPECT_TRUE(view->isWindowModified());
     Choose(Named<QComboBox>(*view, "Colors"), "Mine");
     Choose(Named<QComboBox>(*view, "Logo"), "New.tpl");
-    Choose(Named<QComboBox>(*view, "Region Force"), "NONE");
+    Choose(Named<QComboBox>(*view, "Region Force"), "ITA");
     Type(Named<QLineEdit>(*view, "Padding (fixes corrupted images)"), "+16");
     QTest::keyClick(view.get(), Qt::Key_S, Qt::ControlModifier);
     EXPECT_EQ(desktop.messages, std::vector<std::u16string>{u"File Successfully Saved!"});
@@ -138,8 +147,8 @@ TEST_F(Widgets, WriteTheSameBytesAsABatchRun) {
     Fill(batch);
     NoDesktop none;
     Form1 run({batch.Text(),
-               u"-TITLE All -T_JPN One^Two -YEAR 2001 -PLAY 4 -SYSTEM MEGA -E_GER T "
-               u"-COLOR Mine -LOGO New.tpl -PAD +16"},
+               u"-TITLE All -T_JPN One^Two -YEAR 2001 -Y_JPN 1999 -PLAY 4 -SYSTEM MEGA -ESRB T -E_GER M "
+               u"-COLOR Mine -LOGO New.tpl -FORCE ITA -PAD +16"},
               none);
     EXPECT_EQ(run.Form_Load(), Form1::Done);
     EXPECT_EQ(Hex(folder.Read(Layout)), Hex(batch.Read(Layout)));
@@ -166,6 +175,9 @@ TEST_F(Widgets, TakePathsKeyByKey) {
     QApplication::sendEvent(view.get(), &drop);
     EXPECT_EQ(edit.text(), QString("\\") + Layout);
     EXPECT_EQ(BrlytData, German_Japanese_Banner());
+    desktop.file = u"chosen";
+    Press(*view, "Choose a layout file");
+    EXPECT_EQ(edit.text(), "chosen");
 }
 
 TEST_F(Widgets, KeepTheMainWindowBehindTheOthers) {
@@ -199,18 +211,32 @@ TEST_F(Widgets, KeepTheMainWindowBehindTheOthers) {
     EXPECT_TRUE(view->close());
 }
 
+/// Every caption of a window, in alphabetical order.
+std::string Captions(const QWidget& window) {
+    QStringList captions;
+    for (const QWidget* widget : window.findChildren<QWidget*>()) {
+        const QString caption = widget->property(qobject_cast<const QGroupBox*>(widget) ? "title" : "text").toString();
+        const bool input = qobject_cast<const QLineEdit*>(widget) || widget->inherits("ElidedLabel");
+        if (!input && !caption.isEmpty()) captions << QString(caption).remove('&');
+    }
+    captions.sort();
+    return captions.join("|").toStdString();
+}
+
 TEST_F(Widgets, EditColorsAndPaintThem) {
     Press(*view, "Edit colors");
     auto* colors = Find<ColorWindowView>();
     Press(*colors, "Back1 0");
     Type(Named<QLineEdit>(*colors, "Red"), "300");
     Type(Named<QLineEdit>(*colors, "Green"), "17");
+    Type(Named<QLineEdit>(*colors, "Blue"), "18");
     Press(*colors, "Give the box");
+    EXPECT_NE(Captions(*colors).find("|Back1 0|"), std::string::npos) << "which box is being edited";
     desktop.answer = u"New";
     Press(*colors, "Save all colors");
     EXPECT_EQ(Named<QComboBox>(*view, "Colors").count(), 3);
     EXPECT_EQ(Named<QComboBox>(*view, "Colors").currentIndex(), -1);
-    EXPECT_NE(folder.Read("schemes/New.vccs").find(" 255  17 "), std::string::npos);
+    EXPECT_NE(folder.Read("schemes/New.vccs").find(" 255  17  18 "), std::string::npos);
 
     PreviewView preview(window->ColorWindow->preview);
     preview.resize(preview.sizeHint());
@@ -239,18 +265,16 @@ TEST_F(Widgets, EditColorsAndPaintThem) {
     }
     EXPECT_EQ(pixel(5800, 6000), box(Element::VCPic, 1));
     EXPECT_EQ(pixel(400, 9700), outside);
-}
 
-/// Every caption of a window, in alphabetical order.
-std::string Captions(const QWidget& window) {
-    QStringList captions;
-    for (const QWidget* widget : window.findChildren<QWidget*>()) {
-        const QString caption = widget->property(qobject_cast<const QGroupBox*>(widget) ? "title" : "text").toString();
-        const bool input = qobject_cast<const QLineEdit*>(widget) || widget->inherits("ElidedLabel");
-        if (!input && !caption.isEmpty()) captions << QString(caption).remove('&');
-    }
-    captions.sort();
-    return captions.join("|").toStdString();
+    desktop.color = Make_Color(1, 2, 3);
+    Press(*colors, "Color being edited");
+    EXPECT_EQ(Named<QLineEdit>(*colors, "Blue").text(), "3");
+    const Color before = window->ColorWindow->pic[0][0].Value();
+    Choose(Named<QComboBox>(*colors, "Select Scheme"), "Mine");
+    EXPECT_NE(window->ColorWindow->pic[0][0].Value(), before);
+    Type(Named<QLineEdit>(*colors, "Load From brlyt"), QString("\\") + Layout);
+    Press(*colors, "Read the colors");
+    EXPECT_EQ(window->ColorWindow->pic[0][0].Value(), before);
 }
 
 TEST_F(Widgets, AreCaptionedAsTheyShouldBe) {

@@ -32,7 +32,8 @@ std::string Parse_Component(std::string_view text, std::uint8_t& component) {
     if (digits.starts_with('+')) digits.remove_prefix(1);
     long value = 0;
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
-    const bool whole = end == digits.data() + digits.size() && !digits.empty();
+    const bool whole =
+        end == digits.data() + digits.size() && !digits.empty() && !text.starts_with("+-");
     if (error == std::errc::invalid_argument || !whole) {
         return "\"" + std::string(text) + "\" is not a whole number";
     }

@@ -37,7 +37,7 @@ def check(holds, what):
 def run_example(command, folder):
     done = subprocess.run(["bash", "-c", command], cwd=folder, stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
                           timeout=60, env={**os.environ, "LC_ALL": "C.UTF-8"})
-    return done.stdout.decode("utf-8").replace(folder, "/programs/bannersmith").replace(" \n", "\n")
+    return done.stdout.decode("utf-8").replace(folder, "/programs/bannersmith")
 
 
 def run_block(block, folder):

@@ -45,16 +45,27 @@ std::string Line(const Area& area) {
     line << " at " << area.left << " " << area.top << " " << area.width << " " << area.height;
     return line.str();
 }
-std::string Line(const Shape& shape) { return Line(shape.fill) + " in " + Line(shape.border) + Line(shape.area); }
-std::string Line(const DrawnLabel& label) { return Line(label.color) + " " + Line(label.text) + Line(label.area); }
+std::string Line(const Shape& shape) {
+    return Line(shape.fill) + " in " + Line(shape.border) + Line(shape.area) + (shape.rounded ? " rounded" : "");
+}
+
+std::string Line(const DrawnLabel& label) {
+    constexpr const char* Alignments[] = {"left", "centre", "right"};
+    std::ostringstream line;
+    line << Line(label.color) << " " << Line(label.text) << Line(label.area) << ", " << Line(label.font.family) << " "
+         << label.font.points << " " << Alignments[static_cast<int>(label.alignment)]
+         << (label.wraps ? " wrapped" : "");
+    return line.str();
+}
 
 /// The first, the second and the last band of a fade.
 std::string Line(const Surface& surface) {
     const auto& bands = surface.Painted();
     std::ostringstream line;
     line << bands.size() << " bands";
-    for (const FilledRectangle* band : {&bands[0], &bands[1], &bands.back()}) {
-        line << ", " << Line(band->color) << Line(Area{band->x1, band->y1, band->x2, band->y2});
+    for (const std::size_t i : {std::size_t{0}, std::size_t{1}, bands.size() - 1}) {
+        if (i >= bands.size()) continue;
+        line << ", " << Line(bands[i].color) << Line(Area{bands[i].x1, bands[i].y1, bands[i].x2, bands[i].y2});
     }
     return line.str();
 }
@@ -62,6 +73,7 @@ std::string Line(const Surface& surface) {
 std::string Line(const Preview& preview) {
     std::string lines;
     const auto add = [&](const char* name, const auto& shown) { lines += "\n  " + (name + (" " + Line(shown))); };
+    add("Shape1", preview.Shape1);
     add("shpBack1", preview.shpBack1);
     for (const Shape& line : preview.shpPFLine) add("shpPFLine", line);
     add("shpVcPic", preview.shpVcPic);
@@ -75,7 +87,7 @@ std::string Line(const Preview& preview) {
     add("shpYearLine", preview.shpYearLine);
     add("shpPlayLine", preview.shpPlayLine);
     add("surface", preview.surface);
-    return lines;
+    return lines + "\n  lines" + Line(Preview::YearLineArea) + " and" + Line(Preview::PlayLineArea);
 }
 
 /// Prints what it is shown and gives the same answer to everything.
@@ -176,20 +188,24 @@ class Person {
     }
     DropDownList& List(std::istream& line) { return *std::get<DropDownList*>(Controls().at(Word(line))); }
 
+    static void Say(const std::string& name, const std::string& shown) {
+        std::cout << name << (shown.empty() || shown[0] == '\n' ? ":" : ": ") << shown << std::endl;
+    }
+
     void Show(const std::string& name) {
-        std::cout << name << ": ";
+        std::string shown;
         if (name == "form") {
-            std::cout << (main_.form.Enabled() ? "enabled" : "disabled");
+            shown = main_.form.Enabled() ? "enabled" : "disabled";
         } else if (name == "colors.preview") {
-            std::cout << Line(main_.ColorWindow->preview);
+            shown = Line(main_.ColorWindow->preview);
         } else if (name == "colors.pic") {
             for (const frmColor::Boxes& pair : main_.ColorWindow->pic) {
-                std::cout << Line(&pair[0]) << "," << Line(&pair[1]) << " ";
+                shown += (shown.empty() ? "" : " ") + Line(&pair[0]) + "," + Line(&pair[1]);
             }
         } else {
-            std::cout << std::visit([](const auto* control) { return Line(control); }, Controls().at(name));
+            shown = std::visit([](const auto* control) { return Line(control); }, Controls().at(name));
         }
-        std::cout << std::endl;
+        Say(name, shown);
     }
 
     void Pick(std::istream& line) {
@@ -245,7 +261,7 @@ class Person {
         {"read",
          [](std::istream& line) {
              const std::string name = Word(line);
-             std::cout << name << ": " << Line(Read_Box(From_Utf8(name))) << std::endl;
+             Say(name, Line(Read_Box(From_Utf8(name))));
          }},
         {"write",
          [](std::istream& line) {
