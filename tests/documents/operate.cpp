@@ -128,10 +128,17 @@ class TalkingDesktop : public NoDesktop {
 
 class Person {
  public:
-    /// Does what the lines say. The status is 1 when what was told last is a failure.
+    /// Does what the lines say. The status is 1 when what was told last is a failure, 2 when a line cannot be done.
     int Work(std::istream& lines) {
         if (main_.Form_Load()) return 1;
-        for (std::string line; std::getline(lines, line);) Do(line);
+        for (std::string line; std::getline(lines, line);) {
+            try {
+                Do(line);
+            } catch (const std::exception&) {
+                Print("operate: cannot do: " + line + "\n", stderr);
+                return 2;
+            }
+        }
         return desktop_.failed ? 1 : 0;
     }
 
