@@ -21,6 +21,7 @@
 #include "mainwindow/form1.h"
 #include "platform/text.h"
 #include "samples/banners.h"
+#include "samples/layout_builder.h"
 #include "support.h"
 
 namespace {
@@ -272,9 +273,10 @@ TEST_F(Widgets, EditColorsAndPaintThem) {
     const Color before = window->ColorWindow->pic[0][0].Value();
     Choose(Named<QComboBox>(*colors, "Select Scheme"), "Mine");
     EXPECT_NE(window->ColorWindow->pic[0][0].Value(), before);
-    Type(Named<QLineEdit>(*colors, "Load From brlyt"), QString("\\") + Layout);
+    folder.Write("other.brlyt", Layout_File({Material_Section({{"PFLine", {7, 8, 9, 0}}})}));
+    Type(Named<QLineEdit>(*colors, "Load From brlyt"), "\\other.brlyt");
     Press(*colors, "Read the colors");
-    EXPECT_EQ(window->ColorWindow->pic[0][0].Value(), before);
+    EXPECT_EQ(window->ColorWindow->pic[0][0].Value(), Make_Color(7, 8, 9));
 }
 
 TEST_F(Widgets, AreCaptionedAsTheyShouldBe) {
