@@ -17,23 +17,27 @@ import tempfile
 BANNER = "samples/seven_languages/arc/blyt/banner.brlyt"
 TEXTURE = "samples/seven_languages/arc/timg/my_Back_logo.tpl"
 CONFIG = "cfgs/vcinfopath.cfg"
-SCHEME = "schemes/Swept.vccs"
+SCHEME, NEW_SCHEME = "schemes/Swept.vccs", "schemes/New.vccs"
 ERRORS = ("ENOSPC", "EIO", "EACCES", "EDQUOT", "EINTR")
 CALLS = "%file,%desc"
 
 # A layout that cannot be read would leave other colours to save.
-SAVE_SCHEME = b"set txtSrc none\nclick cmdEditColor\nanswer Swept\nclick colors.cmdSaveScheme\n"
+SAVE_SCHEME = b"set txtSrc none\nclick cmdEditColor\nanswer %s\nclick colors.cmdSaveScheme\n"
 
 # What is run in a copy of the folder, what it reads, and the files that it replaces.
 SCENARIOS = {
     "layout": (["./bannersmith", "-TITLE", "Swept", "-YEAR", "2001"], b"", [BANNER]),
     "logo": (["./bannersmith", "-LOGO", "Comet.tpl", "-TITLE", "Swept"], b"", [BANNER, TEXTURE]),
     "configuration": (["./bannersmith", BANNER, "-PAD", "0"], b"", [BANNER, CONFIG]),
-    "scheme": (["./operate"], SAVE_SCHEME, [SCHEME]),
+    "scheme": (["./operate"], SAVE_SCHEME % b"Swept", [SCHEME]),
+    "new scheme": (["./operate"], SAVE_SCHEME % b"New", [NEW_SCHEME]),
 }
 
 
 def read(path):
+    """The file's bytes, None where there is none."""
+    if not os.path.exists(path):
+        return None
     with open(path, "rb") as file:
         return file.read()
 
@@ -98,7 +102,7 @@ class Scenario:
                 yield file + " is neither the old nor the new one"
         if effect == "signal=KILL":
             return
-        left = files_of(folder) - before
+        left = files_of(folder) - before - {*self.replaced}
         if left:
             yield "left behind: %s" % sorted(left)
         banner_files = [file for file in self.replaced if file != CONFIG]
