@@ -131,10 +131,12 @@ def main():
             if lacks:
                 print("%s is not run: it needs %s" % (page, ", ".join(lacks)))
                 continue
+            check("\n```console\n" in text, "%s has no example" % page)
             now = examples(page, text, folder, write)
             if write:
                 with open(os.path.join(sources, page), "w", encoding="utf-8") as file:
                     file.write(now)
+        check(len(texts) > len(USER_PAGES), "there are pages beside this file")
         options(sources, folder, texts["docs/manual.md"])
         messages(sources, texts["docs/messages.md"])
     print("%d failures" % len(failures))
