@@ -141,21 +141,24 @@ std::string Access_List() {
 }
 
 TEST(ReplaceFile, KeepsAttributesAndAccessLists) {
-    const std::string list = Access_List();
-    const std::pair<const char*, std::string> attributes[] = {{"user.note", "kept"}, {"system.posix_acl_access", list}};
+    const std::pair<const char*, std::string> attributes[] = {
+        {"user.note", "kept"}, {"user.other", "as well"}, {"system.posix_acl_access", Access_List()}};
+    const TempFolder folder;
+    folder.Write("f", "old");
+    const std::string file = (folder.Path() / "f").string();
     for (const auto& [name, value] : attributes) {
-        const TempFolder folder;
-        folder.Write("f", "old");
-        const std::string file = (folder.Path() / "f").string();
         if (::setxattr(file.c_str(), name, value.data(), value.size(), 0) != 0) {
             GTEST_SKIP() << name << ": none on this file system";
         }
-        EXPECT_FALSE(Replace_File(folder.Text() + u"/f", "new", Durability::synced));
+    }
+    const auto nothing_lost = [](const Failure& loss) { ADD_FAILURE() << loss.reason; };
+    EXPECT_FALSE(Replace_File(folder.Text() + u"/f", "new", Durability::synced, nothing_lost));
+    for (const auto& [name, value] : attributes) {
         std::string found(100, '\0');
         found.resize(static_cast<std::size_t>(std::max<ssize_t>(0, ::getxattr(file.c_str(), name, found.data(), 100))));
         EXPECT_EQ(found, value) << name;
-        EXPECT_EQ(folder.Read("f"), "new");
     }
+    EXPECT_EQ(folder.Read("f"), "new");
 }
 
 TEST(ReplaceFile, GainsNoAccessListFromItsFolder) {
