@@ -111,7 +111,8 @@ std::string As_Text(const FileReport& report) {
                 Color_Text(material.second) + "\n";
     }
     for (const GroupInfo& group : info.groups) {
-        text += "  group    " + Filled_Up(group.name, 16);
+        text += "  group    ";
+        text += group.members.empty() ? group.name : Filled_Up(group.name, 16);
         for (const std::string& member : group.members) text += " " + member;
         text += "\n";
     }
