@@ -16,6 +16,7 @@ import tempfile
 
 BANNER = "samples/seven_languages/arc/blyt/banner.brlyt"
 TEXTURE = "samples/seven_languages/arc/timg/my_Back_logo.tpl"
+LOGO = "logos/Comet.tpl"
 CONFIG = "cfgs/vcinfopath.cfg"
 SCHEME, NEW_SCHEME = "schemes/Swept.vccs", "schemes/New.vccs"
 ERRORS = ("ENOSPC", "EIO", "EACCES", "EDQUOT", "EINTR")
@@ -24,13 +25,14 @@ CALLS = "%file,%desc"
 # A layout that cannot be read would leave other colours to save.
 SAVE_SCHEME = b"set txtSrc none\nclick cmdEditColor\nanswer %s\nclick colors.cmdSaveScheme\n"
 
-# What is run in a copy of the folder, what it reads, and the files that it replaces.
+# What is run in a copy of the folder, what it reads, the files that it replaces, and its status without a fault.
 SCENARIOS = {
-    "layout": (["./bannersmith", "-TITLE", "Swept", "-YEAR", "2001"], b"", [BANNER]),
-    "logo": (["./bannersmith", "-LOGO", "Comet.tpl", "-TITLE", "Swept"], b"", [BANNER, TEXTURE]),
-    "configuration": (["./bannersmith", BANNER, "-PAD", "0"], b"", [BANNER, CONFIG]),
-    "scheme": (["./operate"], SAVE_SCHEME % b"Swept", [SCHEME]),
-    "new scheme": (["./operate"], SAVE_SCHEME % b"New", [NEW_SCHEME]),
+    "layout": (["./bannersmith", "-TITLE", "Swept", "-YEAR", "2001"], b"", [BANNER], 0),
+    "logo": (["./bannersmith", "-LOGO", "Comet.tpl", "-TITLE", "Swept"], b"", [BANNER, TEXTURE], 0),
+    "logo taken back": (["./bannersmith", "-LOGO", "Comet.tpl", "-PAD", "much"], b"", [BANNER, TEXTURE], 1),
+    "configuration": (["./bannersmith", BANNER, "-PAD", "0"], b"", [BANNER, CONFIG], 0),
+    "scheme": (["./operate"], SAVE_SCHEME % b"Swept", [SCHEME], 0),
+    "new scheme": (["./operate"], SAVE_SCHEME % b"New", [NEW_SCHEME], 0),
 }
 
 
@@ -54,16 +56,20 @@ def copy_file(source, target):
 
 class Scenario:
     def __init__(self, name, base, work):
-        self.name, (self.command, self.input, self.replaced) = name, SCENARIOS[name]
+        self.name, (self.command, self.input, self.replaced, status) = name, SCENARIOS[name]
         self.base, self.work = base, work
         self.old = {file: read(os.path.join(base, file)) for file in self.replaced}
         folder = self.copy("clean")
         trace = os.path.join(work, name + ".trace")
-        subprocess.run(["strace", "-qq", "-o", trace, "-e", "trace=" + CALLS] + self.command, cwd=folder, check=True,
-                       input=self.input, stdout=subprocess.DEVNULL)
+        done = subprocess.run(["strace", "-qq", "-o", trace, "-e", "trace=" + CALLS] + self.command, cwd=folder,
+                              input=self.input, capture_output=True)
+        assert done.returncode == status, done
         self.new = {file: read(os.path.join(folder, file)) for file in self.replaced}
+        if TEXTURE in self.replaced:  # new for a moment also where it is taken back
+            self.new[TEXTURE] = read(os.path.join(base, LOGO))
         self.clean = folder
-        self.calls = re.findall(r"^(\w+)\(", read(trace).decode("latin-1"), re.M)[1:]  # the first starts the program
+        # The first call starts the program; the telling of what failed cannot be told when it fails itself.
+        self.calls = re.findall(r"^(\w+)\((?!2, \"banner)", read(trace).decode("latin-1"), re.M)[1:]
         shutil.rmtree(folder)
 
     def copy(self, label):
