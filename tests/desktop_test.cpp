@@ -9,6 +9,7 @@
 #include <QMimeData>
 #include <QPushButton>
 #include <QTest>
+#include <QWheelEvent>
 #include <memory>
 
 #include "desktop/color_window_view.h"
@@ -210,6 +211,19 @@ TEST_F(Widgets, KeepTheMainWindowBehindTheOthers) {
     EXPECT_EQ(Named<QLineEdit>(*view, "Year").text(), "1877");
     EXPECT_TRUE(view->isWindowModified());
     EXPECT_TRUE(view->close());
+}
+
+TEST_F(Widgets, LeaveListsAloneWhenThePersonScrolls) {
+    for (QComboBox* list : view->findChildren<QComboBox*>()) {
+        list->setFocus();
+        const int before = list->currentIndex();
+        for (const int turn : {120, -120}) {
+            QWheelEvent wheel({5, 5}, list->mapToGlobal(QPointF(5, 5)), {}, {0, turn}, Qt::NoButton, Qt::NoModifier,
+                              Qt::NoScrollPhase, false);
+            QApplication::sendEvent(list, &wheel);
+            EXPECT_EQ(list->currentIndex(), before) << qPrintable(list->accessibleName());
+        }
+    }
 }
 
 /// Every caption of a window, in alphabetical order.

@@ -1,10 +1,10 @@
 #include "desktop/color_window_view.h"
 
-#include <QComboBox>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QScreen>
+#include <QScrollArea>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <array>
@@ -26,7 +26,7 @@ constexpr std::array<std::u16string_view, 6> LowerRow = {u"YearLine", u"PlayLine
 }  // namespace
 
 ColorWindowView::ColorWindowView(frmColor& window, std::function<void()> closed, QWidget* parent)
-    : SecondWindow("color window", std::move(closed), parent) {
+    : SecondWindow("color window", std::move(closed), parent), content_(new QWidget) {
     setWindowTitle("Bannersmith Colors");
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     auto* upper = new QHBoxLayout;
@@ -36,18 +36,30 @@ ColorWindowView::ColorWindowView(frmColor& window, std::function<void()> closed,
     lower->addWidget(Make_Edit_Area(window), 7);
     for (QHBoxLayout* row : {upper, lower}) row->setSpacing(3);
 
-    auto* rows = new QVBoxLayout(this);
+    auto* rows = new QVBoxLayout(content_);
     rows->addLayout(Make_Bar(window));
     rows->addLayout(upper);
     rows->addLayout(lower);
     rows->addWidget(new PreviewView(window.preview), 1);
+    auto* scrolled = new QScrollArea;
+    scrolled->setFrameStyle(QFrame::NoFrame);
+    scrolled->setWidgetResizable(true);
+    scrolled->setWidget(content_);
+    auto* whole = new QVBoxLayout(this);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->addWidget(scrolled);
     resize(sizeHint().boundedTo(screen()->availableSize()));
     Follow(window.form);
 }
 
+QSize ColorWindowView::sizeHint() const {
+    return content_->sizeHint();
+}
+
 QBoxLayout* ColorWindowView::Make_Bar(frmColor& window) {
-    auto* schemes = new QComboBox;
+    auto* schemes = new ListBox;
     schemes->setMinimumWidth(150);
+    schemes->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     schemes->setToolTip("Colors of the layout file, or a saved scheme");
     auto* path = new QLineEdit;
     path->setToolTip("The layout file to read colors from");
@@ -75,7 +87,7 @@ QWidget* ColorWindowView::Make_Element(frmColor& window, std::u16string_view key
     small.setPointSizeF(small.pointSizeF() * 0.8);
     frame->setFont(small);
     auto* boxes = new QVBoxLayout(frame);
-    boxes->setContentsMargins(4, 2, 4, 4);
+    boxes->setContentsMargins(4, 5, 4, 5);
     boxes->setSpacing(3);
     for (std::int16_t index = 0; index < 2; ++index) {
         auto* box = new ColorButton(window.pic[element][static_cast<std::size_t>(index)],
@@ -84,7 +96,6 @@ QWidget* ColorWindowView::Make_Element(frmColor& window, std::u16string_view key
                 [&window, key, index] { window.pic_Click(key, index); });
         boxes->addWidget(box);
     }
-    boxes->addStretch();
     return frame;
 }
 
@@ -94,6 +105,11 @@ QWidget* ColorWindowView::Make_Edit_Area(frmColor& window) {
         "Select a Color by Clicking on it and edit it to the right.  Click the \"Set\" button to "
         "update.");
     instruction->setWordWrap(true);
+    // There is room for its lines beside the boxes. Were the height to follow the width, the window
+    // would scroll before the preview became smaller.
+    QSizePolicy policy = instruction->sizePolicy();
+    policy.setHeightForWidth(false);
+    instruction->setSizePolicy(policy);
     auto* numbers = new QHBoxLayout;
     const std::array<std::pair<const char*, TextBox*>, 3> components = {
         {{"Red", &window.txtR}, {"Green", &window.txtG}, {"Blue", &window.txtB}}};

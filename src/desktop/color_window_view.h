@@ -5,13 +5,17 @@
 
 class QBoxLayout;
 
-/// The view of the colour window.
+/// The view of the colour window. What does not fit its size is scrolled to.
 class ColorWindowView : public SecondWindow {
  public:
     ColorWindowView(frmColor& window, std::function<void()> closed, QWidget* parent);
+
+    QSize sizeHint() const override;
 
  private:
     QBoxLayout* Make_Bar(frmColor& window);
     QWidget* Make_Element(frmColor& window, std::u16string_view key);
     QWidget* Make_Edit_Area(frmColor& window);
+
+    QWidget* content_;
 };

@@ -1,7 +1,6 @@
 #include "desktop/main_window_view.h"
 
 #include <QCloseEvent>
-#include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -35,7 +34,7 @@ QLineEdit* Make_Field(TextBox& box, bool bold) {
 }
 
 QComboBox* Make_List(DropDownList& list, const QString& tooltip) {
-    auto* combo = new QComboBox;
+    auto* combo = new ListBox;
     combo->setToolTip(tooltip);
     Bind(*combo, list);
     return combo;
@@ -165,7 +164,7 @@ void MainWindowView::Add_Looks(QGridLayout& grid, int row) {
 
 QBoxLayout* MainWindowView::Make_Padding_Row() {
     auto* padding = new QLineEdit;
-    padding->setFixedWidth(90);
+    padding->setFixedWidth(padding->fontMetrics().horizontalAdvance("+2684354560"));
     padding->setToolTip("Length to fill the file up to; +N appends N bytes; 0 for none");
     Bind(*padding, window_.txtPad);
     auto* row = new QHBoxLayout;
@@ -176,8 +175,7 @@ QBoxLayout* MainWindowView::Make_Padding_Row() {
 }
 
 QWidget* MainWindowView::Make_File_Frame() {
-    auto* frame = new QFrame;
-    frame->setFrameStyle(QFrame::StyledPanel);
+    auto* frame = new QGroupBox;
     auto* path = new QLineEdit;
     path->setToolTip("The layout file; a path that begins with \\ is below the program's folder");
     Bind(*path, window_.txtSrc);

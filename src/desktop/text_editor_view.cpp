@@ -1,6 +1,5 @@
 #include "desktop/text_editor_view.h"
 
-#include <QComboBox>
 #include <QGridLayout>
 #include <QLineEdit>
 #include <utility>
@@ -12,7 +11,7 @@
 TextEditorView::TextEditorView(frmHC& editor, std::function<void()> closed, QWidget* parent)
     : SecondWindow("text editor", std::move(closed), parent) {
     setWindowTitle("\"Hardcore\" Manual Text Editor");
-    auto* names = new QComboBox;
+    auto* names = new ListBox;
     names->setMinimumWidth(145);
     names->setToolTip("The text boxes of the layout, in the order of the file");
     auto* value = new QLineEdit;

@@ -5,6 +5,7 @@
 #include <QPainterPath>
 #include <QSettings>
 #include <QShortcut>
+#include <QWheelEvent>
 #include <cmath>
 #include <numbers>
 
@@ -40,6 +41,10 @@ void ColorButton::paintEvent(QPaintEvent* /*event*/) {
     painter.setBrush(isEnabled() ? color_ : color_.lighter());
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
     if (hasFocus()) painter.drawRect(rect().adjusted(1, 1, -2, -2));
+}
+
+void ListBox::wheelEvent(QWheelEvent* event) {
+    event->ignore();
 }
 
 void ElidedLabel::Show_Text(const QString& text) {

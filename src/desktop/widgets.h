@@ -3,6 +3,7 @@
 
 #include <QAbstractButton>
 #include <QColor>
+#include <QComboBox>
 #include <QIcon>
 #include <QLabel>
 #include <QPushButton>
@@ -34,6 +35,16 @@ class ColorButton : public QAbstractButton {
     QString name_;
     QSize size_;
     QColor color_;
+};
+
+/// A drop-down list that the mouse wheel leaves alone: a person who scrolls past it has not chosen
+/// another entry.
+class ListBox : public QComboBox {
+ public:
+    using QComboBox::QComboBox;
+
+ protected:
+    void wheelEvent(QWheelEvent* event) override;
 };
 
 /// A label whose text ends in "..." where it does not fit; the tooltip has all of it.
