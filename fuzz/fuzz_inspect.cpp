@@ -4,6 +4,7 @@
 #include "inspect/report.h"
 #include "inspect/sections.h"
 #include "inspect/warnings.h"
+#include "layout/file_length.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* bytes, std::size_t size) {
     const std::string data(reinterpret_cast<const char*>(bytes), size);

@@ -7,6 +7,7 @@
 #include "inspect/report.h"
 #include "inspect/sections.h"
 #include "inspect/warnings.h"
+#include "layout/file_length.h"
 #include "platform/files.h"
 #include "platform/process.h"
 #include "platform/text.h"

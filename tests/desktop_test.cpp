@@ -37,7 +37,7 @@ class TestDesktop : public NoDesktop {
     std::u16string answer, file;
     Color color = 0;
 
-    std::u16string Open_File(const std::u16string& /*filter*/) override { return file; }
+    std::u16string Open_File(const std::u16string& /*filter*/, const std::u16string& /*last*/) override { return file; }
     Color Choose_Color(Color /*color*/) override { return color; }
     void Message(const std::u16string& text) override { messages.push_back(text); }
     void Report(const Failure& failure) override { failures.push_back(failure.subject); }

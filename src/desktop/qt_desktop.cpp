@@ -21,12 +21,15 @@ void Show_Box(QMessageBox::Icon icon, const QString& text) {
     box.exec();
 }
 
-/// "Text (*.a)|*.a|All (*.*)|*.*" as the toolkit has it: "Text (*.a);;All (*)".
-QString Toolkit_Filter(const std::u16string& filter) {
+/// "Text (*.a)|*.a|All (*.*)|*.*" as the toolkit has it: descriptions with a pattern in brackets
+/// behind each, which it does not show. There "*.*" would leave out names without a dot.
+QStringList Toolkit_Filters(const std::u16string& filter) {
     const QStringList parts = Shown(filter).split('|');
-    QStringList descriptions;
-    for (qsizetype i = 0; i < parts.size(); i += 2) descriptions << parts[i];
-    return descriptions.join(";;").replace("(*.*)", "(*)");
+    QStringList filters;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        filters << parts[i] + " (" + (parts[i + 1] == "*.*" ? "*" : parts[i + 1]) + ")";
+    }
+    return filters;
 }
 
 }  // namespace
@@ -36,8 +39,11 @@ void QtDesktop::Message(const std::u16string& text) {
 }
 
 bool QtDesktop::Confirm(const std::u16string& question) {
-    return QMessageBox::question(QApplication::activeWindow(), "Bannersmith", Shown(question)) ==
-           QMessageBox::Yes;
+    QMessageBox box(QMessageBox::Question, "Bannersmith", Shown(question),
+                    QMessageBox::Yes | QMessageBox::No, QApplication::activeWindow());
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
 }
 
 void QtDesktop::Report(const Failure& failure) {
@@ -46,9 +52,15 @@ void QtDesktop::Report(const Failure& failure) {
              Shown(failure.subject) + "\n\n" + QString::fromStdString(failure.reason));
 }
 
-std::u16string QtDesktop::Open_File(const std::u16string& filter) {
-    return Taken(
-        QFileDialog::getOpenFileName(QApplication::activeWindow(), {}, {}, Toolkit_Filter(filter)));
+std::u16string QtDesktop::Open_File(const std::u16string& filter, const std::u16string& last) {
+    const QFileInfo folder(QFileInfo(Shown(last).replace('\\', '/')).path());
+    QFileDialog dialog(QApplication::activeWindow());
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    dialog.setNameFilters(Toolkit_Filters(filter));
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    if (folder.isDir()) dialog.setDirectory(folder.filePath());
+    if (dialog.exec() != QDialog::Accepted) return {};
+    return Taken(dialog.selectedFiles().value(0));
 }
 
 std::u16string QtDesktop::Ask(const std::u16string& prompt, const std::u16string& title) {

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr std::size_t HeaderSize = 16, SectionHeader = 8, GroupNames = 28, NameWidth = 16;
+constexpr std::size_t SectionHeader = 8, GroupNames = 28, NameWidth = 16;
 constexpr std::size_t MaterialName = 20, MaterialColors = 16, MaterialList = 12;
 constexpr std::size_t TextOffsetField = 0x58;
 
@@ -90,10 +90,6 @@ void Read_Section(const ChainSection& section, LayoutInfo& info) {
 }
 
 }  // namespace
-
-bool Is_Layout(std::string_view data) {
-    return data.size() >= HeaderSize && data.starts_with("RLYT");
-}
 
 LayoutInfo Read_Layout(std::string_view data) {
     LayoutInfo info;

@@ -50,8 +50,5 @@ struct LayoutInfo {
     std::vector<std::string> faults;  ///< what is wrong with the chain itself
 };
 
-/// Whether `data` begins as a layout file does.
-bool Is_Layout(std::string_view data);
-
 /// Follows the chain of `data`, for which `Is_Layout` holds, as far as it goes.
 LayoutInfo Read_Layout(std::string_view data);

@@ -92,17 +92,6 @@ void Form1::Take_Layout_Path(std::u16string_view piece) {
     if (BrlytData.size() < HeaderBytes) Fail(NoLayout, Why_No_Layout());
 }
 
-Failure Form1::Why_No_Layout() const {
-    if (txtSrc.Text().empty()) return {Configuration_Path(), "Names no layout file"};
-    if (!why_not_loaded_.empty()) return {txtSrc.Text(), why_not_loaded_};
-    std::string bytes;
-    if (const auto failure = Read_File(Layout_Path(), bytes)) {
-        return {txtSrc.Text(), failure->reason};
-    }
-    return {txtSrc.Text(),
-            bytes.size() < HeaderBytes ? "Too short to be a layout" : "Cannot be read"};
-}
-
 void Form1::Take_Option(std::u16string_view piece) {
     static constexpr std::array<NamedOption, 9> Named = {{
         {u"LOGO", 5, true, &Form1::Option_Logo},

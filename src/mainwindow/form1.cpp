@@ -98,13 +98,28 @@ void Form1::Load_Brlyt() {
     }
 }
 
+Failure Form1::Why_No_Layout() const {
+    if (txtSrc.Text().empty()) {
+        return {form.Visible() ? u"File" : Configuration_Path(), "Names no layout file"};
+    }
+    if (!why_not_loaded_.empty()) return {txtSrc.Text(), why_not_loaded_};
+    std::string bytes;
+    if (const auto failure = Read_File(Layout_Path(), bytes)) {
+        return {txtSrc.Text(), failure->reason};
+    }
+    return {txtSrc.Text(),
+            bytes.size() < HeaderBytes ? "Too short to be a layout" : "No layout is loaded"};
+}
+
 void Form1::cmdFileBrowse_Click() {
     const std::u16string file =
-        desktop_.Open_File(u"Brlyt Files (*.brlyt)|*.brlyt|All Files (*.*)|*.*");
+        desktop_.Open_File(u"Brlyt Files (*.brlyt)|*.brlyt|All Files (*.*)|*.*", Layout_Path());
     if (!file.empty()) Take_File(file);
 }
 
 void Form1::Take_File(const std::u16string& file) {
+    if (!Lose_Changes(u" does not have the latest changes. Take another file without saving?"))
+        return;
     txtSrc.Set(file);
     // Dialogs answer with the platform's own separator, so the program's folder is looked for with
     // either one behind it.
@@ -144,7 +159,10 @@ void Form1::Close_Color_Window() {
 
 void Form1::cmdHC_Click() {
     TextEditor = std::make_unique<frmHC>(form, info);
-    TextEditor->Written = [this, before = BrlytData] { Tell_Changes(u"Text editor", before); };
+    TextEditor->Written = [this, before = BrlytData]() mutable {
+        Tell_Changes(u"Text editor", before);
+        before = BrlytData;
+    };
     TextEditorMade.Raise();
     TextEditor->Form_Load();
     TextEditor->form.Show();

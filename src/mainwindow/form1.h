@@ -60,7 +60,8 @@ class Form1 {
     /// Lets the user choose a file, and takes it.
     void cmdFileBrowse_Click();
 
-    /// Puts the full path of a file into the path box. The program's folder and the separator
+    /// Puts the full path of a file into the path box, unless there are unsaved changes that the
+    /// user does not give up. The program's folder and the separator
     /// behind it become "\\", wherever they stand in it, so that a path below it is named relative
     /// to it.
     void Take_File(const std::u16string& file);
@@ -89,7 +90,8 @@ class Form1 {
     bool May_Close();
 
     /// Saves the layout and loads the saved file. A failure is reported and leaves the file, the
-    /// logo texture and `BrlytData` as they were.
+    /// logo texture and `BrlytData` as they were. With a window, a file that is no layout is saved
+    /// only when the user says so.
     void cmdSave_Click();
 
     /// Fills the scheme list with "Current Brlyt", which it selects, and the names of the schemes.
@@ -122,6 +124,8 @@ class Form1 {
     void Store_Path() const;
 
     std::u16string Layout_Path() const;
+    bool Lose_Changes(const std::u16string& question);
+    bool May_Save();
     Outcome Save();
     Outcome Write_Layout(const Padding& padding);
     Outcome Apply_Chosen_Looks();

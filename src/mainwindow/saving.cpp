@@ -44,6 +44,10 @@ std::u16string Texture_Folder(std::u16string_view layout_path) {
 }  // namespace
 
 void Form1::cmdSave_Click() {
+    if (!May_Save()) {
+        lblLastCommand.Set(u"Not saved");
+        return;
+    }
     const Outcome failure = Save();
     if (failure) {
         Put_Textures_Back();
@@ -51,17 +55,24 @@ void Form1::cmdSave_Click() {
         lblLastCommand.Set(u"Not saved");
         return;
     }
+    const bool logo_lost = cmbLogo.Index() > 0 && replaced_.empty();
     replaced_.clear();
     if (process_.command_line.empty()) desktop_.Message(u"File Successfully Saved!");
     txtSrc_Change();
-    lblLastCommand.Set(u"Saved");
+    lblLastCommand.Set(logo_lost ? u"Saved; the banner has no logo texture to replace" : u"Saved");
+}
+
+/// Whoever named another file by mistake would not get it back.
+bool Form1::May_Save() {
+    if (!form.Visible() || BrlytData.size() < HeaderBytes || Is_Layout(BrlytData)) return true;
+    return desktop_.Confirm(txtSrc.Text() + u" is not a layout file. Save it all the same?");
 }
 
 /// Everything that can be refused is refused before anything is changed. What fails later leaves
 /// the data in memory as it was: a second try must not find its own padding counted into the
 /// layout.
 Outcome Form1::Save() {
-    if (BrlytData.size() < HeaderBytes) return Failure{txtSrc.Text(), "No layout is loaded"};
+    if (BrlytData.size() < HeaderBytes) return Why_No_Layout();
     const auto padding = Read_Padding(txtPad.Text());
     if (!padding) {
         return Failure{u"Padding \"" + txtPad.Text() + u"\"",

@@ -1,8 +1,10 @@
 // What the main window tells about the layout and about the last command, beside the fields.
+#include <algorithm>
 #include <array>
 
 #include "gameinfo/boxes.h"
 #include "gameinfo/languages.h"
+#include "layout/file_length.h"
 #include "layout/mod_globals.h"
 #include "layout/text_box.h"
 #include "mainwindow/form1.h"
@@ -19,7 +21,13 @@ std::u16string Number(std::size_t number) {
     return From_Utf8(std::to_string(number));
 }
 
-/// The codes of the languages that have a title, or whose wording the one text for all has.
+bool Has_One_Text_For_All() {
+    return std::any_of(FieldPrefixes.begin(), FieldPrefixes.end(), [](std::u16string_view prefix) {
+        return !Read_Box(Neutral_Box(prefix)).empty();
+    });
+}
+
+/// The codes of the languages that have a title, or what there is in their place.
 std::u16string Languages_Present() {
     std::u16string codes;
     for (const std::u16string_view code : Languages) {
@@ -27,7 +35,7 @@ std::u16string Languages_Present() {
         codes.append(codes.empty() ? u"" : u" ").append(code);
     }
     if (!codes.empty()) return codes;
-    return NoneRegion.empty() ? u"no titles" : u"one text for all languages";
+    return Has_One_Text_For_All() ? u"one text for all languages" : u"no titles";
 }
 
 /// The text boxes that the fields write, as far as their texts differ between two layouts.
@@ -85,8 +93,12 @@ bool Form1::Has_Unsaved_Changes() const {
 
 bool Form1::May_Close() {
     if (!form.Enabled()) return false;
-    return !Has_Unsaved_Changes() ||
-           desktop_.Confirm(u"The file does not have the latest changes. Close without saving?");
+    return Lose_Changes(u" does not have the latest changes. Close without saving?");
+}
+
+/// Whether there are none to lose, or the user answers yes to the layout's path with `question`.
+bool Form1::Lose_Changes(const std::u16string& question) {
+    return !Has_Unsaved_Changes() || desktop_.Confirm(txtSrc.Text() + question);
 }
 
 void Form1::Tell_What_Is_Loaded() {
@@ -96,9 +108,8 @@ void Form1::Tell_What_Is_Loaded() {
         return;
     }
     const std::u16string path = With_Backslashes(txtSrc.Text());
-    const bool is_layout = BrlytData.starts_with("RLYT");
     lblLoaded.Set(path.substr(path.rfind(u'\\') + 1) + u"  |  " +
-                  (is_layout ? Languages_Present() : u"not a layout file") + u"  |  " +
-                  Number(BrlytData.size()) + u" bytes  |  " +
-                  (Has_Unsaved_Changes() ? u"texts not saved" : u"texts as in the file"));
+                  (Has_Unsaved_Changes() ? u"texts not saved" : u"texts as in the file") +
+                  u"  |  " + (Is_Layout(BrlytData) ? Languages_Present() : u"not a layout file") +
+                  u"  |  " + Number(BrlytData.size()) + u" bytes");
 }

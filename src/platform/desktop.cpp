@@ -18,7 +18,8 @@ void NoDesktop::Report(const Failure& failure) {
     Print(line + "\n", stderr);
 }
 
-std::u16string NoDesktop::Open_File(const std::u16string& /*filter*/) {
+std::u16string NoDesktop::Open_File(const std::u16string& /*filter*/,
+                                    const std::u16string& /*last*/) {
     return {};
 }
 

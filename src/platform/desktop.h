@@ -31,15 +31,16 @@ class Desktop {
     /// Shows `text` with an OK button.
     virtual void Message(const std::u16string& text) = 0;
 
-    /// Whether the user says yes to `question`.
+    /// Whether the user says yes to `question`; whoever only presses Enter says no.
     virtual bool Confirm(const std::u16string& question) = 0;
 
     /// Tells the user what went wrong with what.
     virtual void Report(const Failure& failure) = 0;
 
     /// The full path of a file of the user's choice, or an empty text when there was none.
-    /// `filter`: pairs of a description and a pattern, all separated by "|".
-    virtual std::u16string Open_File(const std::u16string& filter) = 0;
+    /// `filter`: pairs of a description and a pattern, all separated by "|". `last`: the path of
+    /// the file chosen last, in whose folder the choice begins if it is there.
+    virtual std::u16string Open_File(const std::u16string& filter, const std::u16string& last) = 0;
 
     /// The user's answer to `prompt`, under `title`; empty when there was none.
     virtual std::u16string Ask(const std::u16string& prompt, const std::u16string& title) = 0;
@@ -63,7 +64,7 @@ class NoDesktop : public Desktop {
     void Message(const std::u16string& text) override;
     bool Confirm(const std::u16string& question) override;
     void Report(const Failure& failure) override;
-    std::u16string Open_File(const std::u16string& filter) override;
+    std::u16string Open_File(const std::u16string& filter, const std::u16string& last) override;
     std::u16string Ask(const std::u16string& prompt, const std::u16string& title) override;
     Color Choose_Color(Color color) override;
     float Text_Width(std::u16string_view text, const Font& font) override;

@@ -10,7 +10,7 @@
 //     read NAME                 a text box of the layout in memory
 //     write NAME TEXT           the same, written
 //     keep FILE                 writes the layout in memory to a file
-//     answer TEXT               what questions are answered with from now on
+//     answer TEXT               what questions are answered with from now on; only "yes" confirms
 //     ! COMMAND                 runs a command of the shell
 #include <algorithm>
 #include <cstdio>
@@ -104,8 +104,10 @@ class TalkingDesktop : public NoDesktop {
         failed = false;
         std::cout << "message: " << Line(text) << std::endl;
     }
-    bool Confirm(const std::u16string& question) override { return !Ask(question, u"question").empty(); }
-    std::u16string Open_File(const std::u16string& filter) override { return Ask(filter, u"file"); }
+    bool Confirm(const std::u16string& question) override { return Ask(question, u"question") == u"yes"; }
+    std::u16string Open_File(const std::u16string& filter, const std::u16string& last) override {
+        return Ask(filter, u"file beside " + last);
+    }
     std::u16string Ask(const std::u16string& prompt, const std::u16string& title) override {
         std::cout << Line(title) << ": " << Line(prompt) << std::endl;
         return answer;
