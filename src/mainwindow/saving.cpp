@@ -28,7 +28,7 @@ std::vector<std::string> Boxes_To_Rewrite() {
 }
 
 /// The folder "timg" beside the folder of the layout file: the layout's path without its last two
-/// parts. Empty when the path names no folder that another could lie beside.
+/// parts, of which nothing may be left. Empty when the path names no folder at all.
 std::u16string Texture_Folder(std::u16string_view layout_path) {
     const std::u16string path = With_Backslashes(layout_path);
     const std::size_t last = path.rfind(u'\\');
@@ -36,9 +36,7 @@ std::u16string Texture_Folder(std::u16string_view layout_path) {
     const std::size_t before = last == 0 ? path.npos : path.rfind(u'\\', last - 1);
     const std::u16string_view last_two =
         std::u16string_view(path).substr(before == path.npos ? 0 : before + 1);
-    const std::u16string rest = Replace_All(path, last_two, u"");
-    if (rest.empty() && Is_Full_Path(layout_path)) return {};
-    return rest + u"timg\\";
+    return Replace_All(path, last_two, u"") + u"timg\\";
 }
 
 }  // namespace
