@@ -48,7 +48,7 @@ ColorWindowView::ColorWindowView(frmColor& window, std::function<void()> closed,
     auto* whole = new QVBoxLayout(this);
     whole->setContentsMargins(0, 0, 0, 0);
     whole->addWidget(scrolled);
-    resize(sizeHint().boundedTo(screen()->availableSize()));
+    resize(ColorWindowView::sizeHint().boundedTo(screen()->availableSize()));
     Follow(window.form);
 }
 

@@ -125,6 +125,17 @@ class Scenario:
             yield "does not say that the owner is another one"
 
 
+def without_links(base):
+    """Where a file cannot have a second name, a copy of the old texture is kept, and comes back."""
+    texture = os.path.join(base, TEXTURE)
+    old, files = read(texture), files_of(base)
+    for padding, status, wanted in (("much", 1, old), ("0", 0, read(os.path.join(base, LOGO)))):
+        done = subprocess.run(["strace", "-qq", "-o", "/dev/null", "-e", "inject=link,linkat:error=EPERM", "./bannersmith",
+                               "-LOGO", "Comet.tpl", "-PAD", padding], cwd=base, capture_output=True, timeout=60)
+        if done.returncode != status or read(texture) != wanted or files_of(base) != files:
+            yield "without links: status %d, %r, %s" % (done.returncode, done.stderr, sorted(files_of(base) - files))
+
+
 def without_memory(base):
     """A layout for which memory lacks is told and left alone."""
     layout = os.path.join(base, "huge.brlyt")
@@ -151,7 +162,7 @@ def main():
         runs = [(s, fault) for s in (Scenario(name, base, work) for name in SCENARIOS) for fault in s.faults()]
         with concurrent.futures.ThreadPoolExecutor(os.cpu_count() * 2) as pool:
             wrong = [what for found in pool.map(lambda run: run[0].run(run[1]), runs) for what in found]
-        wrong += without_memory(base)
+        wrong += [*without_links(base), *without_memory(base)]
     kills = sum(fault[2] == "signal=KILL" for _, fault in runs)
     print("%d kills and %d failures" % (kills, len(runs) - kills))
     print("\n".join(wrong))
