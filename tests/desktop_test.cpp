@@ -4,17 +4,23 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDropEvent>
+#include <QFileDialog>
 #include <QGroupBox>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
+#include <QTimer>
 #include <QWheelEvent>
 #include <memory>
 
 #include "desktop/color_window_view.h"
 #include "desktop/main_window_view.h"
 #include "desktop/preview_view.h"
+#include "desktop/qt_desktop.h"
 #include "desktop/text.h"
 #include "desktop/text_editor_view.h"
 #include "desktop/widgets.h"
@@ -171,10 +177,19 @@ TEST_F(Widgets, TakePathsKeyByKey) {
 
     QMimeData dropped;
     dropped.setUrls({QUrl::fromLocalFile(Shown(folder.Text()) + "/" + Layout)});
-    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &dropped, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(view.get(), &enter);
-    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &dropped, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(view.get(), &drop);
+    for (const Qt::DropActions actions : {Qt::DropActions(Qt::MoveAction), Qt::MoveAction | Qt::CopyAction}) {
+        QDragEnterEvent enter(QPoint(5, 5), actions, &dropped, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(view.get(), &enter);
+        const bool copies = actions.testFlag(Qt::CopyAction);
+        EXPECT_EQ(enter.isAccepted(), copies) << "the file would be deleted where it was";
+        if (!copies) continue;
+        QDropEvent drop(QPointF(5, 5), actions, &dropped, Qt::LeftButton, Qt::NoModifier);
+        drop.setDropAction(Qt::MoveAction);
+        QApplication::sendEvent(view.get(), &drop);
+        EXPECT_EQ(drop.dropAction(), Qt::CopyAction);
+    }
+    EXPECT_EQ(edit.text(), "/dev/null") << "before the drag has ended";
+    QApplication::processEvents();
     EXPECT_EQ(edit.text(), QString("\\") + Layout);
     EXPECT_EQ(BrlytData, German_Japanese_Banner());
     desktop.file = u"chosen";
@@ -214,8 +229,12 @@ TEST_F(Widgets, KeepTheMainWindowBehindTheOthers) {
 }
 
 TEST_F(Widgets, LeaveListsAloneWhenThePersonScrolls) {
-    for (QComboBox* list : view->findChildren<QComboBox*>()) {
-        list->setFocus();
+    Press(*view, "Edit colors");
+    window->cmdHC_Click();
+    const auto lists = view->findChildren<QComboBox*>();  // of the other windows, too, which are its children
+    EXPECT_EQ(lists.size(), 8);
+    for (QComboBox* list : lists) {
+        EXPECT_EQ(list->focusPolicy(), Qt::StrongFocus) << "the next letter typed would choose";
         const int before = list->currentIndex();
         for (const int turn : {120, -120}) {
             QWheelEvent wheel({5, 5}, list->mapToGlobal(QPointF(5, 5)), {}, {0, turn}, Qt::NoButton, Qt::NoModifier,
@@ -223,6 +242,41 @@ TEST_F(Widgets, LeaveListsAloneWhenThePersonScrolls) {
             QApplication::sendEvent(list, &wheel);
             EXPECT_EQ(list->currentIndex(), before) << qPrintable(list->accessibleName());
         }
+    }
+}
+
+TEST_F(Widgets, ScrollColorsOnASmallScreen) {
+    Press(*view, "Edit colors");
+    auto* colors = Find<ColorWindowView>();
+    auto& scrolled = *colors->findChild<QScrollArea*>();
+    for (const bool small : {true, false}) {
+        colors->resize(small ? QSize(600, 400) : colors->sizeHint());
+        QApplication::processEvents();
+        EXPECT_EQ(scrolled.horizontalScrollBar()->maximum() > 0, small);
+        EXPECT_EQ(scrolled.verticalScrollBar()->maximum() > 0, small);
+    }
+    EXPECT_FALSE(scrolled.focusPolicy() & Qt::TabFocus);
+}
+
+TEST_F(Widgets, AskThroughTheToolkit) {
+    QtDesktop toolkit;
+    QString folder_shown, filters;
+    QTimer::singleShot(0, [&] {
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        folder_shown = dialog->directory().path();
+        filters = dialog->nameFilters().join(";") + (dialog->testOption(QFileDialog::HideNameFilterDetails) ? "" : "?");
+        dialog->reject();
+    });
+    EXPECT_EQ(toolkit.Open_File(u"A (*.a)|*.a|All (*.*)|*.*", folder.Text() + u"\\b/arc\\gone"), u"");
+    EXPECT_EQ(folder_shown, Shown(folder.Text()) + "/b/arc");
+    EXPECT_EQ(filters, "A (*.a) (*.a);All (*.*) (*)");
+    for (const int key : {Qt::Key_Return, Qt::Key_Escape, Qt::Key_Space}) {
+        QTimer::singleShot(0, [&] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            QWidget* target = key == Qt::Key_Space ? box->button(QMessageBox::Yes) : static_cast<QWidget*>(box);
+            QTest::keyClick(target, Qt::Key(key));
+        });
+        EXPECT_EQ(toolkit.Confirm(u"Really?"), key == Qt::Key_Space);
     }
 }
 

@@ -43,6 +43,7 @@ ColorWindowView::ColorWindowView(frmColor& window, std::function<void()> closed,
     rows->addWidget(new PreviewView(window.preview), 1);
     auto* scrolled = new QScrollArea;
     scrolled->setFrameStyle(QFrame::NoFrame);
+    scrolled->setFocusPolicy(Qt::NoFocus);
     scrolled->setWidgetResizable(true);
     scrolled->setWidget(content_);
     auto* whole = new QVBoxLayout(this);

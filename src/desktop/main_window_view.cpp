@@ -40,6 +40,12 @@ QComboBox* Make_List(DropDownList& list, const QString& tooltip) {
     return combo;
 }
 
+/// Never as a move, after which the file would be deleted where it was.
+void Take_As_Copy(QDropEvent& event) {
+    event.setDropAction(Qt::CopyAction);
+    event.accept();
+}
+
 }  // namespace
 
 MainWindowView::MainWindowView(Form1& window) : window_(window) {
@@ -217,11 +223,20 @@ void MainWindowView::closeEvent(QCloseEvent* event) {
 
 void MainWindowView::dragEnterEvent(QDragEnterEvent* event) {
     const QList<QUrl> files = event->mimeData()->urls();
-    if (window_.form.Enabled() && files.size() == 1 && files[0].isLocalFile())
-        event->acceptProposedAction();
+    const bool can_copy = event->possibleActions().testFlag(Qt::CopyAction);
+    if (window_.form.Enabled() && files.size() == 1 && files[0].isLocalFile() && can_copy) {
+        Take_As_Copy(*event);
+    }
 }
 
+/// The file is taken when the drag has ended: a question would hold up the program that it comes
+/// from.
 void MainWindowView::dropEvent(QDropEvent* event) {
-    window_.Take_File(Taken(event->mimeData()->urls().value(0).toLocalFile()));
-    event->acceptProposedAction();
+    Take_As_Copy(*event);
+    const std::u16string file = Taken(event->mimeData()->urls().value(0).toLocalFile());
+    const auto take = [this, file] {
+        activateWindow();
+        if (window_.form.Enabled()) window_.Take_File(file);
+    };
+    QMetaObject::invokeMethod(this, take, Qt::QueuedConnection);
 }

@@ -43,6 +43,11 @@ void ColorButton::paintEvent(QPaintEvent* /*event*/) {
     if (hasFocus()) painter.drawRect(rect().adjusted(1, 1, -2, -2));
 }
 
+/// Nor does the wheel take the focus along, which would let the next letter choose an entry.
+ListBox::ListBox() {
+    setFocusPolicy(Qt::StrongFocus);
+}
+
 void ListBox::wheelEvent(QWheelEvent* event) {
     event->ignore();
 }

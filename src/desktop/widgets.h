@@ -41,7 +41,7 @@ class ColorButton : public QAbstractButton {
 /// another entry.
 class ListBox : public QComboBox {
  public:
-    using QComboBox::QComboBox;
+    ListBox();
 
  protected:
     void wheelEvent(QWheelEvent* event) override;

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-/// Bytes 0 to 11 of a layout: up to and including the file length. Shorter data is no layout.
+/// Bytes 0 to 11 of a layout: up to and including the file length. Shorter data cannot hold it.
 inline constexpr std::size_t HeaderBytes = 12;
 
 /// Whether `data` begins as a layout file does: with a whole header (16 bytes), "RLYT" first.

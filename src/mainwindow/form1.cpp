@@ -31,9 +31,8 @@ std::optional<int> Form1::Form_Load() {
     }
     if (!line.empty()) txtSrc.Set(line);
 
-    if (!process_.command_line.empty()) return Run_Batch();
+    if (!Has_Window()) return Run_Batch();
     form.Show();
-    on_disk_ = BrlytData;
     Tell_What_Is_Loaded();
     RefreshColorList_Here();
     RefreshLogoList();
@@ -69,6 +68,7 @@ std::u16string Form1::Layout_Path() const {
 
 void Form1::txtSrc_Change() {
     BrlytData.clear();
+    on_disk_.clear();
     why_not_loaded_.clear();
     const std::u16string path = Layout_Path();
     if (Ordinary_File_Exists(path)) {
@@ -76,8 +76,7 @@ void Form1::txtSrc_Change() {
         Load_Brlyt();
         Store_Path();
     }
-    if (!form.Visible()) return;
-    on_disk_ = BrlytData;
+    if (!Has_Window()) return;
     lblLastCommand.Set(u"");
     Tell_What_Is_Loaded();
 }
@@ -91,16 +90,17 @@ void Form1::Load_Brlyt() {
             return;
         }
         BrlytData = CutPadding(std::move(BrlytData));
+        if (Has_Window()) on_disk_ = BrlytData;
         info.Refill();
     } catch (const std::bad_alloc&) {
-        BrlytData = {};
+        BrlytData = on_disk_ = {};
         why_not_loaded_ = "Not enough memory";
     }
 }
 
 Failure Form1::Why_No_Layout() const {
     if (txtSrc.Text().empty()) {
-        return {form.Visible() ? u"File" : Configuration_Path(), "Names no layout file"};
+        return {Has_Window() ? u"File" : Configuration_Path(), "Names no layout file"};
     }
     if (!why_not_loaded_.empty()) return {txtSrc.Text(), why_not_loaded_};
     std::string bytes;
@@ -118,8 +118,9 @@ void Form1::cmdFileBrowse_Click() {
 }
 
 void Form1::Take_File(const std::u16string& file) {
-    if (!Lose_Changes(u" does not have the latest changes. Take another file without saving?"))
+    if (!Lose_Changes(u" does not have the latest changes. Take another file without saving?")) {
         return;
+    }
     txtSrc.Set(file);
     // Dialogs answer with the platform's own separator, so the program's folder is looked for with
     // either one behind it.
@@ -127,6 +128,7 @@ void Form1::Take_File(const std::u16string& file) {
     for (const char16_t separator : {u'\\', u'/'}) {
         txtSrc.Set(Replace_All(txtSrc.Text(), folder + separator, u"\\"));
     }
+    if (Has_Unsaved_Changes()) txtSrc_Change();  // the same file once more
 }
 
 void Form1::RefreshColorList_Here() {

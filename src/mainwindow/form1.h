@@ -61,9 +61,8 @@ class Form1 {
     void cmdFileBrowse_Click();
 
     /// Puts the full path of a file into the path box, unless there are unsaved changes that the
-    /// user does not give up. The program's folder and the separator
-    /// behind it become "\\", wherever they stand in it, so that a path below it is named relative
-    /// to it.
+    /// user does not give up. The program's folder and the separator behind it become "\\",
+    /// wherever they stand in it, so that a path below it is named relative to it.
     void Take_File(const std::u16string& file);
 
     /// The events of the language lists, see `GameInfo`.
@@ -82,7 +81,8 @@ class Form1 {
     void Close_Color_Window();
     void Close_Text_Editor();
 
-    /// Whether the layout in memory differs from the file as it was loaded or saved last.
+    /// Whether the layout in memory differs from the file as it was loaded or saved last. Of a run
+    /// without a window nothing is told.
     bool Has_Unsaved_Changes() const;
 
     /// Whether the window may be closed: it is enabled, and there are no unsaved changes or the
@@ -103,7 +103,8 @@ class Form1 {
     /// Puts the logo file `lgPath` in the place of the banner's logo texture, the first ".tpl" file
     /// in the "timg" folder beside the layout's folder whose name begins with "my_Back". A bare
     /// name is taken from the logos folder, "\..." from the program's folder, a full path as it is;
-    /// `lgPath` becomes the path used. A banner without such a folder or texture is left alone.
+    /// `lgPath` becomes the path used. A banner without such a folder or texture is left alone, and
+    /// so is one whose layout lies in a root folder, beside which nothing lies.
     Outcome ReplaceLogo(std::u16string& lgPath);
 
     /// Selects the entry of the force list that equals `REG` in capitals, if there is one. `REG`
@@ -124,9 +125,11 @@ class Form1 {
     void Store_Path() const;
 
     std::u16string Layout_Path() const;
+    bool Has_Window() const { return process_.command_line.empty(); }
     bool Lose_Changes(const std::u16string& question);
-    bool May_Save();
-    Outcome Save();
+    Outcome Check_Save(Padding& padding) const;
+    bool Save_Is_Wanted();
+    Outcome Save(const Padding& padding);
     Outcome Write_Layout(const Padding& padding);
     Outcome Apply_Chosen_Looks();
     Notice Reporting();

@@ -27,26 +27,30 @@ std::vector<std::string> Boxes_To_Rewrite() {
     return names;
 }
 
-/// The folder "timg" beside the folder of the layout file: the layout's path without its last two
-/// parts, of which nothing may be left. Empty when the path names no folder at all.
+/// The folder "timg" beside the folder of the layout file: the layout's path, which has a
+/// separator, without its last two parts. Empty for a layout in a root folder: what would be left
+/// of its path is the current folder, which may be anyone's.
 std::u16string Texture_Folder(std::u16string_view layout_path) {
     const std::u16string path = With_Backslashes(layout_path);
     const std::size_t last = path.rfind(u'\\');
-    if (last == path.npos) return {};
     const std::size_t before = last == 0 ? path.npos : path.rfind(u'\\', last - 1);
     const std::u16string_view last_two =
         std::u16string_view(path).substr(before == path.npos ? 0 : before + 1);
-    return Replace_All(path, last_two, u"") + u"timg\\";
+    const std::u16string rest = Replace_All(path, last_two, u"");
+    if (rest.empty() && Is_Full_Path(layout_path)) return {};
+    return rest + u"timg\\";
 }
 
 }  // namespace
 
 void Form1::cmdSave_Click() {
-    if (!May_Save()) {
+    Padding padding{};
+    Outcome failure = Check_Save(padding);
+    if (!failure && !Save_Is_Wanted()) {
         lblLastCommand.Set(u"Not saved");
         return;
     }
-    const Outcome failure = Save();
+    if (!failure) failure = Save(padding);
     if (failure) {
         Put_Textures_Back();
         Fail(Failed, *failure);
@@ -55,32 +59,37 @@ void Form1::cmdSave_Click() {
     }
     const bool logo_lost = cmbLogo.Index() > 0 && replaced_.empty();
     replaced_.clear();
-    if (process_.command_line.empty()) desktop_.Message(u"File Successfully Saved!");
+    if (Has_Window()) desktop_.Message(u"File Successfully Saved!");
     txtSrc_Change();
     lblLastCommand.Set(logo_lost ? u"Saved; the banner has no logo texture to replace" : u"Saved");
 }
 
-/// Whoever named another file by mistake would not get it back.
-bool Form1::May_Save() {
-    if (!form.Visible() || BrlytData.size() < HeaderBytes || Is_Layout(BrlytData)) return true;
-    return desktop_.Confirm(txtSrc.Text() + u" is not a layout file. Save it all the same?");
-}
-
-/// Everything that can be refused is refused before anything is changed. What fails later leaves
-/// the data in memory as it was: a second try must not find its own padding counted into the
-/// layout.
-Outcome Form1::Save() {
+/// Everything that can be refused is refused before anything is asked or changed.
+Outcome Form1::Check_Save(Padding& padding) const {
     if (BrlytData.size() < HeaderBytes) return Why_No_Layout();
-    const auto padding = Read_Padding(txtPad.Text());
-    if (!padding) {
+    const auto wanted = Read_Padding(txtPad.Text());
+    if (!wanted) {
         return Failure{u"Padding \"" + txtPad.Text() + u"\"",
                        "Not a whole number up to 268435456, with or without + in front of it"};
     }
+    padding = *wanted;
+    return std::nullopt;
+}
+
+/// Whoever named another file by mistake would not get it back.
+bool Form1::Save_Is_Wanted() {
+    return !Has_Window() || Is_Layout(BrlytData) ||
+           desktop_.Confirm(txtSrc.Text() + u" is not a layout file. Save it all the same?");
+}
+
+/// What fails leaves the data in memory as it was: a second try must not find its own padding
+/// counted into the layout.
+Outcome Form1::Save(const Padding& padding) {
     std::string before;
     Outcome failure;
     try {
         before = BrlytData;
-        failure = Write_Layout(*padding);
+        failure = Write_Layout(padding);
     } catch (const std::bad_alloc&) {
         failure = Failure{txtSrc.Text(), "Not enough memory"};
     }
@@ -92,7 +101,7 @@ Outcome Form1::Write_Layout(const Padding& padding) {
     const std::u16string path = Layout_Path();
     BrlytData = Rewrite_Texts(std::move(BrlytData), Boxes_To_Rewrite());
     BrlytData = Set_File_Len(std::move(BrlytData));
-    if (process_.command_line.empty()) {
+    if (Has_Window()) {
         if (auto failure = Apply_Chosen_Looks()) return failure;
     }
     Region_Force(BrlytData, To_Utf8(cmbForce.Selected()));
@@ -123,10 +132,12 @@ Outcome Form1::ReplaceLogo(std::u16string& lgPath) {
     } else if (!Is_Full_Path(lgPath)) {
         lgPath = process_.program_folder + u"\\logos\\" + lgPath;
     }
-    const std::u16string folder = Texture_Folder(Layout_Path());
-    if (folder.empty()) {
+    const std::u16string layout = Layout_Path();
+    if (With_Backslashes(layout).find(u'\\') == layout.npos) {
         return Failure{txtSrc.Text(), "Names no folder to look for the logo texture beside"};
     }
+    const std::u16string folder = Texture_Folder(layout);
+    if (folder.empty()) return std::nullopt;
     bool found = false;
     if (auto failure = Find_Folder(folder, found); failure || !found) return failure;
     if (auto failure = File2.Set_Path(folder)) return failure;

@@ -67,21 +67,21 @@ std::u16string Describe(const std::vector<std::string>& boxes, bool same) {
 
 void Form1::cmdSet_Click(std::int16_t Index) {
     const auto field = static_cast<std::size_t>(Index);
-    const std::string before = form.Visible() ? BrlytData : std::string();
+    const std::string before = Has_Window() ? BrlytData : std::string();
     info.cmdSet_Click(Index);
     Tell_Changes(field < SetNames.size() ? SetNames[field] : u"", before);
 }
 
 void Form1::cmdSetAll_Click(std::int16_t Index) {
     const auto field = static_cast<std::size_t>(Index);
-    const std::string before = form.Visible() ? BrlytData : std::string();
+    const std::string before = Has_Window() ? BrlytData : std::string();
     info.cmdSetAll_Click(Index);
     Tell_Changes(field < SetAllNames.size() ? SetAllNames[field] : u"", before);
 }
 
 /// Without a window nobody is told, so nothing is compared.
 void Form1::Tell_Changes(std::u16string_view command, const std::string& before) {
-    if (!form.Visible()) return;
+    if (!Has_Window()) return;
     const std::u16string changes = Describe(Changed_Boxes(before, BrlytData), before == BrlytData);
     lblLastCommand.Set(std::u16string(command) + u": " + changes);
     Tell_What_Is_Loaded();

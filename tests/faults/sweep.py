@@ -145,6 +145,12 @@ def without_memory(base):
     done = subprocess.run("ulimit -v 100000; ./bannersmith huge.brlyt -TITLE x", shell=True, cwd=base, capture_output=True)
     if done.returncode != 1 or not done.stderr.endswith(b"huge.brlyt: Not enough memory\n"):
         yield "without memory: status %d, %r" % (done.returncode, done.stderr)
+    with open(os.path.join(base, CONFIG), "wb") as file:
+        file.write(b"\\huge.brlyt\r\n")
+    done = subprocess.run("ulimit -v 100000; ./operate", shell=True, cwd=base, input=b"show lblLoaded\nclick cmdSave\n",
+                          capture_output=True)
+    if b"lblLoaded: No layout loaded: Not enough memory\n" != done.stdout or b"huge.brlyt: Not enough" not in done.stderr:
+        yield "a window without memory: status %d, %r, %r" % (done.returncode, done.stdout, done.stderr)
     if os.path.getsize(layout) != 60 << 20 or read(layout).count(0) != (60 << 20) - 4:
         yield "without memory: the layout was changed"
 
