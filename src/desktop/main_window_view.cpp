@@ -51,6 +51,8 @@ void Take_As_Copy(QDropEvent& event) {
 MainWindowView::MainWindowView(Form1& window) : window_(window) {
     setWindowTitle("Bannersmith[*]");
     setAcceptDrops(true);
+    drag_ended_.setSingleShot(true);
+    connect(&drag_ended_, &QTimer::timeout, this, &MainWindowView::Take_Dropped_File);
     auto* content = new QWidget;
     auto* rows = new QVBoxLayout(content);
     rows->addWidget(Make_Game_Info());
@@ -229,14 +231,14 @@ void MainWindowView::dragEnterEvent(QDragEnterEvent* event) {
     }
 }
 
-/// The file is taken when the drag has ended: a question would hold up the program that it comes
-/// from.
 void MainWindowView::dropEvent(QDropEvent* event) {
     Take_As_Copy(*event);
-    const std::u16string file = Taken(event->mimeData()->urls().value(0).toLocalFile());
-    const auto take = [this, file] {
-        activateWindow();
-        if (window_.form.Enabled()) window_.Take_File(file);
-    };
-    QMetaObject::invokeMethod(this, take, Qt::QueuedConnection);
+    dropped_file_ = Taken(event->mimeData()->urls().value(0).toLocalFile());
+    drag_ended_.start(0);
+}
+
+/// Not before the drag has ended: a question would hold up the program that the file comes from.
+void MainWindowView::Take_Dropped_File() {
+    activateWindow();
+    if (window_.form.Enabled()) window_.Take_File(dropped_file_);
 }

@@ -2,6 +2,7 @@
 
 #include <QMainWindow>
 #include <QPointer>
+#include <QTimer>
 
 #include "mainwindow/form1.h"
 
@@ -32,7 +33,10 @@ class MainWindowView : public QMainWindow {
     QBoxLayout* Make_Padding_Row();
     void Make_Status_Line();
     void Show_State();
+    void Take_Dropped_File();
 
     Form1& window_;
     QPointer<QWidget> focus_before_;  ///< had the focus when the window was disabled
+    std::u16string dropped_file_;
+    QTimer drag_ended_;
 };
