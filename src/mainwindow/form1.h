@@ -81,8 +81,8 @@ class Form1 {
     void Close_Color_Window();
     void Close_Text_Editor();
 
-    /// Whether the layout in memory differs from the file as it was loaded or saved last. Of a run
-    /// without a window nothing is told.
+    /// Whether the layout in memory differs from the file as it was loaded or saved last. To be
+    /// asked with a window only: without one, nothing is kept to compare with.
     bool Has_Unsaved_Changes() const;
 
     /// Whether the window may be closed: it is enabled, and there are no unsaved changes or the

@@ -57,11 +57,12 @@ void Form1::cmdSave_Click() {
         lblLastCommand.Set(u"Not saved");
         return;
     }
-    const bool logo_lost = cmbLogo.Index() > 0 && replaced_.empty();
+    const bool logo_unplaced = cmbLogo.Index() > 0 && replaced_.empty();
     replaced_.clear();
     if (Has_Window()) desktop_.Message(u"File Successfully Saved!");
     txtSrc_Change();
-    lblLastCommand.Set(logo_lost ? u"Saved; the banner has no logo texture to replace" : u"Saved");
+    lblLastCommand.Set(logo_unplaced ? u"Saved; the banner has no logo texture to replace"
+                                     : u"Saved");
 }
 
 /// Everything that can be refused is refused before anything is asked or changed.
