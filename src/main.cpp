@@ -20,7 +20,7 @@ int Start_Window(char** argv) {
 
 int main(int argc, char** argv) {
     const std::u16string command_line = Command_Line(argc, argv);
-    if (Answer_About(command_line, "bannersmith", Usage)) return 0;
+    if (const auto status = Answer_About(command_line, "bannersmith", Usage)) return *status;
     if (command_line.empty()) return Start_Window(argv);
     Take_Memory_At_Once();
     return Run_Batch_Mode(command_line);

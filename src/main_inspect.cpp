@@ -7,7 +7,8 @@
 #include "inspect/report.h"
 #include "inspect/sections.h"
 #include "inspect/warnings.h"
-#include "layout/file_length.h"
+#include "layout/kind.h"
+#include "platform/desktop.h"
 #include "platform/files.h"
 #include "platform/process.h"
 #include "platform/text.h"
@@ -21,50 +22,85 @@ constexpr char Usage[] =
     "Shows each layout file's lengths, text boxes, material colours and groups, and\n"
     "warns of everything that an edit would not rewrite cleanly. Changes nothing.\n"
     "\n"
-    "Exit status: 0 no warning; 1 a warning; 2 a file that cannot be read or is no\n"
-    "layout.\n";
+    "Exit status: 0 no warning; 1 a warning, or the output cannot be written; 2 a\n"
+    "file that cannot be read or is no layout.\n";
 
-/// Fills `report`, which points into `data`. The reason when the file cannot be inspected.
-std::string Inspect(const std::u16string& file, std::string& data, FileReport& report) {
+constexpr int Clean = 0, Warned = 1, NotRead = 2;
+
+/// Standard output in large pieces.
+class StandardOutput {
+ public:
+    void Write(std::string_view text) {
+        constexpr std::size_t Piece = std::size_t{1} << 16;
+        buffer_ += text;
+        if (buffer_.size() > Piece) Flush();
+    }
+
+    /// Whether everything up to here has been written.
+    bool Flush() {
+        written_ = written_ && Print(buffer_, stdout);
+        buffer_.clear();
+        return written_;
+    }
+
+ private:
+    std::string buffer_;
+    bool written_ = true;
+};
+
+/// Writes the report of a file behind `before`. The reason when the file cannot be inspected;
+/// otherwise `status` becomes that of the file.
+std::string Inspect(const std::u16string& file, bool json, const char* before,
+                    StandardOutput& output, int& status) {
     try {
+        std::string data;
         if (const auto failure = Read_File(file, data)) return failure->reason;
-        if (!Is_Layout(data)) return "Not a layout file";
-        report.file = To_Utf8(file);
-        report.info = Read_Layout(data);
+        if (!Is_Layout(data)) {
+            const std::string_view kind = Not_To_Be_Edited(data);
+            return std::string(kind.empty() ? "Not a layout file" : kind);
+        }
+        FileReport report{To_Utf8(file), Read_Layout(data), {}};
         report.warnings = Find_Warnings(data, report.info);
+        status = report.warnings.empty() ? Clean : Warned;
+        output.Write(before);
+        const auto write = [&](std::string_view text) { output.Write(text); };
+        json ? Write_Json(report, write) : Write_Text(report, write);
         return {};
     } catch (const std::bad_alloc&) {
         return "Not enough memory";
     }
 }
 
+/// One file after the other, so that no more than one is in memory.
 int Inspect_All(const std::vector<std::u16string>& files, bool json) {
-    std::vector<FileReport> reports;
-    std::vector<std::string> contents(files.size());  // the reports point into them
-    int status = 0;
-    for (std::size_t i = 0; i < files.size(); ++i) {
-        FileReport report;
-        const std::string reason = Inspect(files[i], contents[i], report);
-        if (!reason.empty()) {
-            Print("bannersmith-inspect: " + To_Utf8(files[i]) + ": " + reason + "\n", stderr);
-            status = 2;
-            continue;
+    StandardOutput output;
+    int status = Clean;
+    const char* before = json ? "[" : "";
+    for (const std::u16string& file : files) {
+        int found = Clean;
+        const std::string reason = Inspect(file, json, before, output, found);
+        if (reason.empty()) {
+            before = json ? ", " : "";
+        } else {
+            found = NotRead;
+            output.Flush();
+            Print("bannersmith-inspect: " + One_Line({file, reason}) + "\n", stderr);
         }
-        if (!report.warnings.empty() && status == 0) status = 1;
-        if (!json) Print(As_Text(report), stdout);
-        reports.push_back(std::move(report));
+        status = std::max(status, found);
     }
-    if (json) Print(As_Json(reports), stdout);
-    return status;
+    if (json) output.Write(*before == '[' ? "[]\n" : "]\n");
+    if (output.Flush()) return status;
+    Print("bannersmith-inspect: standard output: Cannot be written\n", stderr);
+    return Warned;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
     std::vector<std::u16string> files = Arguments(argc, argv);
-    if (files.size() == 1 && files[0] == u"--help") return Print(Usage, stdout), 0;
+    if (files.size() == 1 && files[0] == u"--help") return Print(Usage, stdout) ? 0 : 1;
     if (files.size() == 1 && files[0] == u"--version") {
-        return Print("bannersmith-inspect " BANNERSMITH_VERSION "\n", stdout), 0;
+        return Print("bannersmith-inspect " BANNERSMITH_VERSION "\n", stdout) ? 0 : 1;
     }
     const bool json = std::erase(files, u"--json") > 0;
     if (files.empty()) return Print(Usage, stderr), 2;

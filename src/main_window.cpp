@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <new>
 
+#include "desktop/end_by_signal.h"
 #include "desktop/main_window_view.h"
 #include "desktop/qt_desktop.h"
 #include "desktop/widgets.h"
@@ -58,7 +59,9 @@ class Application : public QApplication {
 int Run_Windows(int argc, char** argv) {
     if (!Display_Is_Named()) return No_Display();
     qInstallMessageHandler(Leave_On_Fatal_Message);
+    EndBySignal end_by_signal;
     const Application application(argc, argv);
+    end_by_signal.Watch();
     QApplication::setApplicationName("Bannersmith");
     QApplication::setDesktopFileName(DesktopFileName);
     QApplication::setWindowIcon(Program_Icon());
@@ -66,13 +69,16 @@ int Run_Windows(int argc, char** argv) {
     Form1 window({Program_Folder(), {}}, desktop);
     MainWindowView view(window);
     const auto status = window.Form_Load();
-    return status ? *status : QApplication::exec();
+    if (status) return *status;
+    const int ended = QApplication::exec();
+    end_by_signal.End_Process();
+    return ended;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
     const std::u16string command_line = Command_Line(argc, argv);
-    if (Answer_About(command_line, "bannersmith-window", Usage)) return 0;
+    if (const auto status = Answer_About(command_line, "bannersmith-window", Usage)) return *status;
     return command_line.empty() ? Run_Windows(argc, argv) : Run_Batch_Mode(command_line);
 }

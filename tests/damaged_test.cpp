@@ -6,6 +6,7 @@
 #include "inspect/report.h"
 #include "inspect/warnings.h"
 #include "layout/file_length.h"
+#include "layout/kind.h"
 #include "layout/mod_globals.h"
 #include "layout/text_box.h"
 #include "mainwindow/region_force.h"
@@ -28,7 +29,7 @@ std::string Edit_And_Save(const std::string& damaged) {
     Region_Force(data, "ITA");
     if (Is_Layout(data)) {
         const LayoutInfo layout = Read_Layout(data);
-        As_Json({{"damaged", layout, Find_Warnings(data, layout)}});
+        Write_Json({"damaged", layout, Find_Warnings(data, layout)}, [](std::string_view) {});
     }
     return data;
 }

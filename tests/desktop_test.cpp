@@ -362,10 +362,10 @@ TEST_F(Widgets, AreCaptionedAsTheyShouldBe) {
     EXPECT_EQ(Captions(*Find<TextEditorView>()), "Entry Name:|Set|Value:");
     for (const auto& [name, bold] :
          {std::pair{"Name", true}, {"System", true}, {"Year", true}, {"Players", true}, {"ESRB Rating", false}}) {
-        const QLineEdit& field = Named<QLineEdit>(*view, name);
-        EXPECT_EQ(field.font().bold(), bold) << name;
-        EXPECT_EQ(field.font().pointSizeF(), 8.25) << name;
-        EXPECT_EQ(field.alignment().testFlag(Qt::AlignHCenter), std::string(name) == "Players");
+        const QLineEdit* field = &Named<QLineEdit>(*view, name);
+        EXPECT_EQ(field->font().bold(), bold) << name;
+        EXPECT_EQ(field->font().pointSizeF(), 8.25) << name;
+        EXPECT_EQ(field->alignment().testFlag(Qt::AlignHCenter), std::string(name) == "Players");
     }
 }
 

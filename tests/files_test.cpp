@@ -7,6 +7,7 @@
 
 #include "platform/controls.h"
 #include "platform/files.h"
+#include "platform/replace_files.h"
 #include "platform/text.h"
 #include "support.h"
 
@@ -94,22 +95,22 @@ TEST(Controls, RaiseTheirEventsInTheCall) {
 TEST(ReplaceFile, MakesAndReplacesFilesWhole) {
     const TempFolder folder;
     const std::u16string file = folder.Text() + u"/f";
-    EXPECT_FALSE(Replace_File(file, std::string(100000, 'a'), Durability::synced));
+    EXPECT_FALSE(Replace_File(file, std::string(100000, 'a')));
     struct stat made {};
     ::stat((folder.Path() / "f").c_str(), &made);
     const mode_t mask = ::umask(0);
     ::umask(mask);
     EXPECT_EQ(made.st_mode & 07777, 0666 & ~mask);
-    EXPECT_FALSE(Replace_File(file, "short", Durability::unsynced));
+    EXPECT_FALSE(Replace_File(file, "short"));
     EXPECT_EQ(folder.Read("f"), "short");
     if (::geteuid() == 0) { EXPECT_EQ(::chown((folder.Path() / "f").c_str(), 65534, 65534), 0); }
     struct stat owned {};
     ::stat((folder.Path() / "f").c_str(), &owned);
     ::chmod((folder.Path() / "f").c_str(), 03640);
-    EXPECT_FALSE(Replace_File(file, "b", Durability::synced));
+    EXPECT_FALSE(Replace_File(file, "b"));
     struct stat info {};
     ::stat((folder.Path() / "f").c_str(), &info);
-    EXPECT_EQ(info.st_mode & 07777, 03640U);
+    EXPECT_EQ(info.st_mode & 07777, 01640U);
     EXPECT_EQ(info.st_uid, owned.st_uid);
     EXPECT_EQ(info.st_gid, owned.st_gid);
     EXPECT_EQ(folder.Names(), std::vector<std::string>{"f"});
@@ -123,7 +124,7 @@ TEST(ReplaceFile, AFailedWriteLeavesTheOldFile) {
     const struct rlimit small { 1000, before.rlim_max };
     const auto handler = ::signal(SIGXFSZ, SIG_IGN);
     ::setrlimit(RLIMIT_FSIZE, &small);
-    const Outcome failure = Replace_File(folder.Text() + u"/f", std::string(5000, 'x'), Durability::synced);
+    const Outcome failure = Replace_File(folder.Text() + u"/f", std::string(5000, 'x'));
     ::setrlimit(RLIMIT_FSIZE, &before);
     ::signal(SIGXFSZ, handler);
     EXPECT_TRUE(failure && failure->reason == "File too large");
@@ -152,7 +153,7 @@ TEST(ReplaceFile, KeepsAttributesAndAccessLists) {
         }
     }
     const auto nothing_lost = [](const Failure& loss) { ADD_FAILURE() << loss.reason; };
-    EXPECT_FALSE(Replace_File(folder.Text() + u"/f", "new", Durability::synced, nothing_lost));
+    EXPECT_FALSE(Replace_File(folder.Text() + u"/f", "new", nothing_lost));
     for (const auto& [name, value] : attributes) {
         std::string found(100, '\0');
         found.resize(static_cast<std::size_t>(std::max<ssize_t>(0, ::getxattr(file.c_str(), name, found.data(), 100))));
@@ -169,7 +170,7 @@ TEST(ReplaceFile, GainsNoAccessListFromItsFolder) {
     if (::setxattr((folder.Path() / "d").c_str(), "system.posix_acl_default", list.data(), list.size(), 0) != 0) {
         GTEST_SKIP() << "no access lists on this file system";
     }
-    EXPECT_FALSE(Replace_File(folder.Text() + u"/d/f", "new", Durability::synced));
+    EXPECT_FALSE(Replace_File(folder.Text() + u"/d/f", "new"));
     EXPECT_LT(::getxattr((folder.Path() / "d/f").c_str(), "system.posix_acl_access", nullptr, 0), 0);
     struct stat info {};
     ::stat((folder.Path() / "d/f").c_str(), &info);
@@ -178,10 +179,10 @@ TEST(ReplaceFile, GainsNoAccessListFromItsFolder) {
 
 TEST(ReplaceFile, TakesNamesUpToTheLimit) {
     const TempFolder folder;
-    EXPECT_FALSE(Replace_File(folder.Text() + u"/" + std::u16string(255, u'n'), "x", Durability::synced));
-    EXPECT_FALSE(Replace_File(folder.Text() + u"/" + std::u16string(255, u'n'), "y", Durability::synced));
+    EXPECT_FALSE(Replace_File(folder.Text() + u"/" + std::u16string(255, u'n'), "x"));
+    EXPECT_FALSE(Replace_File(folder.Text() + u"/" + std::u16string(255, u'n'), "y"));
     EXPECT_EQ(folder.Read(std::string(255, 'n')), "y");
-    EXPECT_TRUE(Replace_File(folder.Text() + u"/" + std::u16string(256, u'n'), "x", Durability::synced));
+    EXPECT_TRUE(Replace_File(folder.Text() + u"/" + std::u16string(256, u'n'), "x"));
     EXPECT_EQ(folder.Names().size(), 1U);
 }
 
@@ -192,15 +193,15 @@ TEST(ReplaceFile, KeepsLinks) {
     fs::create_symlink("one", folder.Path() / "two");
     fs::create_symlink("real/new", folder.Path() / "dangling");
     fs::create_symlink("loop", folder.Path() / "loop");
-    EXPECT_FALSE(Replace_File(folder.Text() + u"/two", "fresh", Durability::synced));
+    EXPECT_FALSE(Replace_File(folder.Text() + u"/two", "fresh"));
     EXPECT_EQ(folder.Read("real/f"), "fresh");
     EXPECT_TRUE(fs::is_symlink(folder.Path() / "two") && fs::is_symlink(folder.Path() / "one"));
-    EXPECT_FALSE(Replace_File(folder.Text() + u"/dangling", "made", Durability::synced));
+    EXPECT_FALSE(Replace_File(folder.Text() + u"/dangling", "made"));
     EXPECT_EQ(folder.Read("real/new"), "made");
     fs::create_symlink(folder.Path() / "real/f", folder.Path() / "real/absolute");
-    EXPECT_FALSE(Replace_File(folder.Text() + u"/real/absolute", "again", Durability::synced));
+    EXPECT_FALSE(Replace_File(folder.Text() + u"/real/absolute", "again"));
     EXPECT_EQ(folder.Read("real/f"), "again");
-    EXPECT_TRUE(Replace_File(folder.Text() + u"/loop", "x", Durability::synced));
+    EXPECT_TRUE(Replace_File(folder.Text() + u"/loop", "x"));
 }
 
 TEST(ReplaceFile, RefusesWhatIsNoOrdinaryFile) {
@@ -210,7 +211,7 @@ TEST(ReplaceFile, RefusesWhatIsNoOrdinaryFile) {
     const auto before = folder.Names();
     std::string bytes = "kept";
     for (const std::u16string name : {u"/dir", u"/pipe", u"/none/f"}) {
-        EXPECT_TRUE(Replace_File(folder.Text() + name, "x", Durability::synced)) << To_Utf8(name);
+        EXPECT_TRUE(Replace_File(folder.Text() + name, "x")) << To_Utf8(name);
         const Outcome failure = Read_File(folder.Text() + name, bytes);
         ASSERT_TRUE(failure);
         EXPECT_EQ(failure->subject, folder.Text() + name);
@@ -249,7 +250,7 @@ TEST(ReplaceFile, RespectsPermissions) {
     {
         const Unprivileged user;
         for (const std::u16string name : {u"/open/readonly", u"/closed/f"}) {
-            const Outcome failure = Replace_File(folder.Text() + name, "x", Durability::synced);
+            const Outcome failure = Replace_File(folder.Text() + name, "x");
             ASSERT_TRUE(failure) << To_Utf8(name);
             EXPECT_EQ(failure->reason, "Permission denied");
         }

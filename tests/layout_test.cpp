@@ -4,6 +4,7 @@
 
 #include "layout/file_length.h"
 #include "layout/numbers.h"
+#include "layout/pieces.h"
 #include "layout/text_box.h"
 #include "plain_rules.h"
 #include "samples/layout_builder.h"
@@ -70,7 +71,8 @@ TEST(SetText, FollowsThePlainRulesOnRandomLayouts) {
         std::vector<std::string> sections;
         for (std::size_t i = pick(7); i-- > 0;) {
             sections.push_back(pick(5) ? any_box() : Section("usd1", "..txt1T_Ye"));
-            if (pick(3) == 0) sections.push_back(sections[pick(sections.size())]);
+            const std::string repeated = sections[pick(sections.size())];
+            for (std::size_t copies = pick(4) ? pick(3) / 2 : 9; copies-- > 0;) sections.push_back(repeated);
         }
         std::string expected = Layout_File(sections);
         const std::string data = expected;
@@ -78,6 +80,13 @@ TEST(SetText, FollowsThePlainRulesOnRandomLayouts) {
         std::vector<std::string> all(std::begin(names), std::end(names));
         for (std::size_t i = pick(6); i-- > 0;) writes.push_back({names[pick(7)], texts[pick(9)]});
         for (const BoxText& write : writes) expected = plain::Set(expected, write.name, write.text);
+        const std::vector<std::string_view> names_at_once(std::begin(names), std::end(names));
+        for (const auto test : {Pieces::Test::exact, Pieces::Test::prefix}) {
+            const auto found = Pieces(data).Find_Records(data, names_at_once, test);
+            for (std::size_t i = 0; i < found.size(); ++i) {
+                ASSERT_EQ(found[i], Pieces(data).Find_Record(data, names[i], test)) << "round " << round;
+            }
+        }
         std::string written = Set_Texts(data, writes);
         ASSERT_EQ(Hex(written), Hex(expected)) << "round " << round;
         for (const std::string& name : all) {

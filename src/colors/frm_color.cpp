@@ -10,6 +10,7 @@
 #include "colors/materials.h"
 #include "colors/scheme_list.h"
 #include "platform/files.h"
+#include "platform/replace_files.h"
 #include "platform/text.h"
 
 namespace {
@@ -121,7 +122,6 @@ void frmColor::cmdSaveScheme_Click() {
         failure = Failure{name, "A scheme's name cannot begin with . or hold \\ or /"};
     } else {
         failure = Replace_File(Scheme_Path(program_folder_, name), Format_Scheme(Colors()),
-                               Durability::synced,
                                [this](const Failure& loss) { desktop_.Report(loss); });
     }
     if (failure) {

@@ -1,7 +1,11 @@
 #include "colors/materials.h"
 
+#include <unordered_map>
+#include <utility>
+
 #include "gameinfo/languages.h"
 #include "layout/mod_globals.h"
+#include "layout/numbers.h"
 #include "platform/text.h"
 
 namespace {
@@ -11,11 +15,15 @@ constexpr std::size_t FirstLowByte = 21;  ///< low byte of the first colour's re
 constexpr std::size_t ColorBytes = 13;    ///< up to the low byte of the second colour's blue
 constexpr std::size_t SecondColor = 8;    ///< counted from the first low byte
 
-/// Where the colour bytes of a material begin; nothing when they are not all inside the data.
-std::optional<std::size_t> Find_Colors(std::string_view data, std::string_view name) {
+std::string Key_Of(std::string_view name) {
     std::string key(name);
     key.resize(NameBytes, '\0');
-    const std::size_t at = data.find(key);
+    return key;
+}
+
+/// Where the colour bytes of a material begin; nothing when they are not all inside the data.
+std::optional<std::size_t> Find_Colors(std::string_view data, std::string_view name) {
+    const std::size_t at = data.find(Key_Of(name));
     if (at == data.npos || data.size() - at < FirstLowByte + ColorBytes) return std::nullopt;
     return at + FirstLowByte;
 }
@@ -25,17 +33,44 @@ Color Color_At(std::string_view data, std::size_t at) {
     return Make_Color(byte(0), byte(2), byte(4));
 }
 
-void Write_Colors(const ElementMaterial& material, const ColorPair& colors) {
-    if (!material.text) {
-        Set_Mat_Colors(BrlytData, To_Utf8(material.name), colors);
-        return;
-    }
+std::vector<std::string> Names_Of(const ElementMaterial& material) {
+    if (!material.text) return {To_Utf8(material.name)};
+    std::vector<std::string> names;
     for (const std::u16string_view code : Languages) {
-        Set_Mat_Colors(BrlytData, To_Utf8(material.name) + To_Utf8(code), colors);
+        names.push_back(To_Utf8(material.name) + To_Utf8(code));
     }
+    return names;
 }
 
 }  // namespace
+
+std::vector<std::string> Written_Materials() {
+    std::vector<std::string> all;
+    for (const ElementMaterial& material : ElementMaterials) {
+        for (std::string& name : Names_Of(material)) all.push_back(std::move(name));
+    }
+    return all;
+}
+
+std::vector<std::optional<std::size_t>> Find_Materials(std::string_view data,
+                                                       std::span<const std::string> names) {
+    std::vector<std::string> keys;
+    std::unordered_map<std::string_view, std::size_t> wanted;
+    std::vector<bool> begins(1 << 16);  // by a name's first two bytes
+    keys.reserve(names.size());
+    for (const std::string& name : names) {
+        keys.push_back(Key_Of(name));
+        wanted.emplace(keys.back(), keys.size() - 1);
+        begins[Read_U16(keys.back(), 0)] = true;
+    }
+    std::vector<std::optional<std::size_t>> places(names.size());
+    for (std::size_t at = 0; at + NameBytes <= data.size(); ++at) {
+        if (!begins[Read_U16(data, at)]) continue;
+        const auto found = wanted.find(data.substr(at, NameBytes));
+        if (found != wanted.end() && !places[found->second]) places[found->second] = at;
+    }
+    return places;
+}
 
 std::string& Set_Mat_Colors(std::string& data, std::string_view name, const ColorPair& colors) {
     const auto at = Find_Colors(data, name);
@@ -59,6 +94,10 @@ bool Get_Mat_Colors(std::string_view data, std::string_view name, ColorPair& col
 Outcome Apply_Color_Scheme(std::u16string_view program_folder, std::u16string_view name) {
     Scheme scheme;
     if (auto failure = Load_Scheme(program_folder, name, scheme)) return failure;
-    for (std::size_t i = 0; i < scheme.size(); ++i) Write_Colors(ElementMaterials[i], scheme[i]);
+    for (std::size_t i = 0; i < scheme.size(); ++i) {
+        for (const std::string& material : Names_Of(ElementMaterials[i])) {
+            Set_Mat_Colors(BrlytData, material, scheme[i]);
+        }
+    }
     return std::nullopt;
 }

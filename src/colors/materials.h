@@ -5,8 +5,10 @@
 
 #include <array>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "colors/scheme.h"
 #include "gameinfo/boxes.h"
@@ -41,6 +43,15 @@ inline constexpr std::array<ElementMaterial, ElementCount> ElementMaterials = {{
     {u"BackMask1"},
     {u"BackMask2"},
 }};
+
+/// The names of all materials whose colours a scheme can write: those of `ElementMaterials`, a
+/// text's for each language. ASCII, fewer than 20 bytes.
+std::vector<std::string> Written_Materials();
+
+/// For each of `names` the first place in `data` where the name, filled up with zero bytes to 20,
+/// occurs, which is where its colours are written; in one pass over the data.
+std::vector<std::optional<std::size_t>> Find_Materials(std::string_view data,
+                                                       std::span<const std::string> names);
 
 /// Writes the first two colours of the material called `name`, at most 20 bytes of ASCII, into
 /// `data` and returns a reference to it. The material is the first place where the name, filled up

@@ -55,7 +55,19 @@ std::u16string Scheme_Folder(std::u16string_view program_folder) {
 }
 
 std::u16string Scheme_Path(std::u16string_view program_folder, std::u16string_view name) {
-    return Scheme_Folder(program_folder).append(name) + u".vccs";
+    const std::u16string folder = Scheme_Folder(program_folder);
+    const std::u16string path = folder + std::u16string(name) + From_Utf8(SchemeEnding);
+    if (Ordinary_File_Exists(path)) return path;
+    std::vector<std::u16string> files;
+    static_cast<void>(List_Files(folder, SchemeEnding, files));  // none: the path says it
+    for (const std::u16string& file : files) {
+        if (Without_Ending(file) == name) return folder + file;
+    }
+    return path;
+}
+
+std::u16string_view Without_Ending(std::u16string_view file) {
+    return file.substr(0, file.size() - SchemeEnding.size());
 }
 
 std::string Format_Scheme(const Scheme& scheme) {

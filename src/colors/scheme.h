@@ -49,8 +49,12 @@ inline constexpr std::string_view SchemeEnding = ".vccs";
 /// The folder of the scheme files, with a separator at its end.
 std::u16string Scheme_Folder(std::u16string_view program_folder);
 
-/// The file of the scheme called `name`.
+/// The file of the scheme called `name`, which may be there already under an ending in other
+/// letters than `SchemeEnding`.
 std::u16string Scheme_Path(std::u16string_view program_folder, std::u16string_view name);
+
+/// The name of the scheme in a file whose name has the ending.
+std::u16string_view Without_Ending(std::u16string_view file);
 
 /// The contents of a scheme file: 19 lines ended by CR LF, each with red, green and blue of the
 /// first and of the second colour, each number between two blanks.

@@ -18,19 +18,20 @@ void Bind(QLineEdit& edit, TextBox& box) {
                      [&box](const QString& text) { box.Set(Taken(text)); });
 }
 
-/// A list changes by being emptied or by an entry at its end, so the entries that the widget has
-/// are right as long as it has no more than the list.
-void Bind(QComboBox& combo, DropDownList& list) {
-    list.Shown = [&combo, &list] {
-        const QSignalBlocker quiet(combo);
-        if (combo.count() > list.Count()) combo.clear();
-        for (int i = combo.count(); i < list.Count(); ++i) {
-            combo.addItem(Shown(list.Entries()[static_cast<std::size_t>(i)]));
+/// A list changes by being emptied or by entries at its end, so the widget's are right as long as
+/// there are as many.
+void Bind(ListBox& box, DropDownList& list) {
+    list.Shown = [&box, &list] {
+        const QSignalBlocker quiet(box);
+        if (box.count() != list.Count()) {
+            QStringList entries;
+            for (const std::u16string& entry : list.Entries()) entries << Shown(entry);
+            box.Show_Entries(entries);
         }
-        combo.setCurrentIndex(list.Index());
+        box.setCurrentIndex(list.Index());
     };
     list.Shown.Raise();
-    QObject::connect(&combo, &QComboBox::activated, [&list](int index) { list.Pick(index); });
+    QObject::connect(&box, &QComboBox::activated, [&list](int index) { list.Pick(index); });
 }
 
 void Bind(QLabel& shown, Label& label) {

@@ -4,13 +4,13 @@
 // A widget must live as long as its control is used, and the other way round.
 #pragma once
 
-#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 
+#include "desktop/widgets.h"
 #include "platform/controls.h"
 
 /// Each shows the control now and from here on, and passes on what a person does.
 void Bind(QLineEdit& edit, TextBox& box);
-void Bind(QComboBox& combo, DropDownList& list);
+void Bind(ListBox& box, DropDownList& list);
 void Bind(QLabel& shown, Label& label);

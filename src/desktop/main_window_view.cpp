@@ -1,6 +1,7 @@
 #include "desktop/main_window_view.h"
 
 #include <QCloseEvent>
+#include <QDir>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -233,7 +234,8 @@ void MainWindowView::dragEnterEvent(QDragEnterEvent* event) {
 
 void MainWindowView::dropEvent(QDropEvent* event) {
     Take_As_Copy(*event);
-    dropped_file_ = Taken(event->mimeData()->urls().value(0).toLocalFile());
+    const QString file = event->mimeData()->urls().value(0).toLocalFile();
+    dropped_file_ = Taken(QDir::toNativeSeparators(file));
     drag_ended_.start(0);
 }
 

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QColorDialog>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontMetricsF>
@@ -49,8 +50,9 @@ bool QtDesktop::Confirm(const std::u16string& question) {
 
 void QtDesktop::Report(const Failure& failure) {
     NoDesktop().Report(failure);
-    Show_Box(QMessageBox::Critical,
-             Shown(failure.subject) + "\n\n" + QString::fromStdString(failure.reason));
+    const std::string text =
+        Readable(failure.subject) + "\n\n" + Readable(From_Utf8(failure.reason));
+    Show_Box(QMessageBox::Critical, QString::fromStdString(text));
 }
 
 std::u16string QtDesktop::Open_File(const std::u16string& filter, const std::u16string& last) {
@@ -61,7 +63,7 @@ std::u16string QtDesktop::Open_File(const std::u16string& filter, const std::u16
     dialog.setOption(QFileDialog::HideNameFilterDetails);
     if (folder.isDir()) dialog.setDirectory(folder.filePath());
     if (dialog.exec() != QDialog::Accepted) return {};
-    return Taken(dialog.selectedFiles().value(0));
+    return Taken(QDir::toNativeSeparators(dialog.selectedFiles().value(0)));
 }
 
 std::u16string QtDesktop::Ask(const std::u16string& prompt, const std::u16string& title) {

@@ -13,6 +13,8 @@ TextEditorView::TextEditorView(frmHC& editor, std::function<void()> closed, QWid
     setWindowTitle("\"Hardcore\" Manual Text Editor");
     auto* names = new ListBox;
     names->setMinimumWidth(145);
+    // The width is not that of the longest name, of which a damaged file can have millions.
+    names->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     names->setToolTip("The text boxes of the layout, in the order of the file");
     auto* value = new QLineEdit;
     value->setMinimumWidth(193);

@@ -46,6 +46,7 @@ void ColorButton::paintEvent(QPaintEvent* /*event*/) {
 /// Nor does the wheel take the focus along, which would let the next letter choose an entry.
 ListBox::ListBox() {
     setFocusPolicy(Qt::StrongFocus);
+    setModel(&entries_);
 }
 
 void ListBox::wheelEvent(QWheelEvent* event) {

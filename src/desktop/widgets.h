@@ -7,6 +7,7 @@
 #include <QIcon>
 #include <QLabel>
 #include <QPushButton>
+#include <QStringListModel>
 #include <QWidget>
 #include <functional>
 
@@ -43,8 +44,14 @@ class ListBox : public QComboBox {
  public:
     ListBox();
 
+    /// Shows other entries in place of those before, all in one step, and selects none.
+    void Show_Entries(const QStringList& entries) { entries_.setStringList(entries); }
+
  protected:
     void wheelEvent(QWheelEvent* event) override;
+
+ private:
+    QStringListModel entries_;
 };
 
 /// A label whose text ends in "..." where it does not fit; the tooltip has all of it.

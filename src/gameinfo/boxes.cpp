@@ -11,14 +11,16 @@ std::u16string Read_Box(std::u16string_view name) {
     return bytes ? Get_Text(BrlytData, *bytes) : std::u16string();
 }
 
+// A copy is changed, so that a lack of memory on the way leaves the layout as it was.
+
 void Write_Boxes(const std::vector<NamedText>& texts) {
     std::vector<BoxText> boxes;
     for (const NamedText& named : texts) {
         if (auto bytes = To_Bytes(named.name)) boxes.push_back({std::move(*bytes), named.text});
     }
-    BrlytData = Set_Texts(std::move(BrlytData), boxes);
+    BrlytData = Set_Texts(BrlytData, boxes);
 }
 
 void Write_Box(std::u16string_view name, std::u16string_view text) {
-    if (const auto bytes = To_Bytes(name)) BrlytData = Set_Text(std::move(BrlytData), *bytes, text);
+    if (const auto bytes = To_Bytes(name)) BrlytData = Set_Text(BrlytData, *bytes, text);
 }

@@ -1,7 +1,7 @@
 #include "inspect/report.h"
 
 #include <algorithm>
-#include <cstdio>
+#include <utility>
 
 #include "platform/text.h"
 
@@ -35,9 +35,8 @@ std::string Quoted(std::u16string_view text) {
         } else if (unit >= 0x20 && unit < 0x7F) {
             quoted += static_cast<char>(unit);
         } else {
-            char escape[8];
-            std::snprintf(escape, sizeof escape, "\\u%04x", static_cast<unsigned>(unit));
-            quoted += escape;
+            const auto digit = [&](int shift) { return "0123456789abcdef"[unit >> shift & 0xF]; };
+            quoted.append({'\\', 'u', digit(12), digit(8), digit(4), digit(0)});
         }
     }
     return quoted + '"';
@@ -57,6 +56,15 @@ std::string Array(const Items& items, ToJson to_json) {
     std::string array;
     for (const auto& item : items) array += (array.empty() ? "" : ", ") + to_json(item);
     return "[" + array + "]";
+}
+
+/// An array item by item, as the member of an object behind others.
+template <typename Items, typename ToJson>
+void Write_Array(const char* key, const Items& items, ToJson to_json, const Output& output) {
+    output(", " + Member(key, "["));
+    const char* between = "";
+    for (const auto& item : items) output(std::exchange(between, ", ") + to_json(item));
+    output("]");
 }
 
 std::string Color_Json(const std::array<std::int16_t, 4>& color) {
@@ -84,42 +92,47 @@ std::string Group_Json(const GroupInfo& group) {
            Member("members", Array(group.members, Quoted_Name)) + "}";
 }
 
-std::string Report_Json(const FileReport& report) {
-    const LayoutInfo& info = report.info;
-    return "{" + Member("file", Quoted(report.file)) + ", " +
-           Member("file_size", std::to_string(info.file_size)) + ", " +
-           Member("header_length", std::to_string(info.header_length)) + ", " +
-           Member("text_boxes", Array(info.boxes, Box_Json)) + ", " +
-           Member("materials", Array(info.materials, Material_Json)) + ", " +
-           Member("groups", Array(info.groups, Group_Json)) + ", " +
-           Member("warnings", Array(report.warnings, Quoted_Name)) + "}";
+std::string Warning_Json(const Warning& warning) {
+    return Quoted(warning.text);
+}
+
+/// A name of the layout, or a path, as a terminal can show it.
+std::string Shown(const std::string& name) {
+    return Printable(From_Utf8(name));
 }
 
 }  // namespace
 
-std::string As_Text(const FileReport& report) {
+void Write_Text(const FileReport& report, const Output& output) {
     const LayoutInfo& info = report.info;
-    std::string text = report.file + "\n  header length " + std::to_string(info.header_length) +
-                       ", file size " + std::to_string(info.file_size) + "\n";
+    output(Shown(report.file) + "\n  header length " + std::to_string(info.header_length) +
+           ", file size " + std::to_string(info.file_size) + "\n");
     for (const TextBoxInfo& box : info.boxes) {
-        text += "  text     " + Filled_Up(box.name, 16) + " buffer " +
-                Number(box.buffer_length, 5) + " length " + Number(box.text_length, 5) + "  " +
-                To_Utf8(box.text) + "\n";
+        output("  text     " + Filled_Up(Shown(box.name), 16) + " buffer " +
+               Number(box.buffer_length, 5) + " length " + Number(box.text_length, 5) + "  " +
+               Printable(box.text) + "\n");
     }
     for (const MaterialInfo& material : info.materials) {
-        text += "  material " + Filled_Up(material.name, 16) + Color_Text(material.first) + "  " +
-                Color_Text(material.second) + "\n";
+        output("  material " + Filled_Up(Shown(material.name), 16) + Color_Text(material.first) +
+               "  " + Color_Text(material.second) + "\n");
     }
     for (const GroupInfo& group : info.groups) {
-        text += "  group    ";
-        text += group.members.empty() ? group.name : Filled_Up(group.name, 16);
-        for (const std::string& member : group.members) text += " " + member;
-        text += "\n";
+        const std::string name = Shown(group.name);
+        std::string line = "  group    " + (group.members.empty() ? name : Filled_Up(name, 16));
+        for (const std::string& member : group.members) line += " " + Shown(member);
+        output(line + "\n");
     }
-    for (const std::string& warning : report.warnings) text += "  warning: " + warning + "\n";
-    return text;
+    for (const Warning& warning : report.warnings) output("  warning: " + warning.text + "\n");
 }
 
-std::string As_Json(const std::vector<FileReport>& reports) {
-    return Array(reports, Report_Json) + "\n";
+void Write_Json(const FileReport& report, const Output& output) {
+    const LayoutInfo& info = report.info;
+    output("{" + Member("file", Quoted(report.file)) + ", " +
+           Member("file_size", std::to_string(info.file_size)) + ", " +
+           Member("header_length", std::to_string(info.header_length)));
+    Write_Array("text_boxes", info.boxes, Box_Json, output);
+    Write_Array("materials", info.materials, Material_Json, output);
+    Write_Array("groups", info.groups, Group_Json, output);
+    Write_Array("warnings", report.warnings, Warning_Json, output);
+    output("}");
 }

@@ -1,20 +1,26 @@
 #pragma once
 
+#include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "inspect/sections.h"
+#include "inspect/warnings.h"
 
 /// What the inspect tool says about one file.
 struct FileReport {
     std::string file;  ///< as the user named it, in UTF-8
     LayoutInfo info;
-    std::vector<std::string> warnings;
+    std::vector<Warning> warnings;
 };
 
-/// The report as text for a person, ending in a line end.
-std::string As_Text(const FileReport& report);
+/// Takes the next piece of a report, which can be long.
+using Output = std::function<void(std::string_view text)>;
 
-/// The reports as one JSON array, in ASCII, ending in a line end. A lone surrogate of a text stays
-/// what it is as a \u escape.
-std::string As_Json(const std::vector<FileReport>& reports);
+/// Writes the report as text for a person, ending in a line end. Control characters are escaped.
+void Write_Text(const FileReport& report, const Output& output);
+
+/// Writes the report as one JSON object, in ASCII. A lone surrogate of a text stays what it is as a
+/// \u escape.
+void Write_Json(const FileReport& report, const Output& output);

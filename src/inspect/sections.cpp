@@ -1,6 +1,7 @@
 #include "inspect/sections.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "layout/numbers.h"
 #include "layout/record.h"
@@ -10,19 +11,11 @@ namespace {
 
 constexpr std::size_t SectionHeader = 8, GroupNames = 28, NameWidth = 16;
 constexpr std::size_t MaterialName = 20, MaterialColors = 16, MaterialList = 12;
+constexpr std::size_t SmallestMaterial = 0x40;
 constexpr std::size_t TextOffsetField = 0x58;
 
 std::string Zero_Ended(std::string_view bytes) {
     return std::string(bytes.substr(0, bytes.find('\0')));
-}
-
-std::string Hex(std::size_t number) {
-    std::string digits;
-    do {
-        digits.insert(digits.begin(), "0123456789ABCDEF"[number % 16]);
-        number /= 16;
-    } while (number > 0);
-    return "0x" + digits;
 }
 
 std::u16string Shown_Text(std::string_view bytes) {
@@ -31,14 +24,22 @@ std::u16string Shown_Text(std::string_view bytes) {
     return Decode_Text(bytes.substr(0, end));
 }
 
+/// A damaged file can have one for every few bytes, of which nobody reads all.
+void Add_Fault(LayoutInfo& info, std::string fault) {
+    constexpr std::size_t MostFaults = 1000;
+    if (info.faults.size() <= MostFaults) info.faults.push_back(std::move(fault));
+}
+
 void Read_Text_Box(const ChainSection& section, LayoutInfo& info) {
+    if (section.bytes.size() < record::FieldsEnd) {
+        Add_Fault(info, "text box at " + Hex(section.offset) + ": no room for its fields");
+        return;
+    }
     TextBoxInfo box;
     box.offset = section.offset;
     box.record = section.bytes;
     box.section_size = Read_U32(section.bytes, record::SectionSize);
-    if (box.record.size() > record::Name) {
-        box.name = Zero_Ended(box.record.substr(record::Name, NameWidth));
-    }
+    box.name = Zero_Ended(box.record.substr(record::Name, NameWidth));
     if (box.record.size() >= TextOffsetField + 4) {
         box.buffer_length = Read_U16(box.record, record::BufferLength);
         box.text_length = Read_U16(box.record, record::TextLength);
@@ -55,9 +56,10 @@ void Read_Materials(const ChainSection& section, LayoutInfo& info) {
     for (std::size_t i = 0; i < count; ++i) {
         const std::size_t entry = MaterialList + 4 * i;
         const std::size_t at = entry + 4 <= bytes.size() ? Read_U32(bytes, entry) : bytes.size();
-        if (at > bytes.size() || bytes.size() - at < MaterialName + MaterialColors) {
+        const bool outside = at > bytes.size() || bytes.size() - at < MaterialName + MaterialColors;
+        if (outside || i * SmallestMaterial > bytes.size()) {
             // The rest of a list that is no list says nothing more, and can be long.
-            info.faults.push_back("material " + std::to_string(i) + " lies outside its section");
+            Add_Fault(info, "material " + std::to_string(i) + " lies outside its section");
             return;
         }
         MaterialInfo material{
@@ -91,6 +93,15 @@ void Read_Section(const ChainSection& section, LayoutInfo& info) {
 
 }  // namespace
 
+std::string Hex(std::size_t number) {
+    std::string digits;
+    do {
+        digits.insert(digits.begin(), "0123456789ABCDEF"[number % 16]);
+        number /= 16;
+    } while (number > 0);
+    return "0x" + digits;
+}
+
 LayoutInfo Read_Layout(std::string_view data) {
     LayoutInfo info;
     info.file_size = data.size();
@@ -101,12 +112,12 @@ LayoutInfo Read_Layout(std::string_view data) {
         const std::size_t size = Read_U32(layout, at + 4);
         const ChainSection section{at, layout.substr(at, 4), layout.substr(at, size)};
         if (size < SectionHeader) {
-            info.faults.push_back("section at " + Hex(at) + " has size " + std::to_string(size));
+            Add_Fault(info, "section at " + Hex(at) + " has size " + std::to_string(size));
             return info;
         }
         Read_Section(section, info);
         at += size;
     }
-    if (at != layout.size()) info.faults.push_back("the last section does not end with the layout");
+    if (at != layout.size()) Add_Fault(info, "the last section does not end with the layout");
     return info;
 }

@@ -40,7 +40,8 @@ struct GroupInfo {
     std::vector<std::string> members;  ///< the panes' names
 };
 
-/// What a layout file holds, in file order. The records of its text boxes point into the data.
+/// What a layout file holds, in file order, as far as it is sound. The records of its text boxes
+/// point into the data.
 struct LayoutInfo {
     std::size_t file_size = 0;      ///< bytes of the file
     std::size_t header_length = 0;  ///< bytes of the layout as its header says, offset 8
@@ -49,6 +50,9 @@ struct LayoutInfo {
     std::vector<GroupInfo> groups;
     std::vector<std::string> faults;  ///< what is wrong with the chain itself
 };
+
+/// "0x" and the number's digits, as the faults name places.
+std::string Hex(std::size_t number);
 
 /// Follows the chain of `data`, for which `Is_Layout` holds, as far as it goes.
 LayoutInfo Read_Layout(std::string_view data);

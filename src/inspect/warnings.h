@@ -1,11 +1,23 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "inspect/sections.h"
 
-/// One line for each thing about the layout that an edit would not rewrite cleanly, in file order;
-/// empty for a layout that is safe to edit.
-std::vector<std::string> Find_Warnings(std::string_view data, const LayoutInfo& info);
+/// Something about a layout that an edit would not rewrite cleanly.
+struct Warning {
+    std::string text;                     ///< a line of UTF-8 that can be shown
+    std::optional<std::size_t> box = {};  ///< the text box that it is about, by its index
+};
+
+/// What is to be known before the layout `data` is edited, `info` being what it holds: first of the
+/// file as a whole, then of colours, then of text boxes in file order. Empty for a layout that is
+/// safe to edit. What a damaged file has thousands of is told a thousand times.
+std::vector<Warning> Find_Warnings(std::string_view data, const LayoutInfo& info);
+
+/// Those of them that concern an edit that writes colours, and those of one that writes texts.
+std::vector<Warning> Find_Color_Warnings(std::string_view data, const LayoutInfo& info);
+std::vector<Warning> Find_Text_Warnings(std::string_view data, const LayoutInfo& info);

@@ -31,11 +31,6 @@ std::size_t Find_Last(std::string_view data, std::string_view wanted) {
 
 }  // namespace
 
-bool Is_Layout(std::string_view data) {
-    constexpr std::size_t WholeHeader = 16;
-    return data.size() >= WholeHeader && data.starts_with("RLYT");
-}
-
 std::string Set_File_Len(std::string tmpFile) {
     if (tmpFile.size() < HeaderBytes) return tmpFile;
     Write_U32(tmpFile, FileLengthOffset, static_cast<std::uint32_t>(tmpFile.size()));

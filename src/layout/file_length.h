@@ -9,9 +9,6 @@
 /// Bytes 0 to 11 of a layout: up to and including the file length. Shorter data cannot hold it.
 inline constexpr std::size_t HeaderBytes = 12;
 
-/// Whether `data` begins as a layout file does: with a whole header (16 bytes), "RLYT" first.
-bool Is_Layout(std::string_view data);
-
 /// `tmpFile` with its own length in bytes written at offset 8 (four bytes, big-endian). Data too
 /// short to hold that field is returned unchanged.
 std::string Set_File_Len(std::string tmpFile);

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cstring>
+#include <map>
+#include <unordered_map>
 
 #include "layout/record.h"
 
@@ -23,6 +25,80 @@ bool Passes(std::string_view piece, std::string_view wanted) {
     if (wanted.empty()) return true;
     return piece.size() >= NameInPiece + wanted.size() &&
            std::memcmp(piece.data() + NameInPiece, wanted.data(), wanted.size()) == 0;
+}
+
+/// Texts that are looked for all at once, each by a number; equal texts share one.
+class Wanted {
+ public:
+    /// The text's number, counted from 0. It must outlive the object.
+    std::size_t Add(std::string_view text) {
+        const auto [place, added] = by_length_[text.size()].try_emplace(text, count_);
+        if (added) ++count_;
+        return place->second;
+    }
+
+    bool Is_Empty() const { return by_length_.empty(); }
+
+    /// Takes the texts with which `data` begins out, and calls `found` with the number of each.
+    template <typename Found>
+    void Take_Beginnings(std::string_view data, Found found) {
+        for (auto same = by_length_.begin(); same != by_length_.end();) {
+            auto& [length, texts] = *same;
+            if (length > data.size()) return;
+            const auto text = texts.find(data.substr(0, length));
+            if (text != texts.end()) {
+                found(text->second);
+                texts.erase(text);
+            }
+            same = texts.empty() ? by_length_.erase(same) : std::next(same);
+        }
+    }
+
+ private:
+    std::map<std::size_t, std::unordered_map<std::string_view, std::size_t>> by_length_;
+    std::size_t count_ = 0;
+};
+
+/// Tells for one tag of a text after the other how many bytes of `record` stand there. Looks at no
+/// byte of the text twice, as a record may repeat itself over and over.
+class Matcher {
+ public:
+    /// `repeats`: for each tag of `record` how many bytes of the record stand there again; may be
+    /// filled while the record itself is the text.
+    Matcher(std::string_view text, std::string_view record, const std::vector<std::size_t>& repeats)
+        : text_(text), record_(record), repeats_(repeats) {}
+
+    /// For tag number `n` of the text, which is at `tag`. To be called in the tags' order.
+    std::size_t At(std::size_t n, std::size_t tag) {
+        std::size_t known = 0;
+        if (tag + record::Tag.size() <= reach_) {  // it is a tag of the record as well
+            known = std::min(repeats_[n - first_], reach_ - tag);
+            if (known < reach_ - tag) return known;
+        }
+        const std::string_view there = text_.substr(tag + known);
+        const std::string_view wanted = record_.substr(known, there.size());
+        const auto end = std::mismatch(wanted.begin(), wanted.end(), there.begin()).first;
+        const std::size_t length = known + static_cast<std::size_t>(end - wanted.begin());
+        if (tag + length > reach_) {
+            first_ = n;
+            reach_ = tag + length;
+        }
+        return length;
+    }
+
+ private:
+    std::string_view text_, record_;
+    const std::vector<std::size_t>& repeats_;
+    std::size_t first_ = 0, reach_ = 0;  // the tag from which most of the text is known, its end
+};
+
+std::vector<std::size_t> Repeats(std::string_view record) {
+    const std::vector<std::size_t> tags = Find_Tags(record);
+    std::vector<std::size_t> repeats = {record.size()};
+    repeats.reserve(tags.size());
+    Matcher matcher(record, record, repeats);
+    for (std::size_t n = 1; n < tags.size(); ++n) repeats.push_back(matcher.At(n, tags[n]));
+    return repeats;
 }
 
 /// Moves what lies between the places together and puts `fresh`, no longer than the old stretch,
@@ -63,12 +139,16 @@ Pieces::Pieces(std::string_view data) : tags_(Find_Tags(data)) {}
 
 std::vector<std::string_view> Pieces::Behind_Tags(std::string_view data) const {
     std::vector<std::string_view> pieces;
-    for (std::size_t k = 0; k < tags_.size(); ++k) {
-        const std::size_t end = k + 1 < tags_.size() ? tags_[k + 1] : data.size();
-        const std::size_t start = tags_[k] + record::Tag.size();
-        pieces.push_back(data.substr(start, end - start));
-    }
+    pieces.reserve(tags_.size());
+    for (std::size_t k = 1; k <= tags_.size(); ++k) pieces.push_back(Piece(data, k));
     return pieces;
+}
+
+/// Piece 0 stands in front of the first tag.
+std::string_view Pieces::Piece(std::string_view data, std::size_t index) const {
+    const std::size_t start = index == 0 ? 0 : tags_[index - 1] + record::Tag.size();
+    const std::size_t end = index < tags_.size() ? tags_[index] : data.size();
+    return data.substr(start, end - start);
 }
 
 std::optional<std::size_t> Pieces::Find_Record(std::string_view data, std::string_view name,
@@ -76,20 +156,52 @@ std::optional<std::size_t> Pieces::Find_Record(std::string_view data, std::strin
     std::string wanted(name);
     if (test == Test::exact) wanted.append(2, '\0');
 
-    std::size_t end = data.size();
     for (std::size_t k = tags_.size() + 1; k-- > 0;) {
-        const std::size_t start = k == 0 ? 0 : tags_[k - 1] + record::Tag.size();
-        const std::string_view piece = data.substr(start, end - start);
-        if (Passes(piece, wanted)) {
-            const std::string_view key = piece.substr(0, NameInPiece + name.size());
-            const auto tag = std::find_if(tags_.begin(), tags_.end(), [&](std::size_t at) {
-                return data.substr(at + record::Tag.size()).starts_with(key);
-            });
-            return tag == tags_.end() ? std::nullopt : std::optional(*tag);
-        }
-        end = k == 0 ? 0 : tags_[k - 1];
+        const std::string_view piece = Piece(data, k);
+        if (!Passes(piece, wanted)) continue;
+        const std::string_view key = piece.substr(0, NameInPiece + name.size());
+        const auto tag = std::find_if(tags_.begin(), tags_.end(), [&](std::size_t at) {
+            return data.substr(at + record::Tag.size()).starts_with(key);
+        });
+        return tag == tags_.end() ? std::nullopt : std::optional(*tag);
     }
     return std::nullopt;
+}
+
+std::vector<std::optional<std::size_t>> Pieces::Find_Records(
+    std::string_view data, std::span<const std::string_view> names, Test test) const {
+    std::vector<std::string> texts;
+    for (const std::string_view name : names) {
+        texts.emplace_back(name).append(test == Test::exact ? 2 : 0, '\0');
+    }
+    Wanted wanted;
+    std::vector<std::size_t> numbers;
+    for (const std::string& text : texts) numbers.push_back(wanted.Add(text));
+
+    std::vector<std::optional<std::string_view>> taken(names.size());
+    for (std::size_t k = tags_.size() + 1; k-- > 0 && !wanted.Is_Empty();) {
+        const std::string_view piece = Piece(data, k);
+        const std::string_view name = piece.substr(std::min(NameInPiece, piece.size()));
+        wanted.Take_Beginnings(name, [&](std::size_t number) { taken[number] = piece; });
+    }
+
+    Wanted keys;
+    std::vector<std::optional<std::size_t>> key_numbers(names.size());
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        const auto& piece = taken[numbers[i]];
+        if (piece) key_numbers[i] = keys.Add(piece->substr(0, NameInPiece + names[i].size()));
+    }
+    std::vector<std::optional<std::size_t>> found(names.size());
+    for (const std::size_t tag : tags_) {
+        if (keys.Is_Empty()) break;
+        keys.Take_Beginnings(data.substr(tag + record::Tag.size()),
+                             [&](std::size_t number) { found[number] = tag; });
+    }
+    std::vector<std::optional<std::size_t>> records;
+    for (const auto& number : key_numbers) {
+        records.push_back(number ? found[*number] : std::nullopt);
+    }
+    return records;
 }
 
 void Pieces::Replace(std::string& data, std::string_view old, std::string_view fresh) {
@@ -103,10 +215,13 @@ void Pieces::Replace(std::string& data, std::string_view old, std::string_view f
 }
 
 std::vector<std::size_t> Pieces::Occurrences(std::string_view data, std::string_view record) const {
+    const std::vector<std::size_t> repeats = Repeats(record);
+    Matcher matcher(data, record, repeats);
     std::vector<std::size_t> places;
-    for (const std::size_t tag : tags_) {
-        const bool free = places.empty() || tag >= places.back() + record.size();
-        if (free && data.substr(tag).starts_with(record)) places.push_back(tag);
+    for (std::size_t n = 0; n < tags_.size(); ++n) {
+        const bool free = places.empty() || tags_[n] >= places.back() + record.size();
+        const bool there = matcher.At(n, tags_[n]) == record.size();
+        if (free && there) places.push_back(tags_[n]);
     }
     return places;
 }

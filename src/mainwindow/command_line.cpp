@@ -55,17 +55,15 @@ struct Form1::PrefixedOption {
     void (*apply)(std::u16string_view word, std::u16string& value);
 };
 
-int Form1::Run_Batch() {
+/// `configured`: the path of the layout that is edited when the command line names none.
+int Form1::Run_Batch(const std::u16string& configured) {
     try {
-        ParseClo();
+        Take_Configured_Path(configured);
+        if (status_ == Done) ParseClo();
     } catch (const std::bad_alloc&) {
         Fail(Failed, {txtSrc.Text(), "Not enough memory"});
     }
-    if (status_ == Done) {
-        cmdSave_Click();
-    } else {
-        Put_Textures_Back();
-    }
+    if (status_ == Done) cmdSave_Click();
     return status_;
 }
 
@@ -79,17 +77,51 @@ void Form1::ParseClo() {
     }
 }
 
+/// Loaded also where the command line names another file, but then not held for a save.
+void Form1::Take_Configured_Path(const std::u16string& path) {
+    const std::u16string named = Typed_Path(Piece_Of(process_.command_line, u'-', 0));
+    const bool edited = named.empty() || named == path;
+    if (edited && !Hold_Folder_Of(Resolve(process_.program_folder, path))) return;
+    txtSrc.Set(path);
+}
+
+/// Until the end of the run no other one changes the layout, so neither loses what the other wrote.
+bool Form1::Hold_Folder_Of(const std::u16string& layout) {
+    if (!Ordinary_File_Exists(layout)) return true;
+    const auto failure = lock_.Take(layout);
+    if (failure) Fail(Failed, *failure);
+    return !failure;
+}
+
+std::u16string Form1::Typed_Path(std::u16string_view text) const {
+    std::u16string path(Trim(text));
+    if (path.empty() || Is_Full_Path(path)) return path;
+    return process_.program_folder + (path.starts_with(u'\\') ? u"" : u"\\") + path;
+}
+
 void Form1::Take_Layout_Path(std::u16string_view piece) {
-    std::u16string path(Trim(piece));
+    const std::u16string path = Typed_Path(piece);
     if (!path.empty()) {
-        if (!Is_Full_Path(path)) {
-            if (!path.starts_with(u'\\')) path.insert(0, u"\\");
-            path.insert(0, process_.program_folder);
-        }
+        Tell_Of_Cut_Path(piece.size());
+        if (path != txtSrc.Text() && !Hold_Folder_Of(path)) return;
         BrlytPath = path;
         txtSrc.Set(path);
     }
     if (BrlytData.size() < HeaderBytes) Fail(NoLayout, Why_No_Layout());
+}
+
+/// A path that was cut at a hyphen inside a name may name another file than was meant. Where the
+/// whole name is one of a file, that is told; the name goes on to an option or to the end.
+void Form1::Tell_Of_Cut_Path(std::size_t hyphen) {
+    const std::u16string_view text = process_.command_line;
+    if (hyphen >= text.size() || text[hyphen - 1] == u' ') return;
+    for (std::size_t end = hyphen; end != text.npos;) {
+        end = text.find(u" -", end + 1);
+        const std::u16string whole = Typed_Path(text.substr(0, end));
+        if (!Ordinary_File_Exists(whole)) continue;
+        desktop_.Report({whole, "Is not edited, because a hyphen ends the path on a command line"});
+        return;
+    }
 }
 
 void Form1::Take_Option(std::u16string_view piece) {
@@ -149,6 +181,7 @@ void Form1::Option_Force(std::u16string_view value) {
 void Form1::Option_Color(std::u16string_view value) {
     const auto failure = Apply_Color_Scheme(process_.program_folder, value);
     if (failure) Fail(Failed, *failure);
+    colors_applied_ = true;
 }
 
 void Form1::Option_Title(std::u16string_view value) {

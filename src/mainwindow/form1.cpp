@@ -5,6 +5,7 @@
 
 #include "colors/scheme_list.h"
 #include "gameinfo/languages.h"
+#include "layout/kind.h"
 #include "layout/mod_globals.h"
 #include "platform/files.h"
 #include "platform/text.h"
@@ -29,9 +30,8 @@ std::optional<int> Form1::Form_Load() {
         desktop_.Report(*failure);
         return Failed;
     }
-    if (!line.empty()) txtSrc.Set(line);
-
-    if (!Has_Window()) return Run_Batch();
+    if (!Has_Window()) return Run_Batch(line);
+    txtSrc.Set(line);
     form.Show();
     Tell_What_Is_Loaded();
     RefreshColorList_Here();
@@ -46,20 +46,24 @@ std::u16string Form1::Configuration_Path() const {
 Outcome Form1::Read_Configuration(std::u16string& line) const {
     std::string contents;
     if (auto failure = Read_File(Configuration_Path(), contents)) return failure;
-    if (contents.empty()) return Failure{Configuration_Path(), "Holds no line"};
+    if (contents.empty()) {
+        return Failure{Configuration_Path(), "Holds no line; write one with any path into it"};
+    }
     line = From_Code_Page(contents.substr(0, contents.find_first_of("\r\n")));
     return std::nullopt;
 }
 
 /// A path that cannot be stored is no reason to stop working, so a failure is not reported. One
-/// that the code page has not would come back as another path, so the last one stays.
+/// that the code page has not, or of more than a line, would come back as another path, so the last
+/// one stays.
 void Form1::Store_Path() const {
     const std::string path = To_Code_Page(txtSrc.Text());
-    if (From_Code_Page(path) != txtSrc.Text()) return;
+    const bool one_line = path.find_first_of("\r\n") == path.npos;
+    if (!one_line || From_Code_Page(path) != txtSrc.Text()) return;
     const std::string line = path + "\r\n";
     std::string stored;
     if (!Read_File(Configuration_Path(), stored) && stored == line) return;
-    static_cast<void>(Replace_File(Configuration_Path(), line, Durability::unsynced));
+    static_cast<void>(Replace_File(Configuration_Path(), line));
 }
 
 std::u16string Form1::Layout_Path() const {
@@ -69,6 +73,7 @@ std::u16string Form1::Layout_Path() const {
 void Form1::txtSrc_Change() {
     BrlytData.clear();
     on_disk_.clear();
+    layout_size_ = 0;
     why_not_loaded_.clear();
     const std::u16string path = Layout_Path();
     if (Ordinary_File_Exists(path)) {
@@ -85,15 +90,18 @@ void Form1::Load_Brlyt() {
     NoneRegion.clear();
     if (!Ordinary_File_Exists(BrlytPath) || Ends_In_Separator(BrlytPath)) return;
     try {
-        if (const auto failure = Read_File(BrlytPath, BrlytData)) {
+        if (const auto failure = Read_File(BrlytPath, on_disk_)) {
             why_not_loaded_ = failure->reason;
             return;
         }
-        BrlytData = CutPadding(std::move(BrlytData));
-        if (Has_Window()) on_disk_ = BrlytData;
+        why_not_loaded_ = Not_To_Be_Edited(on_disk_);
+        if (!why_not_loaded_.empty()) return;
+        BrlytData = CutPadding(on_disk_);
+        layout_size_ = BrlytData.size();
         info.Refill();
     } catch (const std::bad_alloc&) {
         BrlytData = on_disk_ = {};
+        layout_size_ = 0;
         why_not_loaded_ = "Not enough memory";
     }
 }
@@ -139,8 +147,8 @@ void Form1::RefreshColorList_Here() {
 void Form1::RefreshLogoList() {
     static_cast<void>(File2.Set_Path(process_.program_folder + u"\\logos\\"));  // none: no logos
     cmbLogo.Clear();
-    cmbLogo.Add(CurrentLogo);
-    for (const std::u16string& name : File2.Names()) cmbLogo.Add(name);
+    cmbLogo.Add({std::u16string(CurrentLogo)});
+    cmbLogo.Add(File2.Names());
     cmbLogo.Select(0);
 }
 

@@ -16,6 +16,7 @@
 #include "platform/controls.h"
 #include "platform/desktop.h"
 #include "platform/files.h"
+#include "platform/replace_files.h"
 
 /// The main window as state and events, and the batch run. There is one at a time: the layout that
 /// it works on is the program's one `BrlytData`.
@@ -81,17 +82,17 @@ class Form1 {
     void Close_Color_Window();
     void Close_Text_Editor();
 
-    /// Whether the layout in memory differs from the file as it was loaded or saved last. To be
-    /// asked with a window only: without one, nothing is kept to compare with.
+    /// Whether the layout in memory differs from the file as it was loaded or saved last.
     bool Has_Unsaved_Changes() const;
 
     /// Whether the window may be closed: it is enabled, and there are no unsaved changes or the
     /// user gives them up.
     bool May_Close();
 
-    /// Saves the layout and loads the saved file. A failure is reported and leaves the file, the
-    /// logo texture and `BrlytData` as they were. With a window, a file that is no layout is saved
-    /// only when the user says so.
+    /// Saves the layout and the textures that go with it, and loads the saved file. A failure is
+    /// reported and leaves the files and `BrlytData` as they were. A file that another program
+    /// changed since it was loaded is a failure; with a window, it is saved when the user says so,
+    /// and so is a file that is no layout.
     void cmdSave_Click();
 
     /// Fills the scheme list with "Current Brlyt", which it selects, and the names of the schemes.
@@ -100,11 +101,12 @@ class Form1 {
     /// Fills the logo list with "Current Logo", which it selects, and the logo files.
     void RefreshLogoList();
 
-    /// Puts the logo file `lgPath` in the place of the banner's logo texture, the first ".tpl" file
-    /// in the "timg" folder beside the layout's folder whose name begins with "my_Back". A bare
-    /// name is taken from the logos folder, "\..." from the program's folder, a full path as it is;
-    /// `lgPath` becomes the path used. A banner without such a folder or texture is left alone, and
-    /// so is one whose layout lies in a root folder, beside which nothing lies.
+    /// Reads the logo file `lgPath`, which the save that follows puts in the place of the banner's
+    /// logo texture: the first ".tpl" file in the "timg" folder beside the layout's folder whose
+    /// name begins with "my_Back". A bare name is taken from the logos folder, "\..." from the
+    /// program's folder, a full path as it is; `lgPath` becomes the path used. A banner without
+    /// such a folder or texture is left alone, and so is one whose layout lies in a root folder,
+    /// beside which nothing lies.
     Outcome ReplaceLogo(std::u16string& lgPath);
 
     /// Selects the entry of the force list that equals `REG` in capitals, if there is one. `REG`
@@ -127,19 +129,24 @@ class Form1 {
     std::u16string Layout_Path() const;
     bool Has_Window() const { return process_.command_line.empty(); }
     bool Lose_Changes(const std::u16string& question);
+    bool Changed_Elsewhere() const;
+    void Tell_What_Was_Odd(std::string_view saved);
     Outcome Check_Save(Padding& padding) const;
     bool Save_Is_Wanted();
     Outcome Save(const Padding& padding);
     Outcome Write_Layout(const Padding& padding);
     Outcome Apply_Chosen_Looks();
-    Notice Reporting();
-    void Put_Textures_Back();
+    Outcome Read_Logo(const std::u16string& path, std::string& logo) const;
 
     void Tell_Changes(std::u16string_view command, const std::string& before);
     void Tell_What_Is_Loaded();
 
-    int Run_Batch();
+    int Run_Batch(const std::u16string& configured);
+    void Take_Configured_Path(const std::u16string& path);
+    bool Hold_Folder_Of(const std::u16string& layout);
+    std::u16string Typed_Path(std::u16string_view text) const;
     void Take_Layout_Path(std::u16string_view piece);
+    void Tell_Of_Cut_Path(std::size_t hyphen);
     void Take_Option(std::u16string_view piece);
     Failure Why_No_Layout() const;
     void Fail(int status, const Failure& failure);
@@ -157,8 +164,11 @@ class Form1 {
     Process process_;
     Desktop& desktop_;
     std::u16string BrlytPath;
-    std::string why_not_loaded_;  ///< the reason where the path names a file that cannot be read
-    std::vector<KeptFile> replaced_;  ///< textures as they were before replacements not yet saved
-    std::string on_disk_;  ///< the layout as loaded, to tell unsaved changes; only with a window
+    std::string why_not_loaded_;   ///< the reason where the path names a file that cannot be edited
+    FolderLock lock_;              ///< of the layout that a batch run edits, from load to save
+    std::string on_disk_;          ///< the file's bytes when it was loaded
+    std::size_t layout_size_ = 0;  ///< those in front of the padding
+    std::vector<NewContents> to_save_;  ///< by the save: the textures replaced, then the layout
+    bool colors_applied_ = false;       ///< by an option of this run
     int status_ = Done;
 };

@@ -1,10 +1,13 @@
 // The save sequence of the main window and the replacement of the logo texture.
+#include <algorithm>
 #include <new>
 #include <utility>
 
 #include "colors/materials.h"
 #include "gameinfo/boxes.h"
 #include "gameinfo/languages.h"
+#include "inspect/warnings.h"
+#include "layout/kind.h"
 #include "layout/mod_globals.h"
 #include "layout/text_box.h"
 #include "mainwindow/form1.h"
@@ -51,18 +54,41 @@ void Form1::cmdSave_Click() {
         return;
     }
     if (!failure) failure = Save(padding);
+    const bool logo_unplaced = cmbLogo.Index() > 0 && to_save_.size() == 1;
+    if (!failure && !Has_Window()) Tell_What_Was_Odd(to_save_.back().bytes);
+    to_save_.clear();
     if (failure) {
-        Put_Textures_Back();
         Fail(Failed, *failure);
         lblLastCommand.Set(u"Not saved");
         return;
     }
-    const bool logo_unplaced = cmbLogo.Index() > 0 && replaced_.empty();
-    replaced_.clear();
     if (Has_Window()) desktop_.Message(u"File Successfully Saved!");
     txtSrc_Change();
     lblLastCommand.Set(logo_unplaced ? u"Saved; the banner has no logo texture to replace"
                                      : u"Saved");
+}
+
+/// In a batch run nobody has seen what was edited, so it is told when it looks wrong.
+void Form1::Tell_What_Was_Odd(std::string_view saved) {
+    if (!Is_Layout(on_disk_)) {
+        desktop_.Report({txtSrc.Text(), "Saved, but it does not begin as a layout file"});
+        return;
+    }
+    const LayoutInfo before = Read_Layout(on_disk_);
+    std::vector<Warning> warnings;
+    if (colors_applied_) warnings = Find_Color_Warnings(on_disk_, before);
+    std::vector<Warning> of_texts = Find_Text_Warnings(on_disk_, before);
+    if (!of_texts.empty()) {
+        const LayoutInfo after = Read_Layout(saved);
+        std::erase_if(of_texts, [&](const Warning& warning) {
+            return *warning.box < after.boxes.size() &&
+                   after.boxes[*warning.box].record == before.boxes[*warning.box].record;
+        });
+    }
+    warnings.insert(warnings.end(), of_texts.begin(), of_texts.end());
+    if (warnings.empty()) return;
+    desktop_.Report({txtSrc.Text(), "Saved, but bannersmith-inspect warns of what was written: " +
+                                        warnings.front().text});
 }
 
 /// Everything that can be refused is refused before anything is asked or changed.
@@ -73,14 +99,29 @@ Outcome Form1::Check_Save(Padding& padding) const {
         return Failure{u"Padding \"" + txtPad.Text() + u"\"",
                        "Not a whole number up to 268435456, with or without + in front of it"};
     }
+    if (!Has_Window() && Changed_Elsewhere()) {
+        return Failure{txtSrc.Text(), "Was changed by another program since it was loaded"};
+    }
     padding = *wanted;
     return std::nullopt;
 }
 
-/// Whoever named another file by mistake would not get it back.
+/// A file that is no longer there is made anew.
+bool Form1::Changed_Elsewhere() const {
+    std::string now;
+    return !Read_File(Layout_Path(), now) && now != on_disk_;
+}
+
+/// Whoever named another file by mistake would not get it back, nor what another program wrote.
 bool Form1::Save_Is_Wanted() {
-    return !Has_Window() || Is_Layout(BrlytData) ||
-           desktop_.Confirm(txtSrc.Text() + u" is not a layout file. Save it all the same?");
+    if (!Has_Window()) return true;
+    if (!Is_Layout(BrlytData) &&
+        !desktop_.Confirm(txtSrc.Text() + u" is not a layout file. Save it all the same?")) {
+        return false;
+    }
+    return !Changed_Elsewhere() ||
+           desktop_.Confirm(txtSrc.Text() +
+                            u" was changed by another program since it was loaded. Save over it?");
 }
 
 /// What fails leaves the data in memory as it was: a second try must not find its own padding
@@ -106,12 +147,8 @@ Outcome Form1::Write_Layout(const Padding& padding) {
         if (auto failure = Apply_Chosen_Looks()) return failure;
     }
     Region_Force(BrlytData, To_Utf8(cmbForce.Selected()));
-    BrlytData = AddPadding(std::move(BrlytData), padding);
-    return Replace_File(path, BrlytData, Durability::synced, Reporting());
-}
-
-Notice Form1::Reporting() {
-    return [this](const Failure& loss) { desktop_.Report(loss); };
+    to_save_.push_back({path, AddPadding(std::move(BrlytData), padding)});
+    return Replace_Files(to_save_, lock_, [this](const Failure& loss) { desktop_.Report(loss); });
 }
 
 /// The first entry of either list stands for what the banner has.
@@ -145,21 +182,19 @@ Outcome Form1::ReplaceLogo(std::u16string& lgPath) {
     for (const std::u16string& name : File2.Names()) {
         if (!name.starts_with(u"my_Back")) continue;
         std::string logo;
-        if (auto failure = Read_File(lgPath, logo)) return failure;
-        KeptFile old;
-        if (auto failure = old.Keep(folder + name)) return failure;
-        if (auto failure = Replace_File(folder + name, logo, Durability::synced, Reporting())) {
-            return failure;
-        }
-        replaced_.push_back(std::move(old));
+        if (auto failure = Read_Logo(lgPath, logo)) return failure;
+        to_save_.push_back({folder + name, std::move(logo)});
         break;
     }
     return std::nullopt;
 }
 
-/// Newest first, so that a texture replaced twice ends as it was before the first time.
-void Form1::Put_Textures_Back() {
-    for (; !replaced_.empty(); replaced_.pop_back()) {
-        if (const auto failure = replaced_.back().Put_Back()) desktop_.Report(*failure);
-    }
+/// A logo may be the texture that an option before this one has replaced.
+Outcome Form1::Read_Logo(const std::u16string& path, std::string& logo) const {
+    const auto replaced =
+        std::find_if(to_save_.rbegin(), to_save_.rend(),
+                     [&](const NewContents& texture) { return Same_File(texture.path, path); });
+    if (replaced == to_save_.rend()) return Read_File(path, logo);
+    logo = replaced->bytes;
+    return std::nullopt;
 }

@@ -4,7 +4,7 @@
 
 #include "gameinfo/boxes.h"
 #include "gameinfo/languages.h"
-#include "layout/file_length.h"
+#include "layout/kind.h"
 #include "layout/mod_globals.h"
 #include "layout/text_box.h"
 #include "mainwindow/form1.h"
@@ -88,7 +88,7 @@ void Form1::Tell_Changes(std::u16string_view command, const std::string& before)
 }
 
 bool Form1::Has_Unsaved_Changes() const {
-    return BrlytData != on_disk_;
+    return BrlytData != std::string_view(on_disk_).substr(0, layout_size_);
 }
 
 bool Form1::May_Close() {

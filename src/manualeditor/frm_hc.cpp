@@ -12,7 +12,9 @@ frmHC::frmHC(Form& main_form, GameInfo& info) : main_form_(main_form), info_(inf
 void frmHC::Form_Load() {
     main_form_.Set_Enabled(false);
     cmbHC.Clear();
-    for (const std::string& name : Text_Box_Names(BrlytData)) cmbHC.Add(From_Bytes(name));
+    std::vector<std::u16string> names;
+    for (const std::string& name : Text_Box_Names(BrlytData)) names.push_back(From_Bytes(name));
+    cmbHC.Add(names);
     cmbHC.Select(0);
 }
 

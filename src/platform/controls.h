@@ -88,9 +88,9 @@ class DropDownList : public Control {
         Shown.Raise();
     }
 
-    /// Appends an entry and raises no event.
-    void Add(std::u16string_view entry) {
-        entries_.emplace_back(entry);
+    /// Appends entries, which can be many, and raises no event.
+    void Add(const std::vector<std::u16string>& entries) {
+        entries_.insert(entries_.end(), entries.begin(), entries.end());
         Shown.Raise();
     }
 

@@ -1,9 +1,16 @@
 #include "platform/desktop.h"
 
-#include <algorithm>
-
 #include "platform/process.h"
 #include "platform/text.h"
+
+std::string Readable(std::u16string_view text) {
+    constexpr std::size_t Most = 1000;  // code units: longer than paths are, short enough to read
+    return Printable(Shortened(text, Most));
+}
+
+std::string One_Line(const Failure& failure) {
+    return Readable(failure.subject) + ": " + Readable(From_Utf8(failure.reason));
+}
 
 void NoDesktop::Message(const std::u16string& /*text*/) {}
 
@@ -12,10 +19,7 @@ bool NoDesktop::Confirm(const std::u16string& /*question*/) {
 }
 
 void NoDesktop::Report(const Failure& failure) {
-    std::string line = "bannersmith: " + To_Utf8(failure.subject) + ": " + failure.reason;
-    const auto breaks_the_line = [](char byte) { return byte >= 0 && byte < ' '; };
-    std::replace_if(line.begin(), line.end(), breaks_the_line, '?');
-    Print(line + "\n", stderr);
+    Print("bannersmith: " + One_Line(failure) + "\n", stderr);
 }
 
 std::u16string NoDesktop::Open_File(const std::u16string& /*filter*/,

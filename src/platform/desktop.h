@@ -57,6 +57,13 @@ class Desktop {
     virtual std::u16string In_Code_Page(std::u16string_view text) = 0;
 };
 
+/// A part of a message as UTF-8: control characters are escaped, and what is too long to be read is
+/// cut.
+std::string Readable(std::u16string_view text);
+
+/// A failure as a line of a terminal, "SUBJECT: REASON", without the line's end.
+std::string One_Line(const Failure& failure);
+
 /// A run without windows: failures go to standard error as one line each, "bannersmith: SUBJECT:
 /// REASON"; messages are not shown, every question is left unanswered and nothing is confirmed.
 class NoDesktop : public Desktop {

@@ -31,30 +31,18 @@ std::string Without_Case(std::string name) {
     return name;
 }
 
-/// A second name for `file`, or, where there are none or an open file could not lose it again, a
-/// copy. False when the name is taken.
-bool Keep_Under(const fs::path& file, const fs::path& second_name) {
-    std::error_code error = std::make_error_code(std::errc::not_supported);
-    if (Posix) fs::create_hard_link(file, second_name, error);
-    if (!error) return true;
-    if (fs::exists(second_name)) return false;
-    try {
-        return fs::copy_file(file, second_name);
-    } catch (const fs::filesystem_error&) {
-        fs::remove(second_name, error);
-        throw;
-    }
-}
-
-/// The regular files of a folder, by their UTF-8 names, in no order. Stops at the first error.
+/// The regular files of a folder, by their UTF-8 names, in no order. Stops at the first error, but
+/// for a link that leads nowhere, which is no file.
 std::vector<std::string> Regular_Files(const std::u16string& folder, std::error_code& error) {
     std::vector<std::string> names;
     for (fs::directory_iterator at(Native_Path(folder), error), end; !error && at != end;
          at.increment(error)) {
-        std::error_code unknown;
-        const fs::file_status status = at->status(unknown);
-        if (status.type() == fs::file_type::none) error = unknown;
-        if (error) break;
+        std::error_code failed, ignored;
+        const fs::file_status status = at->status(failed);
+        if (status.type() == fs::file_type::none && !at->is_symlink(ignored)) {
+            error = failed;
+            break;
+        }
         if (!fs::is_regular_file(status)) continue;
         const std::u8string name = at->path().filename().u8string();
         names.emplace_back(name.begin(), name.end());
@@ -96,6 +84,11 @@ bool Ordinary_File_Exists(const std::u16string& path) {
     return fs::is_regular_file(Native_Path(path), ignored);
 }
 
+bool Same_File(const std::u16string& a, const std::u16string& b) {
+    std::error_code ignored;
+    return fs::equivalent(Native_Path(a), Native_Path(b), ignored);
+}
+
 Outcome Find_Folder(const std::u16string& path, bool& found) {
     std::error_code error;
     const fs::file_status status = fs::status(Native_Path(path), error);
@@ -121,38 +114,4 @@ Outcome List_Files(const std::u16string& folder, std::string_view ending,
     names.reserve(files.size());
     for (const std::string& name : files) names.push_back(From_Utf8(name));
     return std::nullopt;
-}
-
-KeptFile::KeptFile(KeptFile&& other) noexcept
-    : path_(std::move(other.path_)),
-      file_(std::move(other.file_)),
-      second_name_(std::exchange(other.second_name_, {})) {}
-
-KeptFile::~KeptFile() {
-    std::error_code error;
-    if (second_name_.empty() || fs::remove(second_name_, error)) return;
-    fs::remove(second_name_, error);  // a call that fails once need not fail twice
-}
-
-Outcome KeptFile::Keep(const std::u16string& path) {
-    path_ = path;
-    return Run_Steps(path, [&](const fs::path& native) {
-        file_ = fs::canonical(native);
-        fs::path second;
-        int number = 0;
-        do {
-            second = file_.parent_path() / (".bannersmith-old-" + std::to_string(number++));
-        } while (!Keep_Under(file_, second));
-        second_name_ = second;
-    });
-}
-
-Outcome KeptFile::Put_Back() {
-    std::error_code error;
-    fs::rename(second_name_, file_, error);
-    if (error) fs::rename(second_name_, file_, error);
-    const std::u8string kept = std::exchange(second_name_, {}).u8string();
-    if (!error) return std::nullopt;
-    return Failure{path_, error.message() + ". The old file is kept as " +
-                              std::string(kept.begin(), kept.end())};
 }

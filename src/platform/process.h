@@ -15,8 +15,8 @@ std::u16string Command_Line(int argc, char** argv);
 std::vector<std::u16string> Arguments(int argc, char** argv);
 
 /// Writes a UTF-8 text to standard output or standard error, so that a console of the system shows
-/// it as it is.
-void Print(const std::string& text, std::FILE* stream);
+/// it as it is. False where it could not be written whole.
+bool Print(const std::string& text, std::FILE* stream);
 
 /// The folder of the running executable, without a separator at its end; empty where the system
 /// does not tell.

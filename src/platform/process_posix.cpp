@@ -19,8 +19,9 @@ std::vector<std::u16string> Arguments(int argc, char** argv) {
     return arguments;
 }
 
-void Print(const std::string& text, std::FILE* stream) {
-    std::fwrite(text.data(), 1, text.size(), stream);
+bool Print(const std::string& text, std::FILE* stream) {
+    const bool written = std::fwrite(text.data(), 1, text.size(), stream) == text.size();
+    return std::fflush(stream) == 0 && written;
 }
 
 std::u16string Program_Folder() {

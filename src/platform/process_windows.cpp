@@ -39,17 +39,18 @@ std::vector<std::u16string> Arguments(int /*argc*/, char** /*argv*/) {
 }
 
 /// A console would take the bytes for those of its own code page.
-void Print(const std::string& text, std::FILE* stream) {
+bool Print(const std::string& text, std::FILE* stream) {
     const HANDLE handle = ::GetStdHandle(stream == stderr ? STD_ERROR_HANDLE : STD_OUTPUT_HANDLE);
     DWORD mode = 0;
     if (!::GetConsoleMode(handle, &mode)) {
-        std::fwrite(text.data(), 1, text.size(), stream);
-        return;
+        const bool whole = std::fwrite(text.data(), 1, text.size(), stream) == text.size();
+        return std::fflush(stream) == 0 && whole;
     }
     const std::u16string units = From_Utf8(text);
     const std::wstring wide(units.begin(), units.end());
     DWORD written = 0;
-    ::WriteConsoleW(handle, wide.data(), static_cast<DWORD>(wide.size()), &written, nullptr);
+    const auto size = static_cast<DWORD>(wide.size());
+    return ::WriteConsoleW(handle, wide.data(), size, &written, nullptr) != 0 && written == size;
 }
 
 std::u16string Program_Folder() {
@@ -85,10 +86,11 @@ std::u16string From_Code_Page(std::string_view bytes) {
 
 std::string To_Code_Page(std::u16string_view text) {
     const std::wstring wide(text.begin(), text.end());
+    const DWORD exact = ::GetACP() == CP_UTF8 ? 0 : WC_NO_BEST_FIT_CHARS;  // UTF-8 knows no flags
     std::string bytes(text.size() * 4, '\0');  // no code unit becomes more bytes than that
-    bytes.resize(static_cast<std::size_t>(::WideCharToMultiByte(
-        CP_ACP, WC_NO_BEST_FIT_CHARS, wide.data(), static_cast<int>(wide.size()), bytes.data(),
-        static_cast<int>(bytes.size()), nullptr, nullptr)));
+    bytes.resize(static_cast<std::size_t>(
+        ::WideCharToMultiByte(CP_ACP, exact, wide.data(), static_cast<int>(wide.size()),
+                              bytes.data(), static_cast<int>(bytes.size()), nullptr, nullptr)));
     return bytes;
 }
 

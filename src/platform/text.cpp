@@ -15,6 +15,24 @@ bool Is_High_Surrogate(char16_t unit) {
 bool Is_Low_Surrogate(char16_t unit) {
     return unit >= 0xDC00 && unit <= 0xDFFF;
 }
+bool Is_Escaped_Byte(char16_t unit) {
+    return unit >= EscapedByte + 0x80 && unit <= EscapedByte + 0xFF;
+}
+/// A byte that belonged to no character, and not the second half of one outside the basic plane.
+bool Is_Lone_Byte(std::u16string_view text, std::size_t at) {
+    return Is_Escaped_Byte(text[at]) && (at == 0 || !Is_High_Surrogate(text[at - 1]));
+}
+/// Those of ASCII and those above it.
+bool Is_Control(char16_t unit) {
+    return unit < 0x20 || (unit >= 0x7F && unit < 0xA0);
+}
+
+void Append_Hex(std::string& text, std::string_view prefix, unsigned value, int digits) {
+    text += prefix;
+    for (int shift = (digits - 1) * 4; shift >= 0; shift -= 4) {
+        text += "0123456789abcdef"[value >> shift & 0xFU];
+    }
+}
 
 }  // namespace
 
@@ -40,7 +58,7 @@ std::string To_Utf8(std::u16string_view text) {
             const char16_t low = text[++i];
             utf8::append(0x10000U + ((unit - 0xD800U) << 10) + (low - 0xDC00U),
                          std::back_inserter(bytes));
-        } else if (unit >= EscapedByte + 0x80 && unit <= EscapedByte + 0xFF) {
+        } else if (Is_Escaped_Byte(unit)) {
             bytes += static_cast<char>(unit - EscapedByte);
         } else {
             const bool lone = Is_High_Surrogate(unit) || Is_Low_Surrogate(unit);
@@ -49,6 +67,36 @@ std::string To_Utf8(std::u16string_view text) {
         }
     }
     return bytes;
+}
+
+bool Is_Utf8(std::u16string_view text) {
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (Is_Lone_Byte(text, i)) return false;
+    }
+    return true;
+}
+
+std::string Printable(std::u16string_view text) {
+    std::string shown;
+    std::size_t plain = 0;  // where what has not been shown yet begins
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool byte = Is_Lone_Byte(text, i);
+        if (!byte && !Is_Control(text[i])) continue;
+        shown += To_Utf8(text.substr(plain, i - plain));
+        if (byte) {
+            Append_Hex(shown, "\\x", text[i] - EscapedByte, 2);
+        } else {
+            Append_Hex(shown, "\\u", text[i], 4);
+        }
+        plain = i + 1;
+    }
+    return shown + To_Utf8(text.substr(plain));
+}
+
+std::u16string Shortened(std::u16string_view text, std::size_t most) {
+    if (text.size() <= most) return std::u16string(text);
+    std::u16string shortened(text.substr(0, most / 2));
+    return shortened.append(u"...").append(text.substr(text.size() - most / 2));
 }
 
 std::u16string From_Bytes(std::string_view bytes) {

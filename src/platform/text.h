@@ -13,6 +13,10 @@ std::u16string From_Utf8(std::string_view bytes);
 /// The UTF-8 bytes of a text: the inverse of `From_Utf8`. Any other lone surrogate becomes U+FFFD.
 std::string To_Utf8(std::u16string_view text);
 
+/// Whether a text that `From_Utf8` made came from UTF-8 alone, without a byte that belongs to no
+/// character.
+bool Is_Utf8(std::u16string_view text);
+
 /// The text that bytes of the system's code page stand for: the ANSI code page on Windows, UTF-8
 /// elsewhere.
 std::u16string From_Code_Page(std::string_view bytes);
@@ -20,6 +24,14 @@ std::u16string From_Code_Page(std::string_view bytes);
 /// A text in the system's code page. What that page does not have becomes its substitute, mostly
 /// "?".
 std::string To_Code_Page(std::u16string_view text);
+
+/// The UTF-8 bytes of a text as a terminal can show it: control characters, and bytes that belong
+/// to no character, as escapes such as \u001b and \xff.
+std::string Printable(std::u16string_view text);
+
+/// `text` if it has at most `most` code units, otherwise its beginning and its end with "..." in
+/// between.
+std::u16string Shortened(std::u16string_view text, std::size_t most);
 
 /// Each byte as the code unit of the same value.
 std::u16string From_Bytes(std::string_view bytes);

@@ -8,7 +8,7 @@
 #include <string>
 
 #include "colors/scheme.h"
-#include "platform/files.h"
+#include "platform/replace_files.h"
 #include "platform/text.h"
 #include "samples/banners.h"
 #include "samples/texture.h"
@@ -21,7 +21,7 @@ constexpr int LogoWidth = 256, LogoHeight = 64;
 
 void Write(const fs::path& path, std::string_view bytes) {
     fs::create_directories(path.parent_path());
-    const auto failure = Replace_File(From_Utf8(path.string()), bytes, Durability::unsynced);
+    const auto failure = Replace_File(From_Utf8(path.string()), bytes);
     if (failure) throw std::runtime_error(path.string() + ": " + failure->reason);
 }
 

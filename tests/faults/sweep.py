@@ -1,18 +1,23 @@
 #!/usr/bin/env python3
-"""sweep.py PROGRAM-FOLDER TOOLS-FOLDER: kills the program before each of its file calls and makes each call
-fail, and looks at what is on disk afterwards.
+"""sweep.py PROGRAM-FOLDER TOOLS-FOLDER: kills the program before each of its file calls, interrupts it there by a signal
+and makes each call fail, and looks at what is on disk afterwards; also with two runs at once, and with what a killed run
+leaves behind.
 
 PROGRAM-FOLDER: where bannersmith and the samples are. TOOLS-FOLDER: where operate is, which saves a scheme as a person
 does. Needs strace, whose fault injection does the work.
 """
 import collections
 import concurrent.futures
+import fcntl
+import itertools
 import os
 import re
 import shutil
+import signal
 import subprocess
 import sys
 import tempfile
+import time
 
 BANNER = "samples/seven_languages/arc/blyt/banner.brlyt"
 TEXTURE = "samples/seven_languages/arc/timg/my_Back_logo.tpl"
@@ -20,19 +25,21 @@ LOGO = "logos/Comet.tpl"
 CONFIG = "cfgs/vcinfopath.cfg"
 SCHEME, NEW_SCHEME = "schemes/Swept.vccs", "schemes/New.vccs"
 ERRORS = ("ENOSPC", "EIO", "EACCES", "EDQUOT", "EINTR")
+SIGNALS = ("INT", "TERM", "HUP", "QUIT")
 CALLS = "%file,%desc"
+# As on a card: no second names, no trade of places, no modes.
+CARD = ("link,linkat:error=EPERM", "renameat2:error=EINVAL", "fchmod:error=EPERM")
 
 # A layout that cannot be read would leave other colours to save.
 SAVE_SCHEME = b"set txtSrc none\nclick cmdEditColor\nanswer %s\nclick colors.cmdSaveScheme\n"
 
-# What is run in a copy of the folder, what it reads, the files that it replaces, and its status without a fault.
+# What is run in a copy of the folder, what it reads, the files that it replaces, its status, and what fails all along.
 SCENARIOS = {
-    "layout": (["./bannersmith", "-TITLE", "Swept", "-YEAR", "2001"], b"", [BANNER], 0),
-    "logo": (["./bannersmith", "-LOGO", "Comet.tpl", "-TITLE", "Swept"], b"", [BANNER, TEXTURE], 0),
-    "logo taken back": (["./bannersmith", "-LOGO", "Comet.tpl", "-PAD", "much"], b"", [BANNER, TEXTURE], 1),
-    "configuration": (["./bannersmith", BANNER, "-PAD", "0"], b"", [BANNER, CONFIG], 0),
-    "scheme": (["./operate"], SAVE_SCHEME % b"Swept", [SCHEME], 0),
-    "new scheme": (["./operate"], SAVE_SCHEME % b"New", [NEW_SCHEME], 0),
+    "layout": (["./bannersmith", "-TITLE", "Swept", "-YEAR", "2001"], b"", [BANNER], 0, ()),
+    "logo": (["./bannersmith", "-LOGO", "Comet.tpl", "-TITLE", "Swept"], b"", [BANNER, TEXTURE], 0, ()),
+    "logo on a card": (["./bannersmith", "-LOGO", "Comet.tpl", "-TITLE", "Swept"], b"", [BANNER, TEXTURE], 0, CARD),
+    "configuration": (["./bannersmith", BANNER, "-PAD", "0"], b"", [BANNER, CONFIG], 0, ()),
+    "new scheme": (["./operate"], SAVE_SCHEME % b"New", [NEW_SCHEME], 0, ()),
 }
 
 
@@ -56,17 +63,17 @@ def copy_file(source, target):
 
 class Scenario:
     def __init__(self, name, base, work):
-        self.name, (self.command, self.input, self.replaced, status) = name, SCENARIOS[name]
+        self.name, (command, self.input, self.replaced, status, conditions) = name, SCENARIOS[name]
+        self.conditions = [word for condition in conditions for word in ("-e", "inject=" + condition)]
+        self.command, self.failing = command, {name for each in conditions for name in each.split(":")[0].split(",")}
         self.base, self.work = base, work
         self.old = {file: read(os.path.join(base, file)) for file in self.replaced}
         folder = self.copy("clean")
         trace = os.path.join(work, name + ".trace")
-        done = subprocess.run(["strace", "-qq", "-o", trace, "-e", "trace=" + CALLS] + self.command, cwd=folder,
+        done = subprocess.run(["strace", "-qq", "-o", trace, "-e", "trace=" + CALLS, *self.conditions, *command], cwd=folder,
                               input=self.input, capture_output=True)
         assert done.returncode == status, done
         self.new = {file: read(os.path.join(folder, file)) for file in self.replaced}
-        if TEXTURE in self.replaced:  # new for a moment also where it is taken back
-            self.new[TEXTURE] = read(os.path.join(base, LOGO))
         self.clean = folder
         # The first call starts the program; the telling of what failed cannot be told when it fails itself.
         self.calls = re.findall(r"^(\w+)\((?!2, \"banner)", read(trace).decode("latin-1"), re.M)[1:]
@@ -79,10 +86,13 @@ class Scenario:
 
     def faults(self):
         """Each call by its name and its ordinal among those of the name, killed once and failing in each way."""
-        seen = collections.Counter(["execve"])
+        seen, signals = collections.Counter(["execve"]), itertools.cycle(SIGNALS)
         for call in self.calls:
             seen[call] += 1
             yield call, seen[call], "signal=KILL"
+            yield call, seen[call], "signal=" + next(signals)
+            if call in self.failing:
+                continue
             for error in ERRORS:
                 yield call, seen[call], "error=" + error
 
@@ -91,8 +101,10 @@ class Scenario:
         label = "%s_%d_%s" % (call, ordinal, effect)
         folder = self.copy(label)
         before = files_of(folder)
-        inject = "inject=%s:%s:when=%d" % (call, effect, ordinal)
-        done = subprocess.run(["strace", "-qq", "-o", "/dev/null", "-e", inject] + self.command, cwd=folder,
+        fault = "inject=%s:%s:when=%d" % (call, effect, ordinal)
+        if call in self.failing:
+            fault = "inject=%s:%s" % (call, effect)  # each of them, as no call can be told to fail and to be killed
+        done = subprocess.run(["strace", "-qq", "-o", "/dev/null", *self.conditions, "-e", fault, *self.command], cwd=folder,
                               input=self.input, capture_output=True, timeout=60)
         wrong = list(self.judge(folder, before, done, call, effect))
         shutil.rmtree(folder)
@@ -108,32 +120,102 @@ class Scenario:
                 yield file + " is neither the old nor the new one"
         if effect == "signal=KILL":
             return
+        if effect.startswith("signal="):
+            if done.returncode != -signal.Signals["SIG" + effect[7:]]:
+                yield "a signal ends it with %d" % done.returncode
+            if len({now[file] == new[file] for file in self.replaced if file != CONFIG}) > 1:
+                yield "a signal leaves one file new and one old"
         left = files_of(folder) - before - {*self.replaced}
         if left:
             yield "left behind: %s" % sorted(left)
         banner_files = [file for file in self.replaced if file != CONFIG]
         if done.returncode == 0 and any(now[file] != new[file] for file in banner_files):
             yield "says done, but is not"
-        if done.returncode != 0 and any(now[file] != self.old[file] for file in banner_files):
+        stays = self.conditions and "Written, but not safe from a power failure" in errors  # nothing could be put back
+        if done.returncode > 0 and not stays and any(now[file] != self.old[file] for file in banner_files):
             yield "says failed (%s), but a file is new" % errors.strip()
-        if done.returncode != 0 and not re.search(r"^bannersmith: .+: .+$", errors, re.M):
+        if done.returncode > 0 and not re.search(r"^bannersmith: .+: .+$", errors, re.M):
             yield "no message: status %d, %r" % (done.returncode, errors)
-        if done.returncode == 0 and call == "fsync" and effect != "error=EINTR":
-            yield "says done, but it is not safe from a power failure"
         # Of the configuration, which nobody asked to have written, nothing is told.
-        if call == "fchown" and self.name != "configuration" and "could not keep its owner" not in errors:
-            yield "does not say that the owner is another one"
+        if done.returncode == 0 and call == "fsync" and effect != "error=EINTR" and self.name != "configuration":
+            yield "says done, but it is not safe from a power failure"
 
 
-def without_links(base):
-    """Where a file cannot have a second name, a copy of the old texture is kept, and comes back."""
-    texture = os.path.join(base, TEXTURE)
-    old, files = read(texture), files_of(base)
-    for padding, status, wanted in (("much", 1, old), ("0", 0, read(os.path.join(base, LOGO)))):
-        done = subprocess.run(["strace", "-qq", "-o", "/dev/null", "-e", "inject=link,linkat:error=EPERM", "./bannersmith",
-                               "-LOGO", "Comet.tpl", "-PAD", padding], cwd=base, capture_output=True, timeout=60)
-        if done.returncode != status or read(texture) != wanted or files_of(base) != files:
-            yield "without links: status %d, %r, %s" % (done.returncode, done.stderr, sorted(files_of(base) - files))
+def run(base, *command, wrapper=(), **more):
+    return subprocess.run([*wrapper, "./bannersmith", *command], cwd=base, capture_output=True, timeout=60, **more)
+
+
+def two_at_once(base):
+    """Neither of two runs loses what the other wrote, whichever is first, nor takes its files away."""
+    old = files_of(base)
+    for number in range(150):
+        name = "%d" % number
+        commands = (["-T_ENG", "one" + name, "-LOGO", "Comet.tpl"], ["-T_GER", "two" + name],
+                    ["-T_FRA", "none", "-LOGO", "Waves.tpl", "-PAD", "much"])
+        runs = [subprocess.Popen(["./bannersmith", *command], cwd=base, stderr=subprocess.DEVNULL) for command in commands]
+        statuses = [each.wait() for each in runs]
+        layout = read(os.path.join(base, BANNER))
+        kept = [text + name in layout.decode("utf-16-be", "replace") for text in ("one", "two")]
+        if statuses != [0, 0, 1] or not all(kept) or files_of(base) != old:
+            yield "two runs at once: %s, %s, %s" % (statuses, kept, sorted(files_of(base) ^ old))
+        if read(os.path.join(base, TEXTURE)) != read(os.path.join(base, LOGO)):
+            yield "two runs at once: another texture"
+
+
+def held_elsewhere(base):
+    """A folder that stays held is told in time; a file that another program changes is not written over."""
+    folder, layout = os.path.dirname(os.path.join(base, BANNER)), os.path.join(base, BANNER)
+    holder = os.open(folder, os.O_RDONLY)
+    fcntl.flock(holder, fcntl.LOCK_EX)
+    old, start = read(layout), time.monotonic()
+    done = run(base, "-TITLE", "Held")
+    os.close(holder)
+    if done.returncode != 1 or b"Another run of Bannersmith" not in done.stderr or read(layout) != old:
+        yield "held: status %d, %r" % (done.returncode, done.stderr)
+    if not 5 < time.monotonic() - start < 20:
+        yield "held: %d seconds" % (time.monotonic() - start)
+    # Between load and save the configuration is looked at; that is the second time.
+    trace = os.path.join(base, "trace")
+    run(base, "-PAD", "0", wrapper=("strace", "-qq", "-o", trace, "-e", "trace=openat"))
+    opened = [number for number, line in enumerate(open(trace, encoding="utf-8"), 1) if CONFIG in line]
+    os.remove(trace)
+    slow = ("strace", "-qq", "-o", "/dev/null", "-e", "inject=openat:delay_enter=1s:when=%d" % opened[1])
+    changing = subprocess.Popen([*slow, "./bannersmith", "-TITLE", "Slow"], cwd=base, stderr=subprocess.PIPE)
+    time.sleep(0.5)
+    with open(layout, "ab") as file:
+        file.write(b"more")
+    changed = read(layout)
+    _, errors = changing.communicate()
+    if changing.returncode != 1 or b"changed by another program" not in errors or read(layout) != changed:
+        yield "changed: status %d, %r" % (changing.returncode, errors)
+    with open(layout, "wb") as file:
+        file.write(old)
+
+
+def litter(base):
+    """What a killed run leaves goes with the next save in its folder; what a user was told of stays."""
+    folder, old = os.path.dirname(os.path.join(base, BANNER)), files_of(base)
+    ours = [os.path.join(folder, name) for name in (".bannersmith-1-0", ".bannersmith-aB3xY9", ".bannersmith-old-1-0")]
+    for path in ours:
+        with open(path, "wb") as file:
+            file.write(b"left")
+    done = run(base, "-PAD", "0")
+    left = files_of(base) - old
+    if done.returncode != 0 or left != {os.path.relpath(ours[2], base)}:
+        yield "litter: status %d, %s" % (done.returncode, sorted(left))
+    os.remove(ours[2])
+
+
+def closed_pipe(base):
+    """A message that nobody reads."""
+    banner, texture = (read(os.path.join(base, file)) for file in (BANNER, TEXTURE))
+    reader, writer = os.pipe()
+    os.close(reader)
+    done = subprocess.run(["./bannersmith", "-LOGO", "Waves.tpl", "-PAD", "much"], cwd=base, stderr=writer)
+    os.close(writer)
+    now = [read(os.path.join(base, file)) for file in (BANNER, TEXTURE)]
+    if done.returncode not in (1, -signal.SIGPIPE) or now != [banner, texture]:
+        yield "closed pipe: status %d" % done.returncode
 
 
 def without_memory(base):
@@ -142,9 +224,11 @@ def without_memory(base):
     with open(layout, "wb") as file:
         file.write(b"RLYT")
         file.truncate(60 << 20)
-    done = subprocess.run("ulimit -v 100000; ./bannersmith huge.brlyt -TITLE x", shell=True, cwd=base, capture_output=True)
-    if done.returncode != 1 or not done.stderr.endswith(b"huge.brlyt: Not enough memory\n"):
-        yield "without memory: status %d, %r" % (done.returncode, done.stderr)
+    for memory, status in ((100000, 2), (170000, 1)):  # too little to load it, and to edit it
+        command = "ulimit -v %d; ./bannersmith huge.brlyt -TITLE x" % memory
+        done = subprocess.run(command, shell=True, cwd=base, capture_output=True)
+        if done.returncode != status or not done.stderr.endswith(b"huge.brlyt: Not enough memory\n"):
+            yield "without memory: status %d, %r" % (done.returncode, done.stderr)
     with open(os.path.join(base, CONFIG), "wb") as file:
         file.write(b"\\huge.brlyt\r\n")
     done = subprocess.run("ulimit -v 100000; ./operate", shell=True, cwd=base, input=b"show lblLoaded\nclick cmdSave\n",
@@ -168,11 +252,12 @@ def main():
         runs = [(s, fault) for s in (Scenario(name, base, work) for name in SCENARIOS) for fault in s.faults()]
         with concurrent.futures.ThreadPoolExecutor(os.cpu_count() * 2) as pool:
             wrong = [what for found in pool.map(lambda run: run[0].run(run[1]), runs) for what in found]
-        wrong += [*without_links(base), *without_memory(base)]
-    kills = sum(fault[2] == "signal=KILL" for _, fault in runs)
-    print("%d kills and %d failures" % (kills, len(runs) - kills))
+        for test in (two_at_once, held_elsewhere, litter, closed_pipe, without_memory):
+            wrong += test(base)
+    kinds = collections.Counter(fault[2].split("=")[0] for _, fault in runs)
+    print("%d signals, half of them kills, and %d failures" % (kinds["signal"], kinds["error"]))
     print("\n".join(wrong))
-    return 1 if wrong or kills < 100 or len(runs) - kills < 300 else 0
+    return 1 if wrong or kinds["signal"] < 200 or kinds["error"] < 300 else 0
 
 
 if __name__ == "__main__":
