@@ -62,8 +62,9 @@ TEST(FileList, IsSortedWithoutCase) {
     for (const char* name : {"b.tpl", "A.TPL", "Z.tpl", "a.tplx", "a.txt", ".hidden.tpl", "d.tpl/e"}) {
         folder.Write(name, "");
     }
+    fs::create_symlink("self.tpl", folder.Path() / "self.tpl");
     FileList list(".tpl");
-    list.Set_Path(folder.Text());
+    EXPECT_FALSE(list.Set_Path(folder.Text()));
     EXPECT_EQ(list.Names(), (std::vector<std::u16string>{u"A.TPL", u"b.tpl", u"Z.tpl"}));
     list.Set_Path(folder.Text() + u"/none");
     EXPECT_TRUE(list.Names().empty());
@@ -236,6 +237,22 @@ class Unprivileged {
  private:
     const bool privileged_ = ::geteuid() == 0;
 };
+
+TEST(ReplaceFile, TellsWhatItCannotKeep) {
+    const TempFolder folder;
+    folder.Write("f", "old");
+    ::chmod((folder.Path() / "f").c_str(), 06666);
+    ::chmod(folder.Path().c_str(), 0777);
+    if (::geteuid() != 0) GTEST_SKIP() << "needs a file of another user";
+    std::string told;
+    const Unprivileged user;
+    EXPECT_FALSE(Replace_File(folder.Text() + u"/f", "new",
+                              [&](const Failure& loss) { told = loss.reason + " " + folder.Read("f"); }));
+    EXPECT_EQ(told, "Saved, but could not keep its owner new") << "and told when it is there";
+    struct stat info {};
+    ::stat((folder.Path() / "f").c_str(), &info);
+    EXPECT_EQ(info.st_mode & 07777, 0666U) << "without the rights of the one who had it";
+}
 
 TEST(ReplaceFile, RespectsPermissions) {
     const TempFolder folder;

@@ -136,6 +136,8 @@ class Person {
         for (std::string line; std::getline(lines, line);) {
             try {
                 Do(line);
+            } catch (const std::bad_alloc&) {  // a window goes on
+                desktop_.Report({u"operate", "Not enough memory"});
             } catch (const std::exception&) {
                 Print("operate: cannot do: " + line + "\n", stderr);
                 return 2;
