@@ -170,13 +170,12 @@ std::optional<std::size_t> Pieces::Find_Record(std::string_view data, std::strin
 
 std::vector<std::optional<std::size_t>> Pieces::Find_Records(
     std::string_view data, std::span<const std::string_view> names, Test test) const {
-    std::vector<std::string> texts;
-    for (const std::string_view name : names) {
-        texts.emplace_back(name).append(test == Test::exact ? 2 : 0, '\0');
-    }
+    std::vector<std::string> texts(names.begin(), names.end());
+    std::vector<std::size_t> numbers(names.size());
     Wanted wanted;
-    std::vector<std::size_t> numbers;
-    for (const std::string& text : texts) numbers.push_back(wanted.Add(text));
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        numbers[i] = wanted.Add(texts[i].append(test == Test::exact ? 2 : 0, '\0'));
+    }
 
     std::vector<std::optional<std::string_view>> taken(names.size());
     for (std::size_t k = tags_.size() + 1; k-- > 0 && !wanted.Is_Empty();) {
@@ -197,9 +196,9 @@ std::vector<std::optional<std::size_t>> Pieces::Find_Records(
         keys.Take_Beginnings(data.substr(tag + record::Tag.size()),
                              [&](std::size_t number) { found[number] = tag; });
     }
-    std::vector<std::optional<std::size_t>> records;
-    for (const auto& number : key_numbers) {
-        records.push_back(number ? found[*number] : std::nullopt);
+    std::vector<std::optional<std::size_t>> records(names.size());
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        if (key_numbers[i]) records[i] = found[*key_numbers[i]];
     }
     return records;
 }

@@ -62,8 +62,8 @@ class Replacing {
  private:
     /// What can fail without a trace.
     Outcome Prepare() {
-        for (std::size_t i = 0; i < files_.size(); ++i) {
-            auto failure = Run_Steps(files_[i].path, [&](const fs::path& native) {
+        for (const NewContents& file : files_) {
+            auto failure = Run_Steps(file.path, [&](const fs::path& native) {
                 all_.push_back(std::make_unique<Replacement>(native));
             });
             if (failure) return failure;

@@ -328,7 +328,8 @@ void Replacement::Put_Back() {
         return state.traded ? state.Exchange()
                             : ::rename(state.second_name.Path().c_str(), state.target.c_str()) == 0;
     };
-    const bool done = back() || back();
+    bool done = back();
+    if (!done) done = back();  // a call that fails once need not fail twice
     const int error = errno;
     FileBeside& kept = state.traded ? state.temporary : state.second_name;
     if (!done) {
