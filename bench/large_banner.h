@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "samples/layout_builder.h"
+#include "generate/layout_builder.h"
 
 /// A layout of about `bytes` bytes with `boxes` text boxes: those of seven languages first, others behind
 /// them, spread over the file by sections that hold neither names nor tags. Buffers are larger than their

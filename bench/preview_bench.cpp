@@ -10,8 +10,8 @@
 #include "desktop/qt_desktop.h"
 #include "desktop/text.h"
 #include "desktop/widgets.h"
+#include "generate/banners.h"
 #include "layout/mod_globals.h"
-#include "samples/banners.h"
 
 namespace {
 

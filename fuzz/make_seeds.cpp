@@ -3,8 +3,8 @@
 #include <fstream>
 
 #include "colors/scheme.h"
-#include "samples/banners.h"
-#include "samples/layout_builder.h"
+#include "generate/banners.h"
+#include "generate/layout_builder.h"
 
 namespace {
 

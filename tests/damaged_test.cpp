@@ -3,6 +3,7 @@
 
 #include "colors/materials.h"
 #include "gameinfo/game_info.h"
+#include "generate/banners.h"
 #include "inspect/report.h"
 #include "inspect/warnings.h"
 #include "layout/file_length.h"
@@ -10,7 +11,6 @@
 #include "layout/mod_globals.h"
 #include "layout/text_box.h"
 #include "mainwindow/region_force.h"
-#include "samples/banners.h"
 
 namespace {
 

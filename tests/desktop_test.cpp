@@ -24,11 +24,11 @@
 #include "desktop/text.h"
 #include "desktop/text_editor_view.h"
 #include "desktop/widgets.h"
+#include "generate/banners.h"
+#include "generate/layout_builder.h"
 #include "layout/mod_globals.h"
 #include "mainwindow/form1.h"
 #include "platform/text.h"
-#include "samples/banners.h"
-#include "samples/layout_builder.h"
 #include "support.h"
 
 namespace {

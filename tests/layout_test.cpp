@@ -2,12 +2,12 @@
 
 #include <random>
 
+#include "generate/layout_builder.h"
 #include "layout/file_length.h"
 #include "layout/numbers.h"
 #include "layout/pieces.h"
 #include "layout/text_box.h"
 #include "plain_rules.h"
-#include "samples/layout_builder.h"
 #include "support.h"
 
 namespace {

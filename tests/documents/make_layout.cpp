@@ -11,8 +11,8 @@
 #include <iostream>
 #include <sstream>
 
+#include "generate/layout_builder.h"
 #include "platform/text.h"
-#include "samples/layout_builder.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "samples/banners.h"
+#include "generate/banners.h"
 
 #include <algorithm>
 #include <map>
@@ -7,8 +7,8 @@
 #include "gameinfo/boxes.h"
 #include "gameinfo/composing.h"
 #include "gameinfo/languages.h"
+#include "generate/layout_builder.h"
 #include "platform/text.h"
-#include "samples/layout_builder.h"
 
 namespace {
 

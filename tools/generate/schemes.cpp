@@ -1,4 +1,4 @@
-#include "samples/banners.h"
+#include "generate/banners.h"
 
 namespace {
 

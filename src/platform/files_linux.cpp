@@ -3,7 +3,7 @@
 #include <string>
 
 #include "platform/files.h"
-#include "platform/posix_steps.h"
+#include "platform/linux_steps.h"
 
 std::string Read_Whole(const std::string& path) {
     // Non-blocking, so that a pipe without a writer is refused below and not waited for.

@@ -8,10 +8,10 @@
 #include <string>
 
 #include "colors/scheme.h"
+#include "generate/banners.h"
+#include "generate/texture.h"
 #include "platform/replace_files.h"
 #include "platform/text.h"
-#include "samples/banners.h"
-#include "samples/texture.h"
 
 namespace {
 

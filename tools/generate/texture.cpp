@@ -1,9 +1,9 @@
-#include "samples/texture.h"
+#include "generate/texture.h"
 
 #include <algorithm>
 #include <cmath>
 
-#include "samples/layout_builder.h"
+#include "generate/layout_builder.h"
 
 namespace {
 

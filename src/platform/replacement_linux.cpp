@@ -12,7 +12,7 @@
 #include <thread>
 
 #include "platform/interruptions.h"
-#include "platform/posix_steps.h"
+#include "platform/linux_steps.h"
 #include "platform/replacement.h"
 
 namespace fs = std::filesystem;

@@ -1,4 +1,4 @@
-#include "samples/layout_builder.h"
+#include "generate/layout_builder.h"
 
 #include <bit>
 
