@@ -9,7 +9,7 @@
 #include "desktop/main_window_view.h"
 #include "desktop/qt_desktop.h"
 #include "desktop/widgets.h"
-#include "platform/process.h"
+#include "system/process.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
 // The command line's options on a small layout in memory; where files are named there are none.
 #include <cstdlib>
 
+#include "base/text.h"
 #include "generate/banners.h"
 #include "layout/mod_globals.h"
 #include "mainwindow/form1.h"
-#include "platform/text.h"
 
 namespace {
 

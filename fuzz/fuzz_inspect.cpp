@@ -2,9 +2,9 @@
 #include <string>
 
 #include "inspect/report.h"
-#include "inspect/sections.h"
 #include "inspect/warnings.h"
 #include "layout/kind.h"
+#include "layout/sections.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* bytes, std::size_t size) {
     const std::string data(reinterpret_cast<const char*>(bytes), size);

@@ -1,10 +1,10 @@
 // bannersmith: batch mode itself; without command-line text it hands over to the program with the
 // windows, so that a batch run never pays for a toolkit.
+#include "forms/desktop.h"
 #include "mainwindow/run.h"
 #include "mainwindow/usage.h"
-#include "platform/desktop.h"
-#include "platform/memory.h"
-#include "platform/process.h"
+#include "system/memory.h"
+#include "system/process.h"
 
 namespace {
 

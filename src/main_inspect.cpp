@@ -4,14 +4,14 @@
 #include <string>
 #include <vector>
 
+#include "base/message.h"
+#include "base/text.h"
 #include "inspect/report.h"
-#include "inspect/sections.h"
 #include "inspect/warnings.h"
 #include "layout/kind.h"
-#include "platform/desktop.h"
-#include "platform/files.h"
-#include "platform/process.h"
-#include "platform/text.h"
+#include "layout/sections.h"
+#include "system/files.h"
+#include "system/process.h"
 
 namespace {
 

@@ -10,7 +10,7 @@
 #include "desktop/widgets.h"
 #include "mainwindow/run.h"
 #include "mainwindow/usage.h"
-#include "platform/process.h"
+#include "system/process.h"
 
 namespace {
 

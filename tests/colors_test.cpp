@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "colors/gradients.h"
 #include "colors/scheme.h"
+#include "colors/window/gradients.h"
 
 namespace {
 

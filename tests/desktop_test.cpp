@@ -17,6 +17,7 @@
 #include <QWheelEvent>
 #include <memory>
 
+#include "base/text.h"
 #include "desktop/color_window_view.h"
 #include "desktop/main_window_view.h"
 #include "desktop/preview_view.h"
@@ -28,7 +29,6 @@
 #include "generate/layout_builder.h"
 #include "layout/mod_globals.h"
 #include "mainwindow/form1.h"
-#include "platform/text.h"
 #include "support.h"
 
 namespace {

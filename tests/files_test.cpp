@@ -5,11 +5,11 @@
 #include <unistd.h>
 #include <csignal>
 
-#include "platform/controls.h"
-#include "platform/files.h"
-#include "platform/replace_files.h"
-#include "platform/text.h"
+#include "base/text.h"
+#include "forms/controls.h"
 #include "support.h"
+#include "system/files.h"
+#include "system/replace_files.h"
 
 namespace {
 

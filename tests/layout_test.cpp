@@ -2,9 +2,9 @@
 
 #include <random>
 
+#include "base/numbers.h"
 #include "generate/layout_builder.h"
 #include "layout/file_length.h"
-#include "layout/numbers.h"
 #include "layout/pieces.h"
 #include "layout/text_box.h"
 #include "plain_rules.h"

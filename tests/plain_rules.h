@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "layout/numbers.h"
+#include "base/numbers.h"
 #include "layout/text_box.h"
 
 /// The rules of lookup and writing in their plainest form: split, search and replace as strings.

@@ -3,10 +3,10 @@
 #include <unordered_map>
 #include <utility>
 
+#include "base/numbers.h"
+#include "base/text.h"
 #include "gameinfo/languages.h"
 #include "layout/mod_globals.h"
-#include "layout/numbers.h"
-#include "platform/text.h"
 
 namespace {
 

@@ -10,10 +10,10 @@
 #include <string_view>
 #include <vector>
 
+#include "base/failure.h"
 #include "colors/scheme.h"
 #include "gameinfo/boxes.h"
 #include "gameinfo/game_info.h"
-#include "platform/failure.h"
 
 /// Where the colours of an element lie: in one material, or, for a text, in one of each language.
 struct ElementMaterial {

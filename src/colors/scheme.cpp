@@ -4,8 +4,8 @@
 #include <charconv>
 #include <vector>
 
-#include "platform/files.h"
-#include "platform/text.h"
+#include "base/text.h"
+#include "system/files.h"
 
 namespace {
 

@@ -2,28 +2,11 @@
 #pragma once
 
 #include <array>
-#include <cstdint>
 #include <string>
 #include <string_view>
 
-#include "platform/desktop.h"
-#include "platform/failure.h"
-
-/// The components of a colour value, 0 to 255 each.
-constexpr std::uint8_t Red_Of(Color color) {
-    return color & 0xFF;
-}
-constexpr std::uint8_t Green_Of(Color color) {
-    return color >> 8 & 0xFF;
-}
-constexpr std::uint8_t Blue_Of(Color color) {
-    return color >> 16 & 0xFF;
-}
-
-/// The colour value of three components.
-constexpr Color Make_Color(std::uint8_t red, std::uint8_t green, std::uint8_t blue) {
-    return static_cast<Color>(red | green << 8 | blue << 16);
-}
+#include "base/color.h"
+#include "base/failure.h"
 
 /// First and second colour of one element.
 using ColorPair = std::array<Color, 2>;

@@ -8,7 +8,7 @@
 #include <QLineEdit>
 
 #include "desktop/widgets.h"
-#include "platform/controls.h"
+#include "forms/controls.h"
 
 /// Each shows the control now and from here on, and passes on what a person does.
 void Bind(QLineEdit& edit, TextBox& box);

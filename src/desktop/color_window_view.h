@@ -1,6 +1,6 @@
 #pragma once
 
-#include "colors/frm_color.h"
+#include "colors/window/frm_color.h"
 #include "desktop/second_window.h"
 
 class QBoxLayout;

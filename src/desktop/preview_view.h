@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-#include "colors/preview.h"
+#include "colors/window/preview.h"
 
 /// Paints a preview at the scale that fits the widget, in the middle of its width. Its upper edge
 /// is `Top` twips from that of the window that the preview is laid out for.

@@ -9,11 +9,13 @@
 #include <QInputDialog>
 #include <QMessageBox>
 
-#include "colors/scheme.h"
+#include "base/message.h"
+#include "base/text.h"
+#include "base/color.h"
 #include "desktop/fonts.h"
 #include "desktop/text.h"
 #include "desktop/widgets.h"
-#include "platform/text.h"
+#include "system/code_page.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/desktop.h"
+#include "forms/desktop.h"
 
 /// The desktop through the toolkit: modal boxes over the active window. Failures also go to
 /// standard error.

@@ -3,7 +3,7 @@
 #include <QDialog>
 #include <functional>
 
-#include "platform/controls.h"
+#include "forms/controls.h"
 
 /// What the views of the windows beside the main one share. `closed` runs once, when the user has
 /// closed the window; the unit may be gone afterwards, and the view deletes itself.

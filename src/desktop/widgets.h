@@ -11,8 +11,8 @@
 #include <QWidget>
 #include <functional>
 
-#include "platform/controls.h"
-#include "platform/desktop.h"
+#include "forms/controls.h"
+#include "forms/desktop.h"
 
 /// A colour of the windows as the toolkit has it.
 QColor Shown_Color(Color color);

@@ -2,9 +2,9 @@
 
 #include <utility>
 
+#include "base/text.h"
 #include "layout/mod_globals.h"
 #include "layout/text_box.h"
-#include "platform/text.h"
 
 std::u16string Read_Box(std::u16string_view name) {
     const auto bytes = To_Bytes(name);

@@ -2,8 +2,8 @@
 
 #include <span>
 
+#include "base/text.h"
 #include "gameinfo/languages.h"
-#include "platform/text.h"
 
 namespace {
 

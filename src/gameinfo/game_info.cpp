@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <vector>
 
+#include "base/text.h"
 #include "gameinfo/boxes.h"
 #include "gameinfo/composing.h"
 #include "gameinfo/languages.h"
-#include "platform/text.h"
 
 namespace {
 

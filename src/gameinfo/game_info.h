@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/controls.h"
+#include "forms/controls.h"
 
 /// The language in whose wording the loaded banner's language-neutral boxes are composed; empty for
 /// a banner with a name of its own for some language. Set by `GameInfo::Refill`, read by Set and

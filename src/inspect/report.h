@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
-#include "inspect/sections.h"
 #include "inspect/warnings.h"
+#include "layout/sections.h"
 
 /// What the inspect tool says about one file.
 struct FileReport {

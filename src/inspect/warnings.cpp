@@ -4,11 +4,11 @@
 #include <span>
 #include <utility>
 
+#include "base/numbers.h"
+#include "base/text.h"
 #include "colors/materials.h"
-#include "layout/numbers.h"
 #include "layout/pieces.h"
 #include "layout/record.h"
-#include "platform/text.h"
 
 namespace {
 

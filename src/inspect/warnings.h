@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "inspect/sections.h"
+#include "layout/sections.h"
 
 /// Something about a layout that an edit would not rewrite cleanly.
 struct Warning {

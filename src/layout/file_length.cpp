@@ -1,6 +1,6 @@
 #include "layout/file_length.h"
 
-#include "layout/numbers.h"
+#include "base/numbers.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "layout/record.h"
 
-#include "layout/numbers.h"
+#include "base/numbers.h"
 
 namespace record {
 

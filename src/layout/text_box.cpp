@@ -4,7 +4,7 @@
 #include <limits>
 #include <optional>
 
-#include "layout/numbers.h"
+#include "base/numbers.h"
 #include "layout/pieces.h"
 #include "layout/record.h"
 

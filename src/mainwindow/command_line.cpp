@@ -3,13 +3,13 @@
 #include <array>
 #include <new>
 
+#include "base/text.h"
 #include "colors/materials.h"
 #include "gameinfo/boxes.h"
 #include "gameinfo/composing.h"
 #include "layout/mod_globals.h"
 #include "mainwindow/form1.h"
-#include "platform/files.h"
-#include "platform/text.h"
+#include "system/files.h"
 
 namespace {
 

@@ -3,12 +3,13 @@
 #include <algorithm>
 #include <utility>
 
-#include "colors/scheme_list.h"
+#include "base/text.h"
+#include "colors/window/scheme_list.h"
 #include "gameinfo/languages.h"
 #include "layout/kind.h"
 #include "layout/mod_globals.h"
-#include "platform/files.h"
-#include "platform/text.h"
+#include "system/code_page.h"
+#include "system/files.h"
 
 namespace {
 

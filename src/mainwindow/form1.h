@@ -9,14 +9,14 @@
 #include <string_view>
 #include <vector>
 
-#include "colors/frm_color.h"
+#include "colors/window/frm_color.h"
+#include "forms/controls.h"
+#include "forms/desktop.h"
 #include "gameinfo/game_info.h"
 #include "layout/file_length.h"
 #include "manualeditor/frm_hc.h"
-#include "platform/controls.h"
-#include "platform/desktop.h"
-#include "platform/files.h"
-#include "platform/replace_files.h"
+#include "system/files.h"
+#include "system/replace_files.h"
 
 /// The main window as state and events, and the batch run. There is one at a time: the layout that
 /// it works on is the program's one `BrlytData`.

@@ -1,9 +1,9 @@
 #include "mainwindow/region_force.h"
 
+#include "base/text.h"
 #include "gameinfo/boxes.h"
 #include "gameinfo/languages.h"
 #include "layout/text_box.h"
-#include "platform/text.h"
 
 namespace {
 

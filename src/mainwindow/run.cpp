@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
+#include "base/text.h"
 #include "mainwindow/form1.h"
-#include "platform/process.h"
-#include "platform/text.h"
+#include "system/process.h"
 
 namespace {
 

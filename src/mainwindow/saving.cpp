@@ -3,6 +3,7 @@
 #include <new>
 #include <utility>
 
+#include "base/text.h"
 #include "colors/materials.h"
 #include "gameinfo/boxes.h"
 #include "gameinfo/languages.h"
@@ -12,8 +13,7 @@
 #include "layout/text_box.h"
 #include "mainwindow/form1.h"
 #include "mainwindow/region_force.h"
-#include "platform/files.h"
-#include "platform/text.h"
+#include "system/files.h"
 
 namespace {
 

@@ -2,14 +2,14 @@
 #include <algorithm>
 #include <array>
 
+#include "base/text.h"
 #include "gameinfo/boxes.h"
 #include "gameinfo/languages.h"
 #include "layout/kind.h"
 #include "layout/mod_globals.h"
 #include "layout/text_box.h"
 #include "mainwindow/form1.h"
-#include "platform/files.h"
-#include "platform/text.h"
+#include "system/files.h"
 
 namespace {
 

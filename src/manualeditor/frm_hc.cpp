@@ -1,9 +1,9 @@
 #include "manualeditor/frm_hc.h"
 
+#include "base/text.h"
 #include "gameinfo/boxes.h"
 #include "layout/mod_globals.h"
 #include "layout/text_box.h"
-#include "platform/text.h"
 
 frmHC::frmHC(Form& main_form, GameInfo& info) : main_form_(main_form), info_(info) {
     cmbHC.Click = [this] { cmbHC_Click(); };

@@ -1,8 +1,8 @@
 // The manual text editor: the raw text of any text box of the loaded layout.
 #pragma once
 
+#include "forms/controls.h"
 #include "gameinfo/game_info.h"
-#include "platform/controls.h"
 
 /// The editor as state and events. What it writes goes into `BrlytData` at once.
 class frmHC {

@@ -11,8 +11,8 @@
 #include <iostream>
 #include <sstream>
 
+#include "base/text.h"
 #include "generate/layout_builder.h"
-#include "platform/text.h"
 
 namespace {
 

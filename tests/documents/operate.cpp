@@ -21,11 +21,11 @@
 #include <sstream>
 #include <variant>
 
+#include "base/text.h"
 #include "gameinfo/boxes.h"
 #include "layout/mod_globals.h"
 #include "mainwindow/form1.h"
-#include "platform/process.h"
-#include "platform/text.h"
+#include "system/process.h"
 
 namespace {
 

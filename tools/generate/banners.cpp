@@ -4,11 +4,11 @@
 #include <map>
 #include <string_view>
 
+#include "base/text.h"
 #include "gameinfo/boxes.h"
 #include "gameinfo/composing.h"
 #include "gameinfo/languages.h"
 #include "generate/layout_builder.h"
-#include "platform/text.h"
 
 namespace {
 

@@ -7,11 +7,11 @@
 #include <stdexcept>
 #include <string>
 
+#include "base/text.h"
 #include "colors/scheme.h"
 #include "generate/banners.h"
 #include "generate/texture.h"
-#include "platform/replace_files.h"
-#include "platform/text.h"
+#include "system/replace_files.h"
 
 namespace {
 

@@ -1,0 +1,197 @@
+#include "colors/window/frm_color.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <optional>
+#include <utility>
+
+#include "base/text.h"
+#include "colors/materials.h"
+#include "colors/window/scheme_list.h"
+#include "system/files.h"
+#include "system/replace_files.h"
+
+namespace {
+
+constexpr std::u16string_view NotFound = u"NF";
+
+/// The whole number that a text stands for; nothing when it is none that fits 16 bits.
+std::optional<int> Whole_Number(std::u16string_view text) {
+    const std::string digits = To_Utf8(Trim(text));
+    const char* first = digits.data() + (digits.starts_with('+') ? 1 : 0);
+    const char* last = digits.data() + digits.size();
+    double number = 0;
+    const auto [end, error] = std::from_chars(first, last, number);
+    if (error != std::errc() || end != last || digits.starts_with("+-")) return std::nullopt;
+    const double whole = std::nearbyint(number);  // halves go to the even neighbour
+    using Limits = std::numeric_limits<std::int16_t>;
+    if (!(whole >= Limits::min() && whole <= Limits::max())) return std::nullopt;
+    return static_cast<int>(whole);
+}
+
+}  // namespace
+
+std::u16string Set_Pic_Colors_brlyt(std::string_view data, std::string_view name, ColorBox& first,
+                                    ColorBox& second) {
+    ColorPair colors{};
+    if (!Get_Mat_Colors(data, name, colors)) return std::u16string(NotFound);
+    first.Set(colors[0]);
+    second.Set(colors[1]);
+    return {};
+}
+
+std::u16string VbColor2RGB(Color color) {
+    return From_Utf8(std::to_string(Red_Of(color)) + "|" + std::to_string(Green_Of(color)) + "|" +
+                     std::to_string(Blue_Of(color)));
+}
+
+frmColor::frmColor(MainWindowForColors main, std::u16string program_folder, Desktop& desktop)
+    : preview(desktop), main_(main), program_folder_(std::move(program_folder)), desktop_(desktop) {
+    cmbFileList.Click = [this] { cmbFileList_Click(); };
+    for (TextBox* box : {&txtR, &txtG, &txtB}) box->Change = [this] { UpDatePicClr(); };
+}
+
+void frmColor::Form_Load() {
+    RefreshColorList(true);
+    txtBannerPath.Set(main_.txtSrc.Text());
+    cmbFileList.Select(main_.cmbFileList.Index());
+}
+
+void frmColor::Form_Unload() {
+    main_.form.Set_Enabled(true);
+    main_.cmbFileList.Select(cmbFileList.Index());
+}
+
+void frmColor::RefreshColorList(bool dont_Set) {
+    Fill_Scheme_List(cmbFileList, File1, program_folder_);
+    if (dont_Set) return;
+    Fill_Scheme_List(main_.cmbFileList, File1, program_folder_);
+    main_.cmbFileList.Select(cmbFileList.Index());
+}
+
+void frmColor::cmbFileList_Click() {
+    if (cmbFileList.Index() == DropDownList::NoSelection) return;
+    if (cmbFileList.Index() == 0) {
+        cmdGetScheme_Click();
+    } else {
+        Load_Scheme_Colors(cmbFileList.Selected());
+    }
+}
+
+void frmColor::cmdGetScheme_Click() {
+    std::u16string path = txtBannerPath.Text();
+    if (path.starts_with(u'\\')) path.insert(0, program_folder_ + u"\\");
+    if (!Ordinary_File_Exists(path)) {
+        desktop_.Message(u"File Not Found!");
+        return;
+    }
+    std::string data;
+    if (const auto failure = Read_File(path, data)) {
+        desktop_.Report(*failure);
+        return;
+    }
+    Read_Element_Set(data);
+    MakePreview();
+}
+
+void frmColor::Read_Element_Set(std::string_view data) {
+    for (std::size_t i = 0; i < pic.size(); ++i) {
+        const auto& [material, text] = ElementMaterials[i];
+        std::u16string name(material);
+        if (text) name += main_.info.cmbRegion[*text].Selected();
+        const auto found = Set_Pic_Colors_brlyt(data, To_Utf8(name), pic[i][0], pic[i][1]);
+        if (found == NotFound && text) {
+            Set_Pic_Colors_brlyt(data, To_Utf8(Neutral_Box(material)), pic[i][0], pic[i][1]);
+        }
+    }
+}
+
+Scheme frmColor::Colors() const {
+    Scheme scheme{};
+    for (std::size_t i = 0; i < pic.size(); ++i) scheme[i] = {pic[i][0].Value(), pic[i][1].Value()};
+    return scheme;
+}
+
+void frmColor::cmdSaveScheme_Click() {
+    const std::u16string name = desktop_.Ask(u"Type a Name for the New Scheme", u"Save Scheme");
+    if (name.empty()) return;
+    Outcome failure;
+    if (name.starts_with(u'.') || name.find_first_of(u"\\/") != name.npos) {
+        failure = Failure{name, "A scheme's name cannot begin with . or hold \\ or /"};
+    } else {
+        failure = Replace_File(Scheme_Path(program_folder_, name), Format_Scheme(Colors()),
+                               [this](const Failure& loss) { desktop_.Report(loss); });
+    }
+    if (failure) {
+        desktop_.Report(*failure);
+        return;
+    }
+    desktop_.Message(u"Color Scheme saved as " + name);
+    RefreshColorList();
+}
+
+frmColor::Boxes* frmColor::Find_Boxes(std::u16string_view key) {
+    const auto found = std::find(ElementKeys.begin(), ElementKeys.end(), key);
+    return found == ElementKeys.end() ? nullptr
+                                      : &pic[static_cast<std::size_t>(found - ElementKeys.begin())];
+}
+
+/// Each of the three texts runs `UpDatePicClr` as it changes.
+void frmColor::Show_Components(Color color) {
+    const std::u16string components = VbColor2RGB(color);
+    txtR.Set(Piece_Of(components, u'|', 0));
+    txtG.Set(Piece_Of(components, u'|', 1));
+    txtB.Set(Piece_Of(components, u'|', 2));
+}
+
+void frmColor::pic_Click(std::u16string_view key, std::int16_t Index) {
+    const Boxes* boxes = Find_Boxes(key);
+    if (boxes == nullptr || Index < 0 || Index > 1) return;
+    Show_Components((*boxes)[static_cast<std::size_t>(Index)].Value());
+    lblEdit.Set(std::u16string(key) + (Index == 0 ? u" 0" : u" 1"));
+    UpDatePicClr();
+}
+
+void frmColor::UpDatePicClr() {
+    const auto red = Whole_Number(txtR.Text());
+    const auto green = Whole_Number(txtG.Text());
+    const auto blue = Whole_Number(txtB.Text());
+    if (!red || !green || !blue) return;
+    const auto component = [](int number) {
+        return static_cast<std::uint8_t>(std::clamp(number, 0, WholeByte));
+    };
+    picClr.Set(Make_Color(component(*red), component(*green), component(*blue)));
+}
+
+void frmColor::picClr_Click() {
+    picClr.Set(desktop_.Choose_Color(picClr.Value()));
+    Show_Components(picClr.Value());
+}
+
+void frmColor::cmdColor_Click() {
+    Boxes* boxes = Find_Boxes(Piece_Of(lblEdit.Caption(), u' ', 0));
+    if (boxes != nullptr) {
+        const bool second = Piece_Of(lblEdit.Caption(), u' ', 1) == u"1";
+        (*boxes)[second ? 1 : 0].Set(picClr.Value());
+    }
+    MakePreview();
+}
+
+void frmColor::Load_Scheme_Colors(std::u16string_view name) {
+    Scheme scheme{};
+    if (const auto failure = Load_Scheme(program_folder_, name, scheme)) {
+        desktop_.Report(*failure);
+        return;
+    }
+    for (std::size_t i = 0; i < pic.size(); ++i) {
+        pic[i][0].Set(scheme[i][0]);
+        pic[i][1].Set(scheme[i][1]);
+    }
+    MakePreview();
+}
+
+void frmColor::MakePreview() {
+    preview.Draw(Colors(), main_.info);
+}

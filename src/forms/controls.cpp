@@ -1,0 +1,7 @@
+#include "forms/controls.h"
+
+#include "system/files.h"
+
+Outcome FileList::Set_Path(const std::u16string& folder) {
+    return List_Files(folder, ending_, names_);
+}

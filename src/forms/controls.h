@@ -1,0 +1,197 @@
+// The controls of the windows as state and events, without drawing. The windows' logic is written
+// against these types; a view mirrors them into a toolkit's widgets, or nothing does.
+//
+// Changing a text or a selection from code runs the event's handler before the call returns, and
+// only when the value changes. What a person does comes in through the member functions that say
+// so.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "forms/desktop.h"
+
+/// What happens on an event: nothing until a handler is set.
+class Event {
+ public:
+    /// Sets the handler in place of the one before.
+    void operator=(std::function<void()> handler) { handler_ = std::move(handler); }
+    /// Runs the handler before it returns.
+    void Raise() const {
+        if (handler_) handler_();
+    }
+
+ private:
+    std::function<void()> handler_;
+};
+
+/// What all controls share: `Shown` runs after every change of state, in front of the control's own
+/// event, so that a view is never behind the handlers.
+class Control {
+ public:
+    Event Shown;
+};
+
+/// A box with one line of text.
+class TextBox : public Control {
+ public:
+    Event Change;  ///< the text is another one
+
+    /// Begins with `text` and raises nothing.
+    explicit TextBox(std::u16string text = {}) : text_(std::move(text)) {}
+
+    /// What the box shows.
+    const std::u16string& Text() const { return text_; }
+
+    /// From code or typed by a person: raises `Change` when the text is another one.
+    void Set(std::u16string_view text) {
+        if (text == text_) return;
+        text_ = text;
+        Shown.Raise();
+        Change.Raise();
+    }
+
+ private:
+    std::u16string text_;
+};
+
+/// A list from which a person picks one entry and into which nothing can be typed.
+class DropDownList : public Control {
+ public:
+    static constexpr int NoSelection = -1;  ///< the index where nothing is selected
+
+    Event Click;  ///< the selection changed, or a person picked an entry
+
+    /// Begins with `entries`, nothing selected.
+    explicit DropDownList(std::vector<std::u16string> entries = {})
+        : entries_(std::move(entries)) {}
+
+    /// The entries from the first to the last, their number, and the selected one's index from 0.
+    const std::vector<std::u16string>& Entries() const { return entries_; }
+    int Count() const { return static_cast<int>(entries_.size()); }
+    int Index() const { return index_; }
+    /// Whether the last entry is selected; also true of an empty list.
+    bool On_Last_Entry() const { return index_ == Count() - 1; }
+
+    /// The text of the selected entry; empty when none is selected.
+    std::u16string Selected() const {
+        return index_ == NoSelection ? std::u16string()
+                                     : entries_[static_cast<std::size_t>(index_)];
+    }
+
+    /// Empties the list, which leaves nothing selected and raises no event.
+    void Clear() {
+        entries_.clear();
+        index_ = NoSelection;
+        Shown.Raise();
+    }
+
+    /// Appends entries, which can be many, and raises no event.
+    void Add(const std::vector<std::u16string>& entries) {
+        entries_.insert(entries_.end(), entries.begin(), entries.end());
+        Shown.Raise();
+    }
+
+    /// From code: raises `Click` when the selection changes. An index that is none of the list's is
+    /// taken as no selection.
+    void Select(int index) {
+        if (index < 0 || index >= Count()) index = NoSelection;
+        if (index == index_) return;
+        index_ = index;
+        Shown.Raise();
+        Click.Raise();
+    }
+
+    /// By a person: raises `Click` also when the entry was selected already.
+    void Pick(int index) {
+        if (index == index_) {
+            Click.Raise();
+        } else {
+            Select(index);
+        }
+    }
+
+ private:
+    std::vector<std::u16string> entries_;
+    int index_ = NoSelection;
+};
+
+/// A window as a whole.
+class Form : public Control {
+ public:
+    /// Hidden until it is shown.
+    bool Visible() const { return visible_; }
+    /// Whether a person can work in it.
+    bool Enabled() const { return enabled_; }
+
+    /// Shows the window and returns at once.
+    void Show() { Change(visible_, true); }
+    /// Lets a person work in the window or not.
+    void Set_Enabled(bool enabled) { Change(enabled_, enabled); }
+
+ private:
+    void Change(bool& state, bool value) {
+        if (state == value) return;
+        state = value;
+        Shown.Raise();
+    }
+
+    bool visible_ = false;
+    bool enabled_ = true;
+};
+
+/// Enumerates the files of a folder that match a pattern. The listing is that of the moment when
+/// the folder was last set.
+class FileList {
+ public:
+    /// `ending`: what the names end in, for example ".tpl" for the pattern "*.tpl".
+    explicit FileList(std::string_view ending) : ending_(ending) {}
+
+    /// Lists `folder`: file names sorted by name; none where it fails.
+    Outcome Set_Path(const std::u16string& folder);
+
+    /// The names as they were listed, without their folder.
+    const std::vector<std::u16string>& Names() const { return names_; }
+
+ private:
+    std::string ending_;
+    std::vector<std::u16string> names_;
+};
+
+/// A text that the user cannot edit.
+class Label : public Control {
+ public:
+    /// What the label shows.
+    const std::u16string& Caption() const { return caption_; }
+
+    /// Shows another text; raises no event of its own.
+    void Set(std::u16string_view caption) {
+        if (caption == caption_) return;
+        caption_ = caption;
+        Shown.Raise();
+    }
+
+ private:
+    std::u16string caption_;
+};
+
+/// A box of one colour that can be clicked.
+class ColorBox : public Control {
+ public:
+    /// The box's colour, light grey at first.
+    Color Value() const { return color_; }
+
+    /// Shows another colour; raises no event of its own.
+    void Set(Color color) {
+        if (color == color_) return;
+        color_ = color;
+        Shown.Raise();
+    }
+
+ private:
+    static constexpr Color LightGrey = 0xE0E0E0;
+
+    Color color_ = LightGrey;
+};

@@ -1,0 +1,69 @@
+// What the windows ask of the desktop and of the process they run in.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "base/color.h"
+#include "base/failure.h"
+
+/// Where and how the program was started.
+struct Process {
+    std::u16string program_folder;  ///< folder of the executable, no separator at its end
+    std::u16string command_line;    ///< everything after the program's name, as one text
+};
+
+/// A font by the family's name and its size in points. A family that is not installed is replaced
+/// by one that has Japanese characters.
+struct Font {
+    std::u16string_view family;
+    float points = 0;
+};
+
+/// The questions, messages and measures of the windows. A call returns when the user has answered.
+class Desktop {
+ public:
+    virtual ~Desktop() = default;
+
+    /// Shows `text` with an OK button.
+    virtual void Message(const std::u16string& text) = 0;
+
+    /// Whether the user says yes to `question`; whoever only presses Enter says no.
+    virtual bool Confirm(const std::u16string& question) = 0;
+
+    /// Tells the user what went wrong with what.
+    virtual void Report(const Failure& failure) = 0;
+
+    /// The full path of a file of the user's choice, or an empty text when there was none.
+    /// `filter`: pairs of a description and a pattern, all separated by "|". `last`: the path of
+    /// the file chosen last, in whose folder the choice begins if it is there.
+    virtual std::u16string Open_File(const std::u16string& filter, const std::u16string& last) = 0;
+
+    /// The user's answer to `prompt`, under `title`; empty when there was none.
+    virtual std::u16string Ask(const std::u16string& prompt, const std::u16string& title) = 0;
+
+    /// The colour that the user chooses, `color` being the one to begin with and the one that stays
+    /// when there was no choice.
+    virtual Color Choose_Color(Color color) = 0;
+
+    /// The width of a line of text in twips (1/1440 inch).
+    virtual float Text_Width(std::u16string_view text, const Font& font) = 0;
+
+    /// What is left of `text` in a control that shows the system's code page only. On systems whose
+    /// code page has every character, all of it.
+    virtual std::u16string In_Code_Page(std::u16string_view text) = 0;
+};
+
+/// A run without windows: failures go to standard error as one line each, "bannersmith: SUBJECT:
+/// REASON"; messages are not shown, every question is left unanswered and nothing is confirmed.
+class NoDesktop : public Desktop {
+ public:
+    void Message(const std::u16string& text) override;
+    bool Confirm(const std::u16string& question) override;
+    void Report(const Failure& failure) override;
+    std::u16string Open_File(const std::u16string& filter, const std::u16string& last) override;
+    std::u16string Ask(const std::u16string& prompt, const std::u16string& title) override;
+    Color Choose_Color(Color color) override;
+    float Text_Width(std::u16string_view text, const Font& font) override;
+    std::u16string In_Code_Page(std::u16string_view text) override;
+};

@@ -1,7 +1,0 @@
-#include "platform/controls.h"
-
-#include "platform/files.h"
-
-Outcome FileList::Set_Path(const std::u16string& folder) {
-    return List_Files(folder, ending_, names_);
-}

@@ -1,0 +1,42 @@
+// Paths and files. A path text is kept as the user composed it; only here, where it meets the file
+// system, are its separators converted. On every system "\" separates the parts of a path, beside
+// the system's own separator.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/failure.h"
+
+/// Whether `path` stands alone: its second character is ":", or on POSIX its first is "/".
+bool Is_Full_Path(std::u16string_view path);
+
+/// Whether `path` ends in a separator, so names a folder.
+bool Ends_In_Separator(std::u16string_view path);
+
+/// `path` with each separator written as "\".
+std::u16string With_Backslashes(std::u16string_view path);
+
+/// `path` with `program_folder` in front of it where it begins with "\"; otherwise unchanged.
+std::u16string Resolve(std::u16string_view program_folder, std::u16string_view path);
+
+/// Whether a search for an ordinary file finds something: a regular file, also through a link. A
+/// path that ends in a separator finds any regular file of that folder.
+bool Ordinary_File_Exists(const std::u16string& path);
+
+/// Whether both paths lead to one file that is there.
+bool Same_File(const std::u16string& a, const std::u16string& b);
+
+/// Sets `found` to whether `path` names a folder, with or without a separator at its end. Fails
+/// only where that cannot be told.
+Outcome Find_Folder(const std::u16string& path, bool& found);
+
+/// Sets `names` to the regular files of `folder` that end in `ending` whatever its case (".tpl"),
+/// sorted by name without case. Hidden files, whose names begin with a dot, are left out. On
+/// failure `names` is empty.
+Outcome List_Files(const std::u16string& folder, std::string_view ending,
+                   std::vector<std::u16string>& names);
+
+/// Reads a regular file whole into `bytes`. On failure `bytes` is left as it was.
+Outcome Read_File(const std::u16string& path, std::string& bytes);

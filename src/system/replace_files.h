@@ -1,0 +1,66 @@
+// Replacing files on the disk so that none is ever lost: several as a whole, each old or new whole
+// at any moment, and only one run of Bannersmith in a folder at a time.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <span>
+#include <string>
+
+#include "base/failure.h"
+
+/// Keeps other runs of Bannersmith from changing files of one folder, from `Take` to the end of the
+/// object. Advisory: other programs do not know of it, and where the file system has no locks it
+/// keeps nobody out.
+class FolderLock {
+ public:
+    /// The system's part: the folder, held open.
+    struct Folder;
+
+    FolderLock();
+    FolderLock(FolderLock&& other) noexcept;
+    FolderLock& operator=(FolderLock&& other) noexcept;
+    ~FolderLock();
+
+    /// Takes the folder of the file at `path`, or of the one that a link there leads to, in place
+    /// of the folder held before. Waits for other runs, ten seconds at the most, and fails then. A
+    /// folder that cannot be opened is not held, which is no failure.
+    Outcome Take(const std::u16string& path);
+
+    /// The folder held, or null.
+    const Folder* Held() const { return folder_.get(); }
+
+ private:
+    std::unique_ptr<Folder> folder_;
+};
+
+/// What a file is to hold from now on.
+struct NewContents {
+    std::u16string path;
+    std::string bytes;
+};
+
+/// Told, when all files are in place, of what could not be kept of an old file, or stays behind.
+using Notice = std::function<void(const Failure& loss)>;
+
+/// Puts the bytes of each entry in the place of its file, or makes a new file there, all or none:
+/// on failure the old files are there as they were and nothing is left beside them. The failure
+/// names the entry's path. The one exception, new files that could neither be made safe nor be
+/// taken back, is told in the reason. A later entry for the same file wins.
+///
+/// All bytes are first written to temporary files in the files' own folders, ".bannersmith-" and
+/// numbers, which take over mode, owner, group, access control list and extended attributes of the
+/// old files; only then each takes its file's place, in one step, so that at each moment the old or
+/// the new file is there whole. When the call returns, a crash of the machine loses nothing. What
+/// cannot be taken over goes to `notice`; on Windows the system takes it over without telling. A
+/// file never keeps the right to run as its owner or group. A link stays a link: the file it leads
+/// to is replaced. A file without write permission, a folder, a pipe and a device are refused.
+///
+/// Other runs are kept out of the folders meanwhile, unless the caller holds one in `lock`; what a
+/// run that was killed left in them is removed. A signal that would end the process takes effect
+/// after the call, or before the first file changes.
+Outcome Replace_Files(std::span<const NewContents> files, const FolderLock& lock = {},
+                      const Notice& notice = {});
+
+/// `Replace_Files` for one file.
+Outcome Replace_File(const std::u16string& path, std::string_view bytes, const Notice& notice = {});
