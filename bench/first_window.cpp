@@ -11,6 +11,8 @@
 #include "desktop/widgets.h"
 #include "system/process.h"
 
+using namespace bannersmith;
+
 namespace {
 
 /// Ends the process behind the first painting of a window.

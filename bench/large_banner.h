@@ -4,6 +4,8 @@
 
 #include "generate/layout_builder.h"
 
+namespace bannersmith {
+
 /// A layout of about `bytes` bytes with `boxes` text boxes: those of seven languages first, others behind
 /// them, spread over the file by sections that hold neither names nor tags. Buffers are larger than their
 /// texts, so the first save rewrites every box.
@@ -29,3 +31,5 @@ inline std::string Large_Banner(std::size_t bytes, std::size_t boxes) {
     sections.push_back(Empty_Section("gre1"));
     return Layout_File(sections);
 }
+
+}  // namespace bannersmith

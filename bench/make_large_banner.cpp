@@ -4,6 +4,8 @@
 
 #include "large_banner.h"
 
+using namespace bannersmith;
+
 int main(int argc, char** argv) {
     if (argc != 3) return 1;
     const std::string banner = Large_Banner(std::strtoul(argv[1], nullptr, 10), std::strtoul(argv[2], nullptr, 10));

@@ -13,6 +13,8 @@
 #include "generate/banners.h"
 #include "layout/mod_globals.h"
 
+using namespace bannersmith;
+
 namespace {
 
 constexpr double Scale = 1 / PreviewView::TwipsPerPixel;

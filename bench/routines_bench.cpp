@@ -10,6 +10,8 @@
 #include "layout/text_box.h"
 #include "mainwindow/region_force.h"
 
+using namespace bannersmith;
+
 namespace {
 
 std::string Banner(const benchmark::State& state) {

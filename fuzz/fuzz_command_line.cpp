@@ -6,6 +6,8 @@
 #include "layout/mod_globals.h"
 #include "mainwindow/form1.h"
 
+using namespace bannersmith;
+
 namespace {
 
 /// Counts failures in place of telling them.

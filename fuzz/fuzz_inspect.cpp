@@ -6,6 +6,8 @@
 #include "layout/kind.h"
 #include "layout/sections.h"
 
+using namespace bannersmith;
+
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* bytes, std::size_t size) {
     const std::string data(reinterpret_cast<const char*>(bytes), size);
     if (!Is_Layout(data)) return 0;

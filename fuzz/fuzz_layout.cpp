@@ -9,6 +9,8 @@
 #include "mainwindow/region_force.h"
 #include "plain_rules.h"
 
+using namespace bannersmith;
+
 namespace {
 
 using namespace std::string_literals;

@@ -4,6 +4,8 @@
 
 #include "colors/scheme.h"
 
+using namespace bannersmith;
+
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* bytes, std::size_t size) {
     const Scheme before{};
     Scheme scheme = before, again = before;

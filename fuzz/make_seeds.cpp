@@ -6,6 +6,8 @@
 #include "generate/banners.h"
 #include "generate/layout_builder.h"
 
+using namespace bannersmith;
+
 namespace {
 
 namespace fs = std::filesystem;

@@ -6,6 +6,8 @@
 #include "system/memory.h"
 #include "system/process.h"
 
+using namespace bannersmith;
+
 namespace {
 
 /// On success the windows have taken over; the exit status otherwise.

@@ -13,6 +13,8 @@
 #include "system/files.h"
 #include "system/process.h"
 
+using namespace bannersmith;
+
 namespace {
 
 constexpr char Usage[] =

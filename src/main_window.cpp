@@ -12,6 +12,8 @@
 #include "mainwindow/usage.h"
 #include "system/process.h"
 
+using namespace bannersmith;
+
 namespace {
 
 int No_Display() {

@@ -3,6 +3,8 @@
 #include "colors/scheme.h"
 #include "colors/window/gradients.h"
 
+using namespace bannersmith;
+
 namespace {
 
 TEST(Gradients, FadeBandByBand) {

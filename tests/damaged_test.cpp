@@ -12,6 +12,8 @@
 #include "layout/text_box.h"
 #include "mainwindow/region_force.h"
 
+using namespace bannersmith;
+
 namespace {
 
 /// The bytes behind the header's length field that a save of `damaged`, edited in every way, writes.

@@ -31,6 +31,8 @@
 #include "mainwindow/form1.h"
 #include "support.h"
 
+using namespace bannersmith;
+
 namespace {
 
 constexpr char Layout[] = "b/arc/blyt/banner.brlyt";

@@ -11,6 +11,8 @@
 #include "system/files.h"
 #include "system/replace_files.h"
 
+using namespace bannersmith;
+
 namespace {
 
 namespace fs = std::filesystem;

@@ -2,6 +2,8 @@
 
 #include "gameinfo/composing.h"
 
+using namespace bannersmith;
+
 namespace {
 
 TEST(Composing, PutsTheWordingIntoTheValue) {

@@ -10,6 +10,8 @@
 #include "plain_rules.h"
 #include "support.h"
 
+using namespace bannersmith;
+
 namespace {
 
 using namespace std::string_literals;

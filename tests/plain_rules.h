@@ -6,6 +6,8 @@
 #include "base/numbers.h"
 #include "layout/text_box.h"
 
+namespace bannersmith {
+
 /// The rules of lookup and writing in their plainest form: split, search and replace as strings.
 namespace plain {
 
@@ -64,3 +66,5 @@ inline std::string Set(const std::string& data, std::string name, const std::u16
 }
 
 }  // namespace plain
+
+}  // namespace bannersmith

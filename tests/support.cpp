@@ -6,6 +6,8 @@
 #include <fstream>
 #include <iterator>
 
+namespace bannersmith {
+
 namespace fs = std::filesystem;
 
 TempFolder::TempFolder() {
@@ -44,3 +46,5 @@ std::string Hex(std::string_view bytes) {
     }
     return hex;
 }
+
+}  // namespace bannersmith

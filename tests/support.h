@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+namespace bannersmith {
+
 /// A folder of its own for each test, removed at the end.
 class TempFolder {
  public:
@@ -29,3 +31,5 @@ class TempFolder {
 
 /// `bytes` as hexadecimal digits, for readable failures.
 std::string Hex(std::string_view bytes);
+
+}  // namespace bannersmith

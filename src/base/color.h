@@ -2,6 +2,8 @@
 
 #include <cstdint>
 
+namespace bannersmith {
+
 /// A colour: red + 256 x green + 65536 x blue, each 0 to 255.
 using Color = std::uint32_t;
 
@@ -20,3 +22,5 @@ constexpr std::uint8_t Blue_Of(Color color) {
 constexpr Color Make_Color(std::uint8_t red, std::uint8_t green, std::uint8_t blue) {
     return static_cast<Color>(red | green << 8 | blue << 16);
 }
+
+}  // namespace bannersmith

@@ -2,6 +2,8 @@
 
 #include "base/text.h"
 
+namespace bannersmith {
+
 std::string Readable(std::u16string_view text) {
     constexpr std::size_t Most = 1000;  // code units: longer than paths are, short enough to read
     return Printable(Shortened(text, Most));
@@ -10,3 +12,5 @@ std::string Readable(std::u16string_view text) {
 std::string One_Line(const Failure& failure) {
     return Readable(failure.subject) + ": " + Readable(From_Utf8(failure.reason));
 }
+
+}  // namespace bannersmith

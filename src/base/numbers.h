@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+namespace bannersmith {
+
 /// The unsigned big-endian 16-bit number at `offset`. The caller makes sure that offset + 2 bytes
 /// lie inside `bytes`.
 inline std::uint16_t Read_U16(std::string_view bytes, std::size_t offset) {
@@ -32,3 +34,5 @@ inline void Write_U32(std::string& bytes, std::size_t offset, std::uint32_t valu
     Write_U16(bytes, offset, static_cast<std::uint16_t>(value >> 16));
     Write_U16(bytes, offset + 2, static_cast<std::uint16_t>(value & 0xFFFF));
 }
+
+}  // namespace bannersmith

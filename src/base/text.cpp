@@ -4,6 +4,8 @@
 
 #include <iterator>
 
+namespace bannersmith {
+
 namespace {
 
 constexpr char16_t EscapedByte = 0xDC00;
@@ -150,3 +152,5 @@ std::u16string_view Piece_Of(std::u16string_view text, char16_t separator, std::
     }
     return text.substr(0, text.find(separator));
 }
+
+}  // namespace bannersmith

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+namespace bannersmith {
+
 /// The code units of a UTF-8 text. A byte that belongs to no character becomes the lone surrogate
 /// 0xDC00 + byte, so that a file name in another encoding survives the way there and back.
 std::u16string From_Utf8(std::string_view bytes);
@@ -44,3 +46,5 @@ std::u16string Replace_All(std::u16string_view text, std::u16string_view what,
 
 /// Piece `index` of `text` split at every `separator`; empty when there are fewer pieces.
 std::u16string_view Piece_Of(std::u16string_view text, char16_t separator, std::size_t index);
+
+}  // namespace bannersmith

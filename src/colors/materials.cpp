@@ -8,6 +8,8 @@
 #include "gameinfo/languages.h"
 #include "layout/mod_globals.h"
 
+namespace bannersmith {
+
 namespace {
 
 constexpr std::size_t NameBytes = 20;
@@ -101,3 +103,5 @@ Outcome Apply_Color_Scheme(std::u16string_view program_folder, std::u16string_vi
     }
     return std::nullopt;
 }
+
+}  // namespace bannersmith

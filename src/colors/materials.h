@@ -15,6 +15,8 @@
 #include "gameinfo/boxes.h"
 #include "gameinfo/game_info.h"
 
+namespace bannersmith {
+
 /// Where the colours of an element lie: in one material, or, for a text, in one of each language.
 struct ElementMaterial {
     std::u16string_view name;  ///< of a text's materials what stands in front of the language code
@@ -68,3 +70,5 @@ bool Get_Mat_Colors(std::string_view data, std::string_view name, ColorPair& col
 /// after element; a scheme's text colours go to the material of each language. Materials that the
 /// layout lacks are passed over. A scheme that cannot be read whole changes nothing.
 Outcome Apply_Color_Scheme(std::u16string_view program_folder, std::u16string_view name);
+
+}  // namespace bannersmith

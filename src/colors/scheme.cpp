@@ -7,6 +7,8 @@
 #include "base/text.h"
 #include "system/files.h"
 
+namespace bannersmith {
+
 namespace {
 
 constexpr std::string_view Blanks = " \r\n";
@@ -116,3 +118,5 @@ Outcome Load_Scheme(std::u16string_view program_folder, std::u16string_view name
     if (!reason.empty()) return Failure{path, reason};
     return std::nullopt;
 }
+
+}  // namespace bannersmith

@@ -8,6 +8,8 @@
 #include "base/color.h"
 #include "base/failure.h"
 
+namespace bannersmith {
+
 /// First and second colour of one element.
 using ColorPair = std::array<Color, 2>;
 
@@ -51,3 +53,5 @@ std::string Parse_Scheme(std::string_view contents, Scheme& scheme);
 
 /// Reads the file of the scheme called `name` whole. On failure `scheme` is left as it was.
 Outcome Load_Scheme(std::u16string_view program_folder, std::u16string_view name, Scheme& scheme);
+
+}  // namespace bannersmith

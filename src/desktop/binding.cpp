@@ -4,6 +4,8 @@
 
 #include "desktop/text.h"
 
+namespace bannersmith {
+
 void Bind(QLineEdit& edit, TextBox& box) {
     constexpr int LongestText = 1 << 20;
     edit.setMaxLength(LongestText);
@@ -38,3 +40,5 @@ void Bind(QLabel& shown, Label& label) {
     label.Shown = [&shown, &label] { shown.setText(Shown(label.Caption())); };
     label.Shown.Raise();
 }
+
+}  // namespace bannersmith

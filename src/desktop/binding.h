@@ -10,7 +10,11 @@
 #include "desktop/widgets.h"
 #include "forms/controls.h"
 
+namespace bannersmith {
+
 /// Each shows the control now and from here on, and passes on what a person does.
 void Bind(QLineEdit& edit, TextBox& box);
 void Bind(ListBox& box, DropDownList& list);
 void Bind(QLabel& shown, Label& label);
+
+}  // namespace bannersmith

@@ -15,6 +15,8 @@
 #include "desktop/text.h"
 #include "desktop/widgets.h"
 
+namespace bannersmith {
+
 namespace {
 
 constexpr std::array<std::u16string_view, 13> UpperRow = {
@@ -142,3 +144,5 @@ QWidget* ColorWindowView::Make_Edit_Area(frmColor& window) {
     columns->addLayout(right);
     return area;
 }
+
+}  // namespace bannersmith

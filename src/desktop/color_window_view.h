@@ -5,6 +5,8 @@
 
 class QBoxLayout;
 
+namespace bannersmith {
+
 /// The view of the colour window. What does not fit its size is scrolled to.
 class ColorWindowView : public SecondWindow {
  public:
@@ -19,3 +21,5 @@ class ColorWindowView : public SecondWindow {
 
     QWidget* content_;
 };
+
+}  // namespace bannersmith

@@ -5,6 +5,8 @@
 
 class QSocketNotifier;
 
+namespace bannersmith {
+
 /// From its beginning on, signals that would end the process (Ctrl-C, a closed terminal, a
 /// shutdown) end the toolkit's event loop instead, between two events and so never in the middle of
 /// a save. To be made before the toolkit starts threads. Does nothing on systems without such
@@ -28,3 +30,5 @@ class EndBySignal : public QObject {
     int descriptor_ = -1;
     int signal_ = 0;
 };
+
+}  // namespace bannersmith

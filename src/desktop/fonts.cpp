@@ -5,6 +5,8 @@
 
 #include "desktop/text.h"
 
+namespace bannersmith {
+
 namespace {
 
 /// A font that names a family which is not installed makes the toolkit look through the aliases of
@@ -40,3 +42,5 @@ QFont Japanese_Font(std::u16string_view family, double points) {
     font.setHintingPreference(QFont::PreferNoHinting);  // so that widths grow with the size alone
     return font;
 }
+
+}  // namespace bannersmith

@@ -18,6 +18,8 @@
 #include "desktop/text_editor_view.h"
 #include "desktop/widgets.h"
 
+using namespace bannersmith;
+
 namespace {
 
 constexpr double FieldPoints = 8.25;

@@ -6,6 +6,8 @@
 
 #include "mainwindow/form1.h"
 
+using namespace bannersmith;
+
 class QBoxLayout;
 class QComboBox;
 class QGridLayout;

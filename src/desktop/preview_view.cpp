@@ -9,6 +9,8 @@
 #include "desktop/text.h"
 #include "desktop/widgets.h"
 
+namespace bannersmith {
+
 namespace {
 
 /// Paints in twips on whole device pixels: neighbouring rectangles meet without gap or overlap.
@@ -133,3 +135,5 @@ void PreviewView::paintEvent(QPaintEvent* /*event*/) {
     painter.scale(1 / ratio, 1 / ratio);
     Paint_Preview(painter, preview_, Scale() * ratio);
 }
+
+}  // namespace bannersmith

@@ -4,6 +4,8 @@
 
 #include "colors/window/preview.h"
 
+namespace bannersmith {
+
 /// Paints a preview at the scale that fits the widget, in the middle of its width. Its upper edge
 /// is `Top` twips from that of the window that the preview is laid out for.
 class PreviewView : public QWidget {
@@ -28,3 +30,5 @@ class PreviewView : public QWidget {
 
 /// Paints a preview with `scale` device pixels to the twip, from `PreviewView::Top` on.
 void Paint_Preview(QPainter& painter, const Preview& preview, double scale);
+
+}  // namespace bannersmith

@@ -9,13 +9,15 @@
 #include <QInputDialog>
 #include <QMessageBox>
 
+#include "base/color.h"
 #include "base/message.h"
 #include "base/text.h"
-#include "base/color.h"
 #include "desktop/fonts.h"
 #include "desktop/text.h"
 #include "desktop/widgets.h"
 #include "system/code_page.h"
+
+namespace bannersmith {
 
 namespace {
 
@@ -91,3 +93,5 @@ float QtDesktop::Text_Width(std::u16string_view text, const Font& font) {
 std::u16string QtDesktop::In_Code_Page(std::u16string_view text) {
     return From_Code_Page(To_Code_Page(text));
 }
+
+}  // namespace bannersmith

@@ -2,6 +2,8 @@
 
 #include "forms/desktop.h"
 
+namespace bannersmith {
+
 /// The desktop through the toolkit: modal boxes over the active window. Failures also go to
 /// standard error.
 class QtDesktop : public Desktop {
@@ -15,3 +17,5 @@ class QtDesktop : public Desktop {
     float Text_Width(std::u16string_view text, const Font& font) override;
     std::u16string In_Code_Page(std::u16string_view text) override;
 };
+
+}  // namespace bannersmith

@@ -4,6 +4,8 @@
 
 #include "desktop/widgets.h"
 
+namespace bannersmith {
+
 SecondWindow::SecondWindow(QString name, std::function<void()> closed, QWidget* parent)
     : QDialog(parent), name_(std::move(name)), closed_(std::move(closed)) {}
 
@@ -19,3 +21,5 @@ void SecondWindow::done(int result) {
     deleteLater();
     if (closed_) std::exchange(closed_, {})();
 }
+
+}  // namespace bannersmith

@@ -5,6 +5,8 @@
 
 #include "forms/controls.h"
 
+namespace bannersmith {
+
 /// What the views of the windows beside the main one share. `closed` runs once, when the user has
 /// closed the window; the unit may be gone afterwards, and the view deletes itself.
 class SecondWindow : public QDialog {
@@ -23,3 +25,5 @@ class SecondWindow : public QDialog {
     QString name_;
     std::function<void()> closed_;
 };
+
+}  // namespace bannersmith

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+namespace bannersmith {
+
 /// The same code units as the toolkit's text, and back.
 inline QString Shown(std::u16string_view text) {
     return QStringView(text.data(), static_cast<qsizetype>(text.size())).toString();
@@ -13,3 +15,5 @@ inline QString Shown(std::u16string_view text) {
 inline std::u16string Taken(const QString& text) {
     return text.toStdU16String();
 }
+
+}  // namespace bannersmith

@@ -8,6 +8,8 @@
 #include "desktop/fonts.h"
 #include "desktop/widgets.h"
 
+namespace bannersmith {
+
 TextEditorView::TextEditorView(frmHC& editor, std::function<void()> closed, QWidget* parent)
     : SecondWindow("text editor", std::move(closed), parent) {
     setWindowTitle("\"Hardcore\" Manual Text Editor");
@@ -37,3 +39,5 @@ TextEditorView::TextEditorView(frmHC& editor, std::function<void()> closed, QWid
     setFixedHeight(sizeHint().height());
     Follow(editor.form);
 }
+
+}  // namespace bannersmith

@@ -11,6 +11,8 @@
 
 #include "colors/scheme.h"
 
+namespace bannersmith {
+
 QColor Shown_Color(Color color) {
     return {Red_Of(color), Green_Of(color), Blue_Of(color)};
 }
@@ -148,3 +150,5 @@ void Restore_Position(QWidget& window, const QString& name) {
 void Store_Position(const QWidget& window, const QString& name) {
     Positions().setValue(name, window.saveGeometry());
 }
+
+}  // namespace bannersmith

@@ -14,6 +14,8 @@
 #include "forms/controls.h"
 #include "forms/desktop.h"
 
+namespace bannersmith {
+
 /// A colour of the windows as the toolkit has it.
 QColor Shown_Color(Color color);
 
@@ -79,3 +81,5 @@ QIcon Program_Icon();
 /// Restores where the window called `name` was at the end of the last run, and stores it.
 void Restore_Position(QWidget& window, const QString& name);
 void Store_Position(const QWidget& window, const QString& name);
+
+}  // namespace bannersmith

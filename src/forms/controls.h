@@ -13,6 +13,8 @@
 
 #include "forms/desktop.h"
 
+namespace bannersmith {
+
 /// What happens on an event: nothing until a handler is set.
 class Event {
  public:
@@ -195,3 +197,5 @@ class ColorBox : public Control {
 
     Color color_ = LightGrey;
 };
+
+}  // namespace bannersmith

@@ -3,6 +3,8 @@
 #include "base/message.h"
 #include "system/process.h"
 
+namespace bannersmith {
+
 void NoDesktop::Message(const std::u16string& /*text*/) {}
 
 bool NoDesktop::Confirm(const std::u16string& /*question*/) {
@@ -33,3 +35,5 @@ float NoDesktop::Text_Width(std::u16string_view /*text*/, const Font& /*font*/) 
 std::u16string NoDesktop::In_Code_Page(std::u16string_view text) {
     return std::u16string(text);
 }
+
+}  // namespace bannersmith

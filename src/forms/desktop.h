@@ -7,6 +7,8 @@
 #include "base/color.h"
 #include "base/failure.h"
 
+namespace bannersmith {
+
 /// Where and how the program was started.
 struct Process {
     std::u16string program_folder;  ///< folder of the executable, no separator at its end
@@ -67,3 +69,5 @@ class NoDesktop : public Desktop {
     float Text_Width(std::u16string_view text, const Font& font) override;
     std::u16string In_Code_Page(std::u16string_view text) override;
 };
+
+}  // namespace bannersmith

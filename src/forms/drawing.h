@@ -7,6 +7,8 @@
 
 #include "forms/desktop.h"
 
+namespace bannersmith {
+
 /// Where something lies.
 struct Area {
     float left = 0, top = 0, width = 0, height = 0;
@@ -68,3 +70,5 @@ struct DrawnLabel {
     bool wraps = true;  ///< breaks long lines at the width; otherwise a line may be longer
     Color color = 0;
 };
+
+}  // namespace bannersmith

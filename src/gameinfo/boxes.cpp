@@ -6,6 +6,8 @@
 #include "layout/mod_globals.h"
 #include "layout/text_box.h"
 
+namespace bannersmith {
+
 std::u16string Read_Box(std::u16string_view name) {
     const auto bytes = To_Bytes(name);
     return bytes ? Get_Text(BrlytData, *bytes) : std::u16string();
@@ -24,3 +26,5 @@ void Write_Boxes(const std::vector<NamedText>& texts) {
 void Write_Box(std::u16string_view name, std::u16string_view text) {
     if (const auto bytes = To_Bytes(name)) BrlytData = Set_Text(BrlytData, *bytes, text);
 }
+
+}  // namespace bannersmith

@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+namespace bannersmith {
+
 /// The name of a field's box in front of the language code.
 namespace box_prefix {
 inline constexpr std::u16string_view Title = u"T_VCTitle_";
@@ -42,3 +44,5 @@ void Write_Boxes(const std::vector<NamedText>& texts);
 
 /// `Write_Boxes` for one box.
 void Write_Box(std::u16string_view name, std::u16string_view text);
+
+}  // namespace bannersmith

@@ -5,6 +5,8 @@
 #include "base/text.h"
 #include "gameinfo/languages.h"
 
+namespace bannersmith {
+
 namespace {
 
 struct Wording {
@@ -68,3 +70,5 @@ std::u16string Make_Players(std::u16string& playVal, std::u16string_view tReg) {
     if (tReg == Japanese) playVal = Replace_All(playVal, u"-", FullwidthTilde);
     return playVal = Wrap(Find(PlayersWordings, tReg), playVal);
 }
+
+}  // namespace bannersmith

@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+namespace bannersmith {
+
 /// The year text of language `tReg` around the year `yearVal`, "????" where that is empty. A code
 /// without wording of its own, "NONE" among them, gets the English one. `yearVal` is overwritten
 /// with the text that is returned, so callers hand in a copy.
@@ -26,3 +28,5 @@ inline constexpr std::u16string_view Italian = u"Pubblicato";
 inline constexpr std::u16string_view Spanish = u"A\u00F1o";
 inline constexpr std::u16string_view Dutch = u"Release";
 }  // namespace year_words
+
+}  // namespace bannersmith

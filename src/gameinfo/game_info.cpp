@@ -8,6 +8,8 @@
 #include "gameinfo/composing.h"
 #include "gameinfo/languages.h"
 
+namespace bannersmith {
+
 namespace {
 
 /// How a value becomes a language's text. The name has no wording: its text is the value.
@@ -198,3 +200,5 @@ void GameInfo::cmdSetAll_Click(std::int16_t Index) {
             break;
     }
 }
+
+}  // namespace bannersmith

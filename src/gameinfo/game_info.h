@@ -9,6 +9,8 @@
 
 #include "forms/controls.h"
 
+namespace bannersmith {
+
 /// The language in whose wording the loaded banner's language-neutral boxes are composed; empty for
 /// a banner with a name of its own for some language. Set by `GameInfo::Refill`, read by Set and
 /// Set All: like `BrlytData` there is one for the whole program.
@@ -70,3 +72,5 @@ class GameInfo {
     /// The box of a field for the entry that its selector shows. The selector has a selection.
     std::u16string Selected_Box(Selector selector) const;
 };
+
+}  // namespace bannersmith

@@ -4,6 +4,8 @@
 #include <span>
 #include <string_view>
 
+namespace bannersmith {
+
 /// The seven languages of a banner by their codes, then "NONE", the last entry of every language
 /// list, which stands for the text boxes that serve all languages.
 inline constexpr std::array<std::u16string_view, 8> LanguageList = {
@@ -18,3 +20,5 @@ inline constexpr std::u16string_view NoLanguage = LanguageList.back();
 
 /// The one language whose players text has a character of its own for "-".
 inline constexpr std::u16string_view Japanese = u"JPN";
+
+}  // namespace bannersmith

@@ -5,6 +5,8 @@
 
 #include "base/text.h"
 
+namespace bannersmith {
+
 namespace {
 
 std::string Filled_Up(std::string text, std::size_t width) {
@@ -136,3 +138,5 @@ void Write_Json(const FileReport& report, const Output& output) {
     Write_Array("warnings", report.warnings, Warning_Json, output);
     output("}");
 }
+
+}  // namespace bannersmith

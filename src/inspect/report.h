@@ -8,6 +8,8 @@
 #include "inspect/warnings.h"
 #include "layout/sections.h"
 
+namespace bannersmith {
+
 /// What the inspect tool says about one file.
 struct FileReport {
     std::string file;  ///< as the user named it, in UTF-8
@@ -24,3 +26,5 @@ void Write_Text(const FileReport& report, const Output& output);
 /// Writes the report as one JSON object, in ASCII. A lone surrogate of a text stays what it is as a
 /// \u escape.
 void Write_Json(const FileReport& report, const Output& output);
+
+}  // namespace bannersmith

@@ -10,6 +10,8 @@
 #include "layout/pieces.h"
 #include "layout/record.h"
 
+namespace bannersmith {
+
 namespace {
 
 constexpr std::size_t MostWarnings = 1000;
@@ -151,3 +153,5 @@ std::vector<Warning> Find_Warnings(std::string_view data, const LayoutInfo& info
     }
     return found;
 }
+
+}  // namespace bannersmith

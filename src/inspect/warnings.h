@@ -7,6 +7,8 @@
 
 #include "layout/sections.h"
 
+namespace bannersmith {
+
 /// Something about a layout that an edit would not rewrite cleanly.
 struct Warning {
     std::string text;                     ///< a line of UTF-8 that can be shown
@@ -21,3 +23,5 @@ std::vector<Warning> Find_Warnings(std::string_view data, const LayoutInfo& info
 /// Those of them that concern an edit that writes colours, and those of one that writes texts.
 std::vector<Warning> Find_Color_Warnings(std::string_view data, const LayoutInfo& info);
 std::vector<Warning> Find_Text_Warnings(std::string_view data, const LayoutInfo& info);
+
+}  // namespace bannersmith

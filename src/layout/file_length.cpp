@@ -2,6 +2,8 @@
 
 #include "base/numbers.h"
 
+namespace bannersmith {
+
 namespace {
 
 using namespace std::string_view_literals;
@@ -59,3 +61,5 @@ std::string CutPadding(std::string TheFile) {
     }
     return TheFile;
 }
+
+}  // namespace bannersmith

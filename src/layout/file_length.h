@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+namespace bannersmith {
+
 /// Bytes 0 to 11 of a layout: up to and including the file length. Shorter data cannot hold it.
 inline constexpr std::size_t HeaderBytes = 12;
 
@@ -35,3 +37,5 @@ std::string AddPadding(std::string TheFile, const Padding& padding);
 /// one where there are several; without one, behind the first empty root group ("RootGroup" and
 /// eleven zero bytes); with neither, unchanged.
 std::string CutPadding(std::string TheFile);
+
+}  // namespace bannersmith

@@ -2,6 +2,8 @@
 
 #include <cstddef>
 
+namespace bannersmith {
+
 namespace {
 
 using namespace std::string_view_literals;
@@ -44,3 +46,5 @@ std::string_view Not_To_Be_Edited(std::string_view data) {
     }
     return {};
 }
+
+}  // namespace bannersmith

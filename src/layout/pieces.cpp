@@ -7,6 +7,8 @@
 
 #include "layout/record.h"
 
+namespace bannersmith {
+
 namespace {
 
 /// Offset of the name counted from the start of a piece, which begins behind the tag.
@@ -247,3 +249,5 @@ void Pieces::Follow_Replacement(const std::vector<std::size_t>& places, std::siz
     }
     tags_ = std::move(moved);
 }
+
+}  // namespace bannersmith

@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+namespace bannersmith {
+
 /// Where the four bytes "txt1" stand in one layout. Made by one pass over the data, valid for these
 /// bytes alone, and kept right by `Replace`, the only change that may be made to the data while the
 /// object is in use. It serves routines that look up many boxes of the same data.
@@ -49,3 +51,5 @@ class Pieces {
 
     std::vector<std::size_t> tags_;
 };
+
+}  // namespace bannersmith

@@ -2,6 +2,8 @@
 
 #include "base/numbers.h"
 
+namespace bannersmith {
+
 namespace record {
 
 std::optional<std::size_t> Tail_Length(std::string_view record) {
@@ -19,3 +21,5 @@ std::string_view At(std::string_view data, std::size_t offset) {
 }
 
 }  // namespace record
+
+}  // namespace bannersmith

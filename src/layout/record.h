@@ -5,6 +5,8 @@
 #include <optional>
 #include <string_view>
 
+namespace bannersmith {
+
 /// Offsets from the first byte of the record's tag. All numbers are unsigned and big-endian.
 namespace record {
 inline constexpr std::string_view Tag = "txt1";    ///< 4 bytes: what each record begins with
@@ -24,3 +26,5 @@ std::optional<std::size_t> Tail_Length(std::string_view record);
 /// left of the data. Empty when not even the section size is there.
 std::string_view At(std::string_view data, std::size_t offset);
 }  // namespace record
+
+}  // namespace bannersmith

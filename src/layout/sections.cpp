@@ -7,6 +7,8 @@
 #include "layout/record.h"
 #include "layout/text_box.h"
 
+namespace bannersmith {
+
 namespace {
 
 constexpr std::size_t SectionHeader = 8, GroupNames = 28, NameWidth = 16;
@@ -121,3 +123,5 @@ LayoutInfo Read_Layout(std::string_view data) {
     if (at != layout.size()) Add_Fault(info, "the last section does not end with the layout");
     return info;
 }
+
+}  // namespace bannersmith

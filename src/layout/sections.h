@@ -9,6 +9,8 @@
 #include <string_view>
 #include <vector>
 
+namespace bannersmith {
+
 /// One section: where it begins and its bytes, tag and size field included.
 struct ChainSection {
     std::size_t offset = 0;
@@ -56,3 +58,5 @@ std::string Hex(std::size_t number);
 
 /// Follows the chain of `data`, for which `Is_Layout` holds, as far as it goes.
 LayoutInfo Read_Layout(std::string_view data);
+
+}  // namespace bannersmith

@@ -8,6 +8,8 @@
 #include "layout/pieces.h"
 #include "layout/record.h"
 
+namespace bannersmith {
+
 namespace {
 
 constexpr std::string_view NoneEnding = "_NONE";
@@ -112,3 +114,5 @@ std::string Encode_Text(std::u16string_view text) {
 std::int16_t Get_Remainder(int divisor, int value) {
     return static_cast<std::int16_t>(value % divisor);
 }
+
+}  // namespace bannersmith

@@ -11,6 +11,8 @@
 #include <string_view>
 #include <vector>
 
+namespace bannersmith {
+
 /// The display text of the box called `name`, or an empty text where there is no such box or its
 /// record cannot be read. The box is the last piece of the data split at "txt1" that carries the
 /// name followed by two zero bytes, but its record is looked for from the front: the first one with
@@ -54,3 +56,5 @@ std::string Encode_Text(std::u16string_view text);
 
 /// The remainder of `value` divided by `divisor`, both positive.
 std::int16_t Get_Remainder(int divisor, int value);
+
+}  // namespace bannersmith

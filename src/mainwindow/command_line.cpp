@@ -11,6 +11,8 @@
 #include "mainwindow/form1.h"
 #include "system/files.h"
 
+namespace bannersmith {
+
 namespace {
 
 std::u16string_view First_Word(std::u16string_view piece) {
@@ -217,3 +219,5 @@ void Form1::Fail(int status, const Failure& failure) {
     status_ = status;
     desktop_.Report(failure);
 }
+
+}  // namespace bannersmith

@@ -11,6 +11,8 @@
 #include "system/code_page.h"
 #include "system/files.h"
 
+namespace bannersmith {
+
 namespace {
 
 constexpr std::u16string_view CurrentLogo = u"Current Logo";
@@ -190,3 +192,5 @@ void Form1::SetForce(std::u16string& REG) {
     const auto entry = std::find(entries.begin(), entries.end(), REG);
     if (entry != entries.end()) cmbForce.Select(static_cast<int>(entry - entries.begin()));
 }
+
+}  // namespace bannersmith

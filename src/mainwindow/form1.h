@@ -18,6 +18,8 @@
 #include "system/files.h"
 #include "system/replace_files.h"
 
+namespace bannersmith {
+
 /// The main window as state and events, and the batch run. There is one at a time: the layout that
 /// it works on is the program's one `BrlytData`.
 class Form1 {
@@ -172,3 +174,5 @@ class Form1 {
     bool colors_applied_ = false;       ///< by an option of this run
     int status_ = Done;
 };
+
+}  // namespace bannersmith

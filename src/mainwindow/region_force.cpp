@@ -5,6 +5,8 @@
 #include "gameinfo/languages.h"
 #include "layout/text_box.h"
 
+namespace bannersmith {
+
 namespace {
 
 bool Has_Title(std::string_view data, std::string_view code) {
@@ -38,3 +40,5 @@ std::string& Region_Force(std::string& tFile, std::string_view region) {
     }
     return tFile;
 }
+
+}  // namespace bannersmith

@@ -6,6 +6,8 @@
 #include "mainwindow/form1.h"
 #include "system/process.h"
 
+namespace bannersmith {
+
 namespace {
 
 constexpr std::u16string_view HelpWords[] = {u"--help", u"-h", u"-help", u"-?"};
@@ -44,3 +46,5 @@ int Run_Batch_Mode(const std::u16string& command_line) {
     Form1 window({Program_Folder(), command_line}, desktop);
     return window.Form_Load().value_or(Form1::Done);
 }
+
+}  // namespace bannersmith

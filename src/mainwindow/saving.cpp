@@ -15,6 +15,8 @@
 #include "mainwindow/region_force.h"
 #include "system/files.h"
 
+namespace bannersmith {
+
 namespace {
 
 /// Every text box that the save passes through the writer: language by language the four fields,
@@ -198,3 +200,5 @@ Outcome Form1::Read_Logo(const std::u16string& path, std::string& logo) const {
     logo = replaced->bytes;
     return std::nullopt;
 }
+
+}  // namespace bannersmith

@@ -11,6 +11,8 @@
 #include "mainwindow/form1.h"
 #include "system/files.h"
 
+namespace bannersmith {
+
 namespace {
 
 constexpr std::array<std::u16string_view, 3> SetNames = {u"Name", u"Year", u"ESRB Rating"};
@@ -113,3 +115,5 @@ void Form1::Tell_What_Is_Loaded() {
                   u"  |  " + (Is_Layout(BrlytData) ? Languages_Present() : u"not a layout file") +
                   u"  |  " + Number(BrlytData.size()) + u" bytes");
 }
+
+}  // namespace bannersmith

@@ -1,5 +1,7 @@
 #pragma once
 
+namespace bannersmith {
+
 /// What `--help` prints for the two programs that edit.
 inline constexpr char Usage[] =
     R"(usage: bannersmith                          open the editor's window
@@ -32,3 +34,5 @@ Unknown options, and texts for boxes that the layout lacks, are passed over.
 
 Exit status: 0 saved; 1 a failure, nothing was changed; 2 no layout to edit.
 )";
+
+}  // namespace bannersmith

@@ -5,6 +5,8 @@
 #include "layout/mod_globals.h"
 #include "layout/text_box.h"
 
+namespace bannersmith {
+
 frmHC::frmHC(Form& main_form, GameInfo& info) : main_form_(main_form), info_(info) {
     cmbHC.Click = [this] { cmbHC_Click(); };
 }
@@ -35,3 +37,5 @@ void frmHC::cmdSet_Click() {
     Write_Box(cmbHC.Selected(), txtHC.Text());
     Written.Raise();
 }
+
+}  // namespace bannersmith

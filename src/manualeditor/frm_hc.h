@@ -4,6 +4,8 @@
 #include "forms/controls.h"
 #include "gameinfo/game_info.h"
 
+namespace bannersmith {
+
 /// The editor as state and events. What it writes goes into `BrlytData` at once.
 class frmHC {
  public:
@@ -30,3 +32,5 @@ class frmHC {
     Form& main_form_;
     GameInfo& info_;
 };
+
+}  // namespace bannersmith

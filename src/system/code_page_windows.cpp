@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+namespace bannersmith {
+
 std::u16string From_Code_Page(std::string_view bytes) {
     const int size = static_cast<int>(bytes.size());
     std::wstring text(bytes.size(), L'\0');  // no byte becomes more than one code unit
@@ -19,3 +21,5 @@ std::string To_Code_Page(std::u16string_view text) {
                               bytes.data(), static_cast<int>(bytes.size()), nullptr, nullptr)));
     return bytes;
 }
+
+}  // namespace bannersmith

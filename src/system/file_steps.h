@@ -9,6 +9,8 @@
 #include "base/failure.h"
 #include "system/native_path.h"
 
+namespace bannersmith {
+
 /// Thrown by a step and caught by `Run_Steps`: why the step failed.
 struct StepFailed {
     std::string reason;
@@ -32,3 +34,5 @@ Outcome Run_Steps(const std::u16string& path, Steps steps) {
         return Failure{path, "Not enough memory"};
     }
 }
+
+}  // namespace bannersmith

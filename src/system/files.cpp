@@ -8,6 +8,8 @@
 #include "system/file_steps.h"
 #include "system/native_path.h"
 
+namespace bannersmith {
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -115,3 +117,5 @@ Outcome List_Files(const std::u16string& folder, std::string_view ending,
     for (const std::string& name : files) names.push_back(From_Utf8(name));
     return std::nullopt;
 }
+
+}  // namespace bannersmith

@@ -9,6 +9,8 @@
 
 #include "base/failure.h"
 
+namespace bannersmith {
+
 /// Whether `path` stands alone: its second character is ":", or on POSIX its first is "/".
 bool Is_Full_Path(std::u16string_view path);
 
@@ -40,3 +42,5 @@ Outcome List_Files(const std::u16string& folder, std::string_view ending,
 
 /// Reads a regular file whole into `bytes`. On failure `bytes` is left as it was.
 Outcome Read_File(const std::u16string& path, std::string& bytes);
+
+}  // namespace bannersmith

@@ -5,6 +5,8 @@
 #include "system/files.h"
 #include "system/linux_steps.h"
 
+namespace bannersmith {
+
 std::string Read_Whole(const std::string& path) {
     // Non-blocking, so that a pipe without a writer is refused below and not waited for.
     const Descriptor file(
@@ -31,3 +33,5 @@ Outcome Read_File(const std::u16string& path, std::string& bytes) {
     return Run_Steps(
         path, [&](const std::filesystem::path& native) { bytes = Read_Whole(native.string()); });
 }
+
+}  // namespace bannersmith

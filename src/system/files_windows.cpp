@@ -5,6 +5,8 @@
 #include "system/files.h"
 #include "system/windows_steps.h"
 
+namespace bannersmith {
+
 namespace {
 
 HANDLE Open_To_Read(const std::wstring& path) {
@@ -52,3 +54,5 @@ Outcome Read_File(const std::u16string& path, std::string& bytes) {
     return Run_Steps(
         path, [&](const std::filesystem::path& native) { bytes = Read_Whole(native.wstring()); });
 }
+
+}  // namespace bannersmith

@@ -2,6 +2,8 @@
 
 #include <memory>
 
+namespace bannersmith {
+
 /// Holds back, from its beginning to its end, the signals by which a user or the system ends a
 /// process (Ctrl-C, a closed terminal, a shutdown). One that arrives meanwhile takes effect at the
 /// end. A write beyond a limit on file sizes is an error of the write meanwhile, and no signal.
@@ -19,3 +21,5 @@ class InterruptionsHeld {
     struct State;
     std::unique_ptr<State> state_;
 };
+
+}  // namespace bannersmith

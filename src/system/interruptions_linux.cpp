@@ -3,6 +3,8 @@
 
 #include "system/interruptions.h"
 
+namespace bannersmith {
+
 namespace {
 
 /// All but those that the process was started to ignore.
@@ -46,3 +48,5 @@ bool InterruptionsHeld::Pending() {
     ::sigandset(&arrived, &pending, &wanted);
     return ::sigisemptyset(&arrived) == 0;
 }
+
+}  // namespace bannersmith

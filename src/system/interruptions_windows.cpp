@@ -6,6 +6,8 @@
 
 #include "system/interruptions.h"
 
+namespace bannersmith {
+
 namespace {
 
 std::shared_mutex held;  // by each thread that must not be ended
@@ -35,3 +37,5 @@ InterruptionsHeld::~InterruptionsHeld() {
 bool InterruptionsHeld::Pending() {
     return pending;
 }
+
+}  // namespace bannersmith

@@ -10,6 +10,8 @@
 
 #include "system/file_steps.h"
 
+namespace bannersmith {
+
 /// Ends the step with the system's words for `error`.
 [[noreturn]] inline void Fail(int error) {
     throw StepFailed{std::strerror(error)};
@@ -61,3 +63,5 @@ inline void Require_Regular(const struct stat& info) {
 
 /// Reads a regular file whole.
 std::string Read_Whole(const std::string& path);
+
+}  // namespace bannersmith

@@ -10,6 +10,8 @@
 #include <memory>
 #endif
 
+namespace bannersmith {
+
 void Take_Memory_At_Once() {
 #if defined(__linux__) && defined(__GLIBC__) && defined(MADV_POPULATE_WRITE)
     // A banner of 64 KiB, a few copies of it, and the rest.
@@ -27,3 +29,5 @@ void Take_Memory_At_Once() {
     std::free(block);  // stays on the heap, where the next allocations find it
 #endif
 }
+
+}  // namespace bannersmith

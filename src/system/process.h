@@ -7,6 +7,8 @@
 
 #include "base/failure.h"
 
+namespace bannersmith {
+
 /// The command-line text of the process. On Windows its own text after the program's name, quotes
 /// and all; on POSIX the arguments joined by one blank each.
 std::u16string Command_Line(int argc, char** argv);
@@ -26,3 +28,5 @@ std::u16string Program_Folder();
 /// text. On POSIX this process becomes that program; on Windows it goes on beside it. The failure
 /// names the program's file.
 Outcome Start_Program(const std::u16string& name, char** argv);
+
+}  // namespace bannersmith

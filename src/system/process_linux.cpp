@@ -7,6 +7,8 @@
 #include "base/text.h"
 #include "system/process.h"
 
+namespace bannersmith {
+
 std::u16string Command_Line(int argc, char** argv) {
     std::string joined;
     for (int i = 1; i < argc; ++i) joined.append(i > 1 ? " " : "").append(argv[i]);
@@ -35,3 +37,5 @@ Outcome Start_Program(const std::u16string& name, char** argv) {
     ::execv(To_Utf8(program).c_str(), argv);
     return Failure{program, std::strerror(errno)};
 }
+
+}  // namespace bannersmith

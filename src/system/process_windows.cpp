@@ -7,6 +7,8 @@
 #include "base/text.h"
 #include "system/windows_error.h"
 
+namespace bannersmith {
+
 namespace {
 
 std::u16string To_Text(const wchar_t* text) {
@@ -85,3 +87,5 @@ std::string Error_Text(unsigned long code) {
     if (text.empty()) return "Error " + std::to_string(code);
     return To_Utf8(std::u16string(text.begin(), text.end()));
 }
+
+}  // namespace bannersmith

@@ -8,6 +8,8 @@
 #include "system/interruptions.h"
 #include "system/replacement.h"
 
+namespace bannersmith {
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -148,3 +150,5 @@ Outcome Replace_File(const std::u16string& path, std::string_view bytes, const N
     const NewContents file{path, std::string(bytes)};
     return Replace_Files({&file, 1}, {}, notice);
 }
+
+}  // namespace bannersmith

@@ -9,6 +9,8 @@
 
 #include "base/failure.h"
 
+namespace bannersmith {
+
 /// Keeps other runs of Bannersmith from changing files of one folder, from `Take` to the end of the
 /// object. Advisory: other programs do not know of it, and where the file system has no locks it
 /// keeps nobody out.
@@ -64,3 +66,5 @@ Outcome Replace_Files(std::span<const NewContents> files, const FolderLock& lock
 
 /// `Replace_Files` for one file.
 Outcome Replace_File(const std::u16string& path, std::string_view bytes, const Notice& notice = {});
+
+}  // namespace bannersmith

@@ -11,6 +11,8 @@
 
 #include "system/replace_files.h"
 
+namespace bannersmith {
+
 /// The first part of the names of all files that a replacement makes beside the one it replaces.
 inline constexpr char LeftoverPrefix[] = ".bannersmith-";
 
@@ -75,3 +77,5 @@ std::filesystem::path Follow_Links(std::filesystem::path path);
 
 /// Removes from the folder what runs that were killed have left there.
 void Remove_Leftovers(const FolderLock::Folder& folder);
+
+}  // namespace bannersmith

@@ -15,6 +15,8 @@
 #include "system/linux_steps.h"
 #include "system/replacement.h"
 
+namespace bannersmith {
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -381,3 +383,5 @@ void Remove_Leftovers(const FolderLock::Folder& folder) {
         if (fs::is_regular_file(at->symlink_status(ignored))) fs::remove(at->path(), ignored);
     }
 }
+
+}  // namespace bannersmith

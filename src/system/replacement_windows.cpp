@@ -8,6 +8,8 @@
 #include "system/replacement.h"
 #include "system/windows_steps.h"
 
+namespace bannersmith {
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -195,3 +197,5 @@ void Remove_Leftovers(const FolderLock::Folder& folder) {
     }
     if (search != INVALID_HANDLE_VALUE) ::FindClose(search);
 }
+
+}  // namespace bannersmith

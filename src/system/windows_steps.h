@@ -9,6 +9,8 @@
 #include "system/file_steps.h"
 #include "system/windows_error.h"
 
+namespace bannersmith {
+
 /// The most that one call reads or writes.
 inline constexpr std::size_t LargestPart = std::size_t{1} << 24;
 
@@ -47,3 +49,5 @@ class Handle {
 
 /// The attributes of a regular file, or INVALID_FILE_ATTRIBUTES where there is no file.
 DWORD Attributes_Of(const std::wstring& path);
+
+}  // namespace bannersmith

@@ -14,6 +14,8 @@
 #include "base/text.h"
 #include "generate/layout_builder.h"
 
+using namespace bannersmith;
+
 namespace {
 
 std::string From_Hex(const std::string& hex) {

@@ -27,6 +27,8 @@
 #include "mainwindow/form1.h"
 #include "system/process.h"
 
+using namespace bannersmith;
+
 namespace {
 
 using AnyControl = std::variant<TextBox*, DropDownList*, Label*, ColorBox*>;

@@ -10,6 +10,8 @@
 #include "gameinfo/languages.h"
 #include "generate/layout_builder.h"
 
+namespace bannersmith {
+
 namespace {
 
 /// What a banner says about its game.
@@ -197,3 +199,5 @@ std::string Banner_Without_Closing_Group() {
     banner.Add_Language(u"ENG");
     return banner.File(false);
 }
+
+}  // namespace bannersmith

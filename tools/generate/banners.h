@@ -6,6 +6,8 @@
 
 #include "colors/scheme.h"
 
+namespace bannersmith {
+
 /// A banner with every text in seven languages, a group for each language, and a closing group.
 std::string Seven_Language_Banner();
 
@@ -26,3 +28,5 @@ struct NamedScheme {
 
 /// The schemes that come with the program, sorted by name.
 std::vector<NamedScheme> Shipped_Schemes();
+
+}  // namespace bannersmith

@@ -4,6 +4,8 @@
 
 #include "layout/text_box.h"
 
+namespace bannersmith {
+
 namespace {
 
 constexpr std::uint32_t TextOffset = 0x74;
@@ -161,3 +163,5 @@ std::string Layout_File(const std::vector<std::string>& sections) {
     file.Bytes("RLYT").U16(0xFEFF).U16(0x0008).U32(static_cast<std::uint32_t>(all.size() + 16));
     return file.U16(16).U16(static_cast<unsigned>(sections.size())).Bytes(all).Data();
 }
+
+}  // namespace bannersmith

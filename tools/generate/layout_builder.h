@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+namespace bannersmith {
+
 /// Bytes appended in order; numbers big-endian.
 class ByteWriter {
  public:
@@ -80,3 +82,5 @@ std::string Empty_Section(std::string_view tag);
 
 /// The header and the sections behind it, in order: a whole file.
 std::string Layout_File(const std::vector<std::string>& sections);
+
+}  // namespace bannersmith

@@ -13,6 +13,8 @@
 #include "generate/texture.h"
 #include "system/replace_files.h"
 
+using namespace bannersmith;
+
 namespace {
 
 namespace fs = std::filesystem;

@@ -6,6 +6,8 @@
 
 #include "desktop/widgets.h"
 
+using namespace bannersmith;
+
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
     if (argc != 2) {

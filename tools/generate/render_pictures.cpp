@@ -14,6 +14,8 @@
 #include "desktop/text.h"
 #include "desktop/text_editor_view.h"
 
+using namespace bannersmith;
+
 namespace {
 
 namespace fs = std::filesystem;

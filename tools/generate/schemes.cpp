@@ -1,5 +1,7 @@
 #include "generate/banners.h"
 
+namespace bannersmith {
+
 namespace {
 
 /// The few colours that a scheme is made of.
@@ -82,3 +84,5 @@ std::vector<NamedScheme> Shipped_Schemes() {
         schemes.push_back({palette.name, From_Palette(palette)});
     return schemes;
 }
+
+}  // namespace bannersmith

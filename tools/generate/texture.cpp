@@ -5,6 +5,8 @@
 
 #include "generate/layout_builder.h"
 
+namespace bannersmith {
+
 namespace {
 
 /// `value` (0 to 1) on a scale from 0 to `most`.
@@ -60,3 +62,5 @@ std::string Texture_File(TextureFormat format, int width, int height,
     }
     return file.Data();
 }
+
+}  // namespace bannersmith

@@ -5,6 +5,8 @@
 #include <functional>
 #include <string>
 
+namespace bannersmith {
+
 /// The image formats made here, by their numbers in the file.
 enum class TextureFormat { i4 = 0, ia8 = 3, rgb5a3 = 5 };
 
@@ -17,3 +19,5 @@ struct Pixel {
 /// each.
 std::string Texture_File(TextureFormat format, int width, int height,
                          const std::function<Pixel(int x, int y)>& pixel);
+
+}  // namespace bannersmith

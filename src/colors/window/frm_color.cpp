@@ -13,6 +13,8 @@
 #include "system/files.h"
 #include "system/replace_files.h"
 
+namespace bannersmith {
+
 namespace {
 
 constexpr std::u16string_view NotFound = u"NF";
@@ -195,3 +197,5 @@ void frmColor::Load_Scheme_Colors(std::u16string_view name) {
 void frmColor::MakePreview() {
     preview.Draw(Colors(), main_.info);
 }
+
+}  // namespace bannersmith

@@ -13,6 +13,8 @@
 #include "forms/desktop.h"
 #include "gameinfo/game_info.h"
 
+namespace bannersmith {
+
 /// What the colour window needs of the main window.
 struct MainWindowForColors {
     Form& form;                 ///< enabled again at the end
@@ -95,3 +97,5 @@ std::u16string Set_Pic_Colors_brlyt(std::string_view data, std::string_view name
 
 /// Red, green and blue of a colour as decimal numbers with "|" between them.
 std::u16string VbColor2RGB(Color color);
+
+}  // namespace bannersmith

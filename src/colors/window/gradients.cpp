@@ -2,6 +2,8 @@
 
 #include "colors/scheme.h"
 
+namespace bannersmith {
+
 namespace {
 
 Color Band_Color(Color from, Color to, int band, int steps) {
@@ -45,3 +47,5 @@ void BackgroundHorizontalGradient(Surface& target, Color colour1, Color colour2,
                     target.Fill({left, y1, right, y2, color});
                 });
 }
+
+}  // namespace bannersmith

@@ -4,6 +4,8 @@
 
 #include "forms/drawing.h"
 
+namespace bannersmith {
+
 /// Fills a rectangle of `target` with `steps` (none for 0 or less) horizontal bands that fade from
 /// `colour1` at the top towards `colour2`. Bounds are in the target's scale; `y1` and `y2` both 0
 /// stand for its whole height, `x2` 0 for its width. Band i has, per component, the start plus
@@ -15,3 +17,5 @@ void BackgroundVerticalGradient(Surface& target, Color colour1, Color colour2, s
 /// `y2` 0 for the height.
 void BackgroundHorizontalGradient(Surface& target, Color colour1, Color colour2, std::int16_t steps,
                                   float y1 = 0, float y2 = 0, float x1 = 0, float x2 = 0);
+
+}  // namespace bannersmith

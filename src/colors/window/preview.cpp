@@ -4,6 +4,8 @@
 #include "colors/window/gradients.h"
 #include "gameinfo/boxes.h"
 
+namespace bannersmith {
+
 namespace {
 
 constexpr std::int16_t FadeSteps = 256;
@@ -86,3 +88,5 @@ void Preview::Show_Console(std::u16string_view text) {
     lblT_PF.area.left = lbl_PFSize.left - room;
     lblT_PF.area.width = lbl_PFSize.width + room;
 }
+
+}  // namespace bannersmith

@@ -9,6 +9,8 @@
 #include "forms/drawing.h"
 #include "gameinfo/game_info.h"
 
+namespace bannersmith {
+
 /// The element of a scheme by its place in the scheme file.
 enum class Element : std::size_t {
     PFLINE,
@@ -93,3 +95,5 @@ class Preview {
 
     Desktop& desktop_;
 };
+
+}  // namespace bannersmith

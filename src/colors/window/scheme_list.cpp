@@ -2,6 +2,8 @@
 
 #include "colors/scheme.h"
 
+namespace bannersmith {
+
 void Fill_Scheme_List(DropDownList& list, FileList& files, std::u16string_view program_folder) {
     list.Clear();
     static_cast<void>(files.Set_Path(Scheme_Folder(program_folder)));  // no folder: no schemes
@@ -9,3 +11,5 @@ void Fill_Scheme_List(DropDownList& list, FileList& files, std::u16string_view p
     for (const std::u16string& name : files.Names()) entries.emplace_back(Without_Ending(name));
     list.Add(entries);
 }
+
+}  // namespace bannersmith

@@ -1,14 +1,13 @@
 #include "desktop/end_by_signal.h"
 
-#include <QCoreApplication>
-#include <QSocketNotifier>
-
-#ifdef __linux__
-
 #include <sys/signalfd.h>
 #include <unistd.h>
 
+#include <QCoreApplication>
+#include <QSocketNotifier>
 #include <csignal>
+
+namespace bannersmith {
 
 namespace {
 
@@ -57,12 +56,4 @@ void EndBySignal::End_Process() const {
     ::pthread_sigmask(SIG_UNBLOCK, &set, nullptr);
 }
 
-#else
-
-EndBySignal::EndBySignal() = default;
-EndBySignal::~EndBySignal() = default;
-void EndBySignal::Watch() {}
-void EndBySignal::Take_Signal() {}
-void EndBySignal::End_Process() const {}
-
-#endif
+}  // namespace bannersmith
