@@ -44,6 +44,6 @@ int main(int argc, char** argv) {
     QtDesktop desktop;
     Form1 window({Program_Folder(), {}}, desktop);
     MainWindowView view(window);
-    if (window.Form_Load()) return 1;
+    if (!window.Form_Load()) return 1;
     return QApplication::exec();
 }

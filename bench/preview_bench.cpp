@@ -11,7 +11,6 @@
 #include "desktop/text.h"
 #include "desktop/widgets.h"
 #include "generate/banners.h"
-#include "layout/mod_globals.h"
 
 using namespace bannersmith;
 
@@ -21,13 +20,13 @@ constexpr double Scale = 1 / PreviewView::TwipsPerPixel;
 
 struct Painted {
     Painted() {
-        BrlytData = Seven_Language_Banner();
         info.Refill();
-        preview.Draw(Shipped_Schemes()[2].scheme, info);
+        preview.Draw(Shipped_Schemes()[2].scheme, info.Texts());
     }
 
     QtDesktop desktop;
-    GameInfo info;
+    Banner banner = Banner::From_Bytes(Seven_Language_Banner());
+    GameInfo info{banner, {}};
     Preview preview{desktop};
     QImage image{774, 488, QImage::Format_ARGB32_Premultiplied};
 };

@@ -1,36 +1,23 @@
 // The layout routines and what a save does in memory, beside memcpy of the same bytes.
 #include <benchmark/benchmark.h>
 
+#include <cstdlib>
 #include <cstring>
 
-#include "gameinfo/game_info.h"
+#include "banner/banner.h"
 #include "large_banner.h"
-#include "layout/file_length.h"
-#include "layout/mod_globals.h"
 #include "layout/text_box.h"
-#include "mainwindow/region_force.h"
 
 using namespace bannersmith;
 
 namespace {
 
-std::string Banner(const benchmark::State& state) {
+std::string Layout(const benchmark::State& state) {
     return Large_Banner(static_cast<std::size_t>(state.range(0)), static_cast<std::size_t>(state.range(1)));
 }
 
-std::vector<std::string> Names() {
-    std::vector<std::string> names;
-    for (const char* code : {"ENG", "GER", "FRA", "ITA", "SPA", "NED", "JPN", "NONE"}) {
-        for (const char* prefix : {"T_VCTitle_", "T_Year_", "T_Play_", "T_ESRB_"}) {
-            names.push_back(std::string(prefix) + code);
-        }
-    }
-    names.emplace_back("T_PF");
-    return names;
-}
-
 void Memcpy(benchmark::State& state) {
-    const std::string from = Banner(state);
+    const std::string from = Layout(state);
     std::string to = from;
     for (auto _ : state) {
         std::memcpy(to.data(), from.data(), from.size());
@@ -39,49 +26,37 @@ void Memcpy(benchmark::State& state) {
 }
 
 void Get(benchmark::State& state) {
-    const std::string data = Banner(state);
+    const std::string data = Layout(state);
     for (auto _ : state) benchmark::DoNotOptimize(Get_Text(data, "T_PF"));
 }
 
 void Set(benchmark::State& state) {
-    std::string data = Banner(state);
+    std::string data = Layout(state);
     const std::u16string texts[] = {u"One text", u"Another, longer text"};
     std::size_t i = 0;
     for (auto _ : state) data = Set_Text(std::move(data), "T_Play_GER", texts[i++ % 2]);
 }
 
-/// From the layout as loaded to the bytes as written. The copy that a failed save would bring back is
-/// part of it.
+/// From the layout as loaded to the bytes as written.
 void SaveSequence(benchmark::State& state) {
-    const std::string loaded = Banner(state);
-    const std::vector<std::string> names = Names();
+    const Banner banner = Banner::From_Bytes(Layout(state));
     for (auto _ : state) {
-        std::string data = loaded;
-        data = Rewrite_Texts(std::move(data), names);
-        data = Set_File_Len(std::move(data));
-        Region_Force(data, "NONE");
-        data = AddPadding(std::move(data), {true, 0});
-        benchmark::DoNotOptimize(data.data());
+        const auto plan = banner.Plan_Save();
+        benchmark::DoNotOptimize(plan->back().bytes.data());
     }
 }
 
 void Load(benchmark::State& state) {
-    const std::string file = Banner(state);
-    GameInfo info;
-    for (auto _ : state) {
-        BrlytData = CutPadding(file);
-        info.Refill();
-    }
+    const std::string file = Layout(state);
+    for (auto _ : state) benchmark::DoNotOptimize(Banner::From_Bytes(file).Bytes().data());
 }
 
 void SetAll(benchmark::State& state) {
-    BrlytData = Banner(state);
-    GameInfo info;
-    info.Refill();
+    Banner banner = Banner::From_Bytes(Layout(state), {}, 0);
     int year = 1000;
     for (auto _ : state) {
-        info.txtYear.Set(std::u16string(year++ % 2 == 0 ? u"1999" : u"85"));
-        info.cmdSetAll_Click(1);
+        const std::u16string value = year++ % 2 == 0 ? u"1999" : u"85";
+        if (!banner.Apply(SetFieldEverywhere{Field::year, value})) std::abort();
     }
 }
 

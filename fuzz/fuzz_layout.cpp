@@ -2,11 +2,10 @@
 // the plainest form of the rules or with what must hold.
 #include <cstdlib>
 
+#include "banner/region_force.h"
 #include "colors/materials.h"
-#include "gameinfo/game_info.h"
+#include "gameinfo/fields.h"
 #include "layout/file_length.h"
-#include "layout/mod_globals.h"
-#include "mainwindow/region_force.h"
 #include "plain_rules.h"
 
 using namespace bannersmith;
@@ -69,11 +68,8 @@ void Run_Step(unsigned char step, std::string& data) {
             break;
         }
         case 5: {
-            GameInfo info;
-            BrlytData = data;
-            info.Refill();
-            info.cmdSetAll_Click(static_cast<std::int16_t>(step / 8 % 6));
-            data = BrlytData;
+            const auto field = static_cast<Field>(step / 8 % 4);
+            data = Set_Field_Everywhere(std::move(data), field, u"1", Neutral_Language(data));
             break;
         }
         default:

@@ -1,6 +1,5 @@
 // bannersmith: batch mode itself; without command-line text it hands over to the program with the
 // windows, so that a batch run never pays for a toolkit.
-#include "forms/desktop.h"
 #include "mainwindow/run.h"
 #include "mainwindow/usage.h"
 #include "system/memory.h"
@@ -12,9 +11,10 @@ namespace {
 
 /// On success the windows have taken over; the exit status otherwise.
 int Start_Window(char** argv) {
-    const auto failure = Start_Program(u"bannersmith-window", argv);
-    if (!failure) return 0;
-    NoDesktop().Report({failure->subject, "The windows cannot be started: " + failure->reason});
+    const auto started = Start_Program(u"bannersmith-window", argv);
+    if (started) return 0;
+    Print_Failure(
+        {started.Why().subject, "The windows cannot be started: " + started.Why().reason});
     return 1;
 }
 

@@ -50,26 +50,24 @@ class StandardOutput {
     bool written_ = true;
 };
 
-/// Writes the report of a file behind `before`. The reason when the file cannot be inspected;
-/// otherwise `status` becomes that of the file.
-std::string Inspect(const std::u16string& file, bool json, const char* before,
-                    StandardOutput& output, int& status) {
+/// Writes the report of a file behind `before`. Returns the file's exit status.
+Result<int> Inspect(const std::u16string& file, bool json, const char* before,
+                    StandardOutput& output) {
     try {
-        std::string data;
-        if (const auto failure = Read_File(file, data)) return failure->reason;
-        if (!Is_Layout(data)) {
-            const std::string_view kind = Not_To_Be_Edited(data);
-            return std::string(kind.empty() ? "Not a layout file" : kind);
+        const auto data = Read_File(file);
+        if (!data) return data.Why();
+        if (!Is_Layout(*data)) {
+            const std::string_view kind = Not_To_Be_Edited(*data);
+            return Failure{file, std::string(kind.empty() ? "Not a layout file" : kind)};
         }
-        FileReport report{To_Utf8(file), Read_Layout(data), {}};
-        report.warnings = Find_Warnings(data, report.info);
-        status = report.warnings.empty() ? Clean : Warned;
+        FileReport report{To_Utf8(file), Read_Layout(*data), {}};
+        report.warnings = Find_Warnings(*data, report.info);
         output.Write(before);
         const auto write = [&](std::string_view text) { output.Write(text); };
         json ? Write_Json(report, write) : Write_Text(report, write);
-        return {};
+        return report.warnings.empty() ? Clean : Warned;
     } catch (const std::bad_alloc&) {
-        return "Not enough memory";
+        return Failure{file, "Not enough memory"};
     }
 }
 
@@ -79,16 +77,14 @@ int Inspect_All(const std::vector<std::u16string>& files, bool json) {
     int status = Clean;
     const char* before = json ? "[" : "";
     for (const std::u16string& file : files) {
-        int found = Clean;
-        const std::string reason = Inspect(file, json, before, output, found);
-        if (reason.empty()) {
+        const auto inspected = Inspect(file, json, before, output);
+        if (inspected) {
             before = json ? ", " : "";
         } else {
-            found = NotRead;
             output.Flush();
-            Print("bannersmith-inspect: " + One_Line({file, reason}) + "\n", stderr);
+            Print("bannersmith-inspect: " + One_Line(inspected.Why()) + "\n", stderr);
         }
-        status = std::max(status, found);
+        status = std::max(status, inspected ? *inspected : NotRead);
     }
     if (json) output.Write(*before == '[' ? "[]\n" : "]\n");
     if (output.Flush()) return status;

@@ -17,7 +17,7 @@ using namespace bannersmith;
 namespace {
 
 int No_Display() {
-    NoDesktop().Report({u"display", "None can be reached, so the windows cannot be shown"});
+    Print_Failure({u"display", "None can be reached, so the windows cannot be shown"});
     return 1;
 }
 
@@ -37,10 +37,10 @@ bool Display_Is_Named() {
 void Leave_On_Fatal_Message(QtMsgType type, const QMessageLogContext& /*context*/,
                             const QString& text) {
     if (type == QtFatalMsg) {
-        NoDesktop().Report({u"window", text.toStdString()});
+        Print_Failure({u"window", text.toStdString()});
         std::_Exit(1);
     }
-    if (type == QtCriticalMsg) NoDesktop().Report({u"window", text.toStdString()});
+    if (type == QtCriticalMsg) Print_Failure({u"window", text.toStdString()});
 }
 
 /// The toolkit's own, but a command for which memory lacks is reported and the editor goes on.
@@ -70,8 +70,7 @@ int Run_Windows(int argc, char** argv) {
     QtDesktop desktop;
     Form1 window({Program_Folder(), {}}, desktop);
     MainWindowView view(window);
-    const auto status = window.Form_Load();
-    if (status) return *status;
+    if (!window.Form_Load()) return 1;
     const int ended = QApplication::exec();
     end_by_signal.End_Process();
     return ended;

@@ -1,16 +1,15 @@
 // Damaged layouts: loaded, edited and saved in memory. What matters beside the asserts is the run under sanitizers.
 #include <gtest/gtest.h>
 
+#include "banner/region_force.h"
 #include "colors/materials.h"
-#include "gameinfo/game_info.h"
+#include "gameinfo/fields.h"
 #include "generate/banners.h"
 #include "inspect/report.h"
 #include "inspect/warnings.h"
 #include "layout/file_length.h"
 #include "layout/kind.h"
-#include "layout/mod_globals.h"
 #include "layout/text_box.h"
-#include "mainwindow/region_force.h"
 
 using namespace bannersmith;
 
@@ -20,13 +19,12 @@ namespace {
 std::string Edit_And_Save(const std::string& damaged) {
     static const std::vector<std::string> names = {"T_VCTitle_ENG", "T_Year_ENG", "T_Play_ENG", "T_VCTitle_NONE",
                                                    "T_PF"};
-    GameInfo info;
-    NoneRegion.clear();
-    BrlytData = CutPadding(damaged);
-    info.Refill();
-    info.txtName.Set(u"A longer name than before");
-    for (const std::int16_t field : {std::int16_t{0}, std::int16_t{1}, std::int16_t{3}}) info.cmdSetAll_Click(field);
-    std::string data = Set_File_Len(Rewrite_Texts(BrlytData, names));
+    std::string data = CutPadding(damaged);
+    const std::u16string neutral = Neutral_Language(data);
+    for (const Field field : {Field::title, Field::year, Field::players}) {
+        data = Set_Field_Everywhere(std::move(data), field, u"A longer name than before", neutral);
+    }
+    data = Set_File_Len(Rewrite_Texts(std::move(data), names));
     Set_Mat_Colors(data, "T_PF", {0x112233, 0x445566});
     Region_Force(data, "ITA");
     if (Is_Layout(data)) {

@@ -27,7 +27,7 @@
 #include "desktop/widgets.h"
 #include "generate/banners.h"
 #include "generate/layout_builder.h"
-#include "layout/mod_globals.h"
+#include "mainwindow/batch_run.h"
 #include "mainwindow/form1.h"
 #include "support.h"
 
@@ -39,7 +39,7 @@ constexpr char Layout[] = "b/arc/blyt/banner.brlyt";
 constexpr char Texture[] = "b/arc/timg/my_BackX.tpl";
 
 /// Notes what it is shown and answers what it is told to.
-class TestDesktop : public NoDesktop {
+class TestDesktop : public QtDesktop {
  public:
     std::vector<std::u16string> messages, failures;
     std::u16string answer, file;
@@ -56,7 +56,6 @@ class TestDesktop : public NoDesktop {
 class Widgets : public testing::Test {
  public:
     Widgets() {
-        BrlytData.clear();
         Fill(folder);
         window = std::make_unique<Form1>(Process{folder.Text(), u""}, desktop);
         view = std::make_unique<MainWindowView>(*window);
@@ -155,12 +154,11 @@ TEST_F(Widgets, WriteTheSameBytesAsABatchRun) {
 
     const TempFolder batch;
     Fill(batch);
-    NoDesktop none;
-    Form1 run({batch.Text(),
-               u"-TITLE All -T_JPN One^Two -YEAR 2001 -Y_JPN 1999 -PLAY 4 -SYSTEM MEGA -ESRB T -E_GER M "
-               u"-COLOR Mine -LOGO New.tpl -FORCE ITA -PAD +16"},
-              none);
-    EXPECT_EQ(run.Form_Load(), Form1::Done);
+    BatchRun run({batch.Text(),
+                  u"-TITLE All -T_JPN One^Two -YEAR 2001 -Y_JPN 1999 -PLAY 4 -SYSTEM MEGA -ESRB T -E_GER M "
+                  u"-COLOR Mine -LOGO New.tpl -FORCE ITA -PAD +16"},
+                 {});
+    EXPECT_EQ(run.Run(), BatchRun::Done);
     EXPECT_EQ(Hex(folder.Read(Layout)), Hex(batch.Read(Layout)));
     EXPECT_EQ(folder.Read(Texture), "new");
 }
@@ -170,9 +168,9 @@ TEST_F(Widgets, TakePathsKeyByKey) {
     QLineEdit& edit = Named<QLineEdit>(*view, "File");
     EXPECT_EQ(edit.text(), path);
     Type(edit, path + "x");
-    EXPECT_EQ(BrlytData, "");
+    EXPECT_EQ(window->BrlytData, "");
     QTest::keyClick(&edit, Qt::Key_Backspace);
-    EXPECT_EQ(BrlytData, German_Japanese_Banner());
+    EXPECT_EQ(window->BrlytData, German_Japanese_Banner());
     Type(edit, "\\b\\");
     Type(edit, "/dev/null");
     EXPECT_TRUE(desktop.failures.empty() && desktop.messages.empty());
@@ -193,7 +191,7 @@ TEST_F(Widgets, TakePathsKeyByKey) {
     EXPECT_EQ(edit.text(), "/dev/null") << "before the drag has ended";
     QApplication::processEvents();
     EXPECT_EQ(edit.text(), QString("\\") + Layout);
-    EXPECT_EQ(BrlytData, German_Japanese_Banner());
+    EXPECT_EQ(window->BrlytData, German_Japanese_Banner());
     desktop.file = u"chosen";
     Press(*view, "Choose a layout file");
     EXPECT_EQ(edit.text(), "chosen");
@@ -315,26 +313,26 @@ TEST_F(Widgets, EditColorsAndPaintThem) {
     const auto pixel = [&](double x, double y) {
         return image.pixelColor(static_cast<int>(x / 15), static_cast<int>((y - 2400) / 15));
     };
-    const auto box = [&](Element element, std::size_t i) {
-        return Shown_Color(window->ColorWindow->pic[static_cast<std::size_t>(element)][i].Value());
+    const auto box = [&](std::u16string_view element, std::size_t i) {
+        return Shown_Color(window->ColorWindow->pic[Element_Index(element)][i].Value());
     };
-    const QColor outside = pixel(100, 9000), paper = box(Element::Back1, 0);
+    const QColor outside = pixel(100, 9000), paper = box(u"Back1", 0);
     EXPECT_EQ(paper, QColor(255, 17, paper.blue()));
     struct Edge {
         double x, y;
         QColor inside, beyond;  ///< at the place, and one pixel to the left of it
     };
     for (const Edge& edge : {Edge{360, 6300, paper, outside},
-                             {360, 9600, box(Element::BackMask2, 1), outside},
+                             {360, 9600, box(u"BackMask2", 1), outside},
                              {11175, 6300, outside, paper},
-                             {600, 3970, box(Element::YearLine, 1), paper},
-                             {4080, 6200, box(Element::VCPic, 0), paper},
+                             {600, 3970, box(u"YearLine", 1), paper},
+                             {4080, 6200, box(u"VCPic", 0), paper},
                              {240, 2500, QColor(0x60, 0x60, 0x60), outside},
                              {11355, 2500, outside, QColor(0x60, 0x60, 0x60)}}) {
         EXPECT_EQ(pixel(edge.x, edge.y), edge.inside) << edge.x << "," << edge.y;
         EXPECT_EQ(pixel(edge.x - 15, edge.y), edge.beyond) << edge.x << "," << edge.y;
     }
-    EXPECT_EQ(pixel(5800, 6000), box(Element::VCPic, 1));
+    EXPECT_EQ(pixel(5800, 6000), box(u"VCPic", 1));
     EXPECT_EQ(pixel(400, 9700), outside);
 
     desktop.color = Make_Color(1, 2, 3);

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <algorithm>
+#include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -63,6 +66,172 @@ inline std::string Set(const std::string& data, std::string name, const std::u16
         result += data.substr(start, at - start) + fresh;
     }
     return result + data.substr(start);
+}
+
+template <typename Text>
+Text Replaced(Text text, const Text& old, const Text& fresh) {
+    for (std::size_t at = 0; (at = text.find(old, at)) != text.npos; at += fresh.size())
+        text.replace(at, old.size(), fresh);
+    return text;
+}
+
+inline const std::vector<std::string> Codes = {"ENG", "GER", "FRA", "ITA", "SPA", "NED", "JPN", "NONE"};
+
+/// The wording of a field ('T'itle, 'Y'ear, 'P'layers, 'E'SRB) with "#" for the value.
+inline std::u16string Wording(char field, const std::string& code) {
+    static const std::map<std::string, std::u16string> Wordings = {
+        {"YENG", u"Released: #"},       {"YGER", u"Erschienen: #"},   {"YFRA", u"Publié en #"},
+        {"YITA", u"Pubblicato: #"},     {"YSPA", u"Año: #"},          {"YNED", u"Release: #"},
+        {"YJPN", u"#年発売"},           {"PENG", u"Players: #"},      {"PGER", u"# Spieler"},
+        {"PFRA", u"Joueurs: #"},        {"PITA", u"Giocatori: #"},    {"PSPA", u"Jugadores: #"},
+        {"PNED", u"# speler(s)"},       {"PJPN", u"プレイ人数\n#人"}, {"EENG", u"ESRB Rating: #"},
+        {"EFRA", u"Classement ESRB: #"}};
+    if (field == 'T') return u"#";
+    const auto found = Wordings.find(field + code);
+    return found == Wordings.end() ? Wordings.at(field + "ENG"s) : found->second;
+}
+
+inline std::u16string Compose(char field, std::u16string value, const std::string& code) {
+    if (value.empty() && field != 'T') value = field == 'P' ? u"2" : u"????";
+    if (field == 'P' && value != u"1") value = u"1-" + value;
+    if (field == 'P' && code == "JPN") value = Replaced<std::u16string>(value, u"-", u"～");
+    const std::u16string wording = Wording(field, code);
+    const std::size_t at = wording.find(u'#');
+    return wording.substr(0, at) + value + wording.substr(at + 1);
+}
+
+inline std::string Prefix(char field) {
+    return field == 'T' ? "T_VCTitle_" : field == 'Y' ? "T_Year_" : field == 'P' ? "T_Play_" : "T_ESRB_";
+}
+
+inline std::string Cut(const std::string& file) {
+    if (const std::size_t at = file.rfind("gre1\0\0\0\x08"s); at != file.npos) return file.substr(0, at + 8);
+    const std::size_t at = file.find("RootGroup\0\0\0\0\0\0\0\0\0\0\0"s);
+    return at == file.npos ? file : file.substr(0, at + 20);
+}
+
+inline std::string Neutral(const std::string& data) {
+    for (const std::string& code : Codes) {
+        if (code != "NONE" && !Get(data, "T_VCTitle_" + code).empty()) return "";
+    }
+    const std::u16string year = Get(data, "T_Year");
+    if (year.starts_with(u"Publié en ")) return "FRA";
+    if (year.find(u':') == year.npos) return "JPN";
+    for (const char* code : {"GER", "ITA", "SPA", "NED"}) {
+        const std::u16string words = Wording('Y', code);
+        if (year.substr(0, year.find(u':')) == words.substr(0, words.find(u':'))) return code;
+    }
+    return "ENG";
+}
+
+inline std::string Set_All(std::string data, char field, const std::u16string& value, const std::string& neutral) {
+    for (const std::string& code : Codes) data = Set(data, Prefix(field) + code, Compose(field, value, code));
+    if (neutral.empty()) return data;
+    const std::string prefix = Prefix(field);
+    return Set(data, prefix.substr(0, prefix.size() - 1), Compose(field, value, neutral));
+}
+
+/// Red, green and blue of the first and of the second colour.
+using Six = std::vector<int>;
+
+inline std::string Colored(std::string data, std::string name, const Six& six) {
+    name.resize(20, '\0');
+    const std::size_t at = data.find(name);
+    if (at == data.npos || at + 34 > data.size()) return data;
+    for (std::size_t i = 1; i < 13; ++i) data[at + 21 + i] = '\0';
+    for (std::size_t i = 0; i < 6; ++i) data[at + 21 + 2 * i + (i < 3 ? 0 : 2)] = static_cast<char>(six[i]);
+    return data;
+}
+
+/// `scheme`: 19 times six numbers.
+inline std::string Colored(std::string data, const std::vector<Six>& scheme) {
+    static const std::vector<std::string> Materials = {"PFLine",     "T_PF",     "Shade",     "Back0",    "Back1",
+                                                       "Back2",      "Back3",    "Back4",     "YearLine", "PlayLine",
+                                                       "T_VCTitle_", "T_Play_",  "T_Year_",   "T_ESRB_",  "VCPic",
+                                                       "VCPicBase",  "VCPicSha", "BackMask1", "BackMask2"};
+    for (std::size_t i = 0; i < Materials.size(); ++i) {
+        if (!Materials[i].ends_with('_')) data = Colored(data, Materials[i], scheme[i]);
+        for (std::size_t code = 0; Materials[i].ends_with('_') && code < 7; ++code) {
+            data = Colored(data, Materials[i] + Codes[code], scheme[i]);
+        }
+    }
+    return data;
+}
+
+inline std::string Forced(std::string data, const std::string& region) {
+    if (region == "NONE" || !Get(data, "T_VCTitle_" + region).empty()) return data;
+    for (const std::string& code : Codes) {
+        if (code == "NONE" || Get(data, "T_VCTitle_" + code).empty()) continue;
+        for (const std::string stem : {"T_YEAR_", "T_PLAY_", "T_ESRB_", "L"})
+            data = Replaced(data, stem + code, stem + region);
+        break;
+    }
+    return data;
+}
+
+inline std::string Trimmed(const std::string& text) {
+    const std::size_t first = text.find_first_not_of(' ');
+    return first == text.npos ? "" : text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+/// What a batch run makes of a file; nothing where it fails. The line has no path, each character of it is a byte, and
+/// every scheme that it names is `scheme`.
+inline std::optional<std::string> Batch(const std::string& file, const std::u16string& line,
+                                        const std::vector<Six>& scheme = {}) {
+    std::string data = Cut(file), force = "NONE", pad = "12000";
+    const std::string neutral = Neutral(data);
+    std::vector<std::string> pieces(1);
+    for (const char16_t unit : line) {
+        if (unit > 0xFF) return std::nullopt;
+        unit == u'-' ? pieces.emplace_back() : pieces.back() += static_cast<char>(unit);
+    }
+    for (std::size_t i = 1; i < pieces.size(); ++i) {
+        const std::string typed = pieces[i].substr(0, pieces[i].find(' '));
+        std::string word = typed;
+        for (char& c : word) c = c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c;
+        const auto value = [&](std::size_t skipped, bool quotes = false) {
+            const std::string text = Trimmed(pieces[i].substr(skipped));
+            const std::string kept = quotes ? text : Replaced<std::string>(text, "\"", "");
+            std::u16string units;
+            for (const char c : kept) units += static_cast<unsigned char>(c);
+            return units;
+        };
+        const auto room = [&](std::size_t skipped) { return pieces[i].size() >= skipped; };
+        const auto narrow = [](const std::u16string& text) { return std::string(text.begin(), text.end()); };
+        const std::string code = word.size() < 3 ? word : word.substr(word.size() - 3);
+        if (word == "LOGO") continue;
+        if (word == "FORCE") {
+            std::string region = room(5) ? narrow(value(5)) : "";
+            for (char& c : region) c = c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c;
+            if (std::find(Codes.begin(), Codes.end(), region) != Codes.end()) force = region;
+        } else if (word == "COLOR") {
+            if (room(6)) data = Colored(data, scheme);
+        } else if (word == "TITLE" || word == "YEAR" || word == "PLAY" || word == "ESRB") {
+            if (room(word.size() + 1)) {
+                data = Set_All(data, word[0], value(word.size() + 1, word == "YEAR"), neutral);
+            }
+        } else if (word == "SYSTEM") {
+            if (room(7)) data = Set(data, "T_PF", value(7));
+        } else if (word == "PAD") {
+            if (room(4)) pad = narrow(value(4));
+        } else if ((word.starts_with("T_") || word.starts_with("Y_") || word.starts_with("E_")) && room(6)) {
+            data = Set(data, Prefix(word[0]) + code, Compose(word[0], value(6), code));
+        } else if (word.starts_with("H_")) {
+            data = Set(data, typed.substr(2), value(typed.size()));
+        }
+    }
+    const bool add = pad.starts_with('+');
+    if (add) pad.erase(0, 1);
+    if ((pad.empty() && add) || pad.find_first_not_of("0123456789") != pad.npos || pad.size() > 6) return std::nullopt;
+    for (const std::string& code : Codes) {
+        for (const char field : {'T', 'Y', 'P', 'E'})
+            data = Set(data, Prefix(field) + code, Get(data, Prefix(field) + code));
+    }
+    data = Set(data, "T_PF", Get(data, "T_PF"));
+    Write_U32(data, 8, static_cast<std::uint32_t>(data.size()));
+    data = Forced(data, force);
+    const std::size_t wanted = (pad.empty() ? 0 : std::stoul(pad)) + (add ? data.size() : 0);
+    return data + std::string(std::max(wanted, data.size()) - data.size(), '\0');
 }
 
 }  // namespace plain

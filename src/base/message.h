@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "base/failure.h"
+#include "base/result.h"
 
 namespace bannersmith {
 

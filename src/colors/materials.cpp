@@ -6,16 +6,17 @@
 #include "base/numbers.h"
 #include "base/text.h"
 #include "gameinfo/languages.h"
-#include "layout/mod_globals.h"
+#include "layout/format.h"
 
 namespace bannersmith {
 
 namespace {
 
-constexpr std::size_t NameBytes = 20;
-constexpr std::size_t FirstLowByte = 21;  ///< low byte of the first colour's red
-constexpr std::size_t ColorBytes = 13;    ///< up to the low byte of the second colour's blue
-constexpr std::size_t SecondColor = 8;    ///< counted from the first low byte
+using material::NameBytes;
+
+constexpr std::size_t FirstLowByte = material::FirstColor + 1;  ///< of the first colour's red
+constexpr std::size_t SecondColor = material::SecondColor - material::FirstColor;
+constexpr std::size_t ColorBytes = SecondColor + 5;  ///< up to the low byte of the second blue
 
 std::string Key_Of(std::string_view name) {
     std::string key(name);
@@ -35,11 +36,11 @@ Color Color_At(std::string_view data, std::size_t at) {
     return Make_Color(byte(0), byte(2), byte(4));
 }
 
-std::vector<std::string> Names_Of(const ElementMaterial& material) {
-    if (!material.text) return {To_Utf8(material.name)};
+std::vector<std::string> Names_Of(const Element& element) {
+    if (!element.text) return {To_Utf8(element.material)};
     std::vector<std::string> names;
     for (const std::u16string_view code : Languages) {
-        names.push_back(To_Utf8(material.name) + To_Utf8(code));
+        names.push_back(To_Utf8(element.material) + To_Utf8(code));
     }
     return names;
 }
@@ -48,8 +49,8 @@ std::vector<std::string> Names_Of(const ElementMaterial& material) {
 
 std::vector<std::string> Written_Materials() {
     std::vector<std::string> all;
-    for (const ElementMaterial& material : ElementMaterials) {
-        for (std::string& name : Names_Of(material)) all.push_back(std::move(name));
+    for (const Element& element : Elements) {
+        for (std::string& name : Names_Of(element)) all.push_back(std::move(name));
     }
     return all;
 }
@@ -86,22 +87,21 @@ std::string& Set_Mat_Colors(std::string& data, std::string_view name, const Colo
     return data.replace(*at, bytes.size(), bytes.data(), bytes.size());
 }
 
-bool Get_Mat_Colors(std::string_view data, std::string_view name, ColorPair& colors) {
+std::optional<ColorPair> Get_Mat_Colors(std::string_view data, std::string_view name) {
     const auto at = Find_Colors(data, name);
-    if (!at) return false;
-    colors = {Color_At(data, *at), Color_At(data, *at + SecondColor)};
-    return true;
+    if (!at) return std::nullopt;
+    return ColorPair{Color_At(data, *at), Color_At(data, *at + SecondColor)};
 }
 
-Outcome Apply_Color_Scheme(std::u16string_view program_folder, std::u16string_view name) {
-    Scheme scheme;
-    if (auto failure = Load_Scheme(program_folder, name, scheme)) return failure;
-    for (std::size_t i = 0; i < scheme.size(); ++i) {
-        for (const std::string& material : Names_Of(ElementMaterials[i])) {
-            Set_Mat_Colors(BrlytData, material, scheme[i]);
+Result<std::string> Apply_Color_Scheme(std::string data, const std::u16string& scheme_file) {
+    const auto scheme = Load_Scheme(scheme_file);
+    if (!scheme) return scheme.Why();
+    for (std::size_t i = 0; i < Elements.size(); ++i) {
+        for (const std::string& name : Names_Of(Elements[i])) {
+            Set_Mat_Colors(data, name, (*scheme)[i]);
         }
     }
-    return std::nullopt;
+    return data;
 }
 
 }  // namespace bannersmith

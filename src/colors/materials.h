@@ -10,44 +10,13 @@
 #include <string_view>
 #include <vector>
 
-#include "base/failure.h"
+#include "base/result.h"
 #include "colors/scheme.h"
-#include "gameinfo/boxes.h"
-#include "gameinfo/game_info.h"
 
 namespace bannersmith {
 
-/// Where the colours of an element lie: in one material, or, for a text, in one of each language.
-struct ElementMaterial {
-    std::u16string_view name;  ///< of a text's materials what stands in front of the language code
-    std::optional<GameInfo::Selector> text = {};  ///< the field that the text belongs to
-};
-
-/// One for each element, in the order of `ElementKeys`.
-inline constexpr std::array<ElementMaterial, ElementCount> ElementMaterials = {{
-    {u"PFLine"},
-    {SystemBox},
-    {u"Shade"},
-    {u"Back0"},
-    {u"Back1"},
-    {u"Back2"},
-    {u"Back3"},
-    {u"Back4"},
-    {u"YearLine"},
-    {u"PlayLine"},
-    {box_prefix::Title, GameInfo::title},
-    {box_prefix::Players, GameInfo::players},
-    {box_prefix::Year, GameInfo::year},
-    {box_prefix::Rating, GameInfo::rating},
-    {u"VCPic"},
-    {u"VCPicBase"},
-    {u"VCPicSha"},
-    {u"BackMask1"},
-    {u"BackMask2"},
-}};
-
-/// The names of all materials whose colours a scheme can write: those of `ElementMaterials`, a
-/// text's for each language. ASCII, fewer than 20 bytes.
+/// The names of all materials whose colours a scheme writes, element by element: one each, a text's
+/// for each language. ASCII, fewer than 20 bytes.
 std::vector<std::string> Written_Materials();
 
 /// For each of `names` the first place in `data` where the name, filled up with zero bytes to 20,
@@ -62,13 +31,12 @@ std::vector<std::optional<std::size_t>> Find_Materials(std::string_view data,
 /// stays. A material that is missing or would end beyond the data leaves `data` unchanged.
 std::string& Set_Mat_Colors(std::string& data, std::string_view name, const ColorPair& colors);
 
-/// Reads the first two colours of a material into `colors`. False, with `colors` as it was, when
-/// the material is missing or ends beyond the data.
-bool Get_Mat_Colors(std::string_view data, std::string_view name, ColorPair& colors);
+/// The first two colours of a material; nothing when it is missing or ends beyond the data.
+std::optional<ColorPair> Get_Mat_Colors(std::string_view data, std::string_view name);
 
-/// Reads the scheme called `name` and writes its colours into the materials of `BrlytData`, element
-/// after element; a scheme's text colours go to the material of each language. Materials that the
-/// layout lacks are passed over. A scheme that cannot be read whole changes nothing.
-Outcome Apply_Color_Scheme(std::u16string_view program_folder, std::u16string_view name);
+/// `data` with the colours of a scheme file in its materials, element after element; a text's
+/// colours go to the material of each language. Materials that the layout lacks are passed over. A
+/// scheme that cannot be read whole changes nothing.
+Result<std::string> Apply_Color_Scheme(std::string data, const std::u16string& scheme_file);
 
 }  // namespace bannersmith

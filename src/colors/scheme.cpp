@@ -28,8 +28,11 @@ std::string_view Take_Number(std::string_view& rest) {
     return number;
 }
 
-/// Why `text` is no colour component; empty when it is one, which is then in `component`.
-std::string Parse_Component(std::string_view text, std::uint8_t& component) {
+Failure Fault(std::string reason) {
+    return {{}, std::move(reason)};
+}
+
+Result<std::uint8_t> Parse_Component(std::string_view text) {
     std::string_view digits = text;
     if (digits.starts_with('+')) digits.remove_prefix(1);
     long value = 0;
@@ -37,13 +40,12 @@ std::string Parse_Component(std::string_view text, std::uint8_t& component) {
     const bool whole =
         end == digits.data() + digits.size() && !digits.empty() && !text.starts_with("+-");
     if (error == std::errc::invalid_argument || !whole) {
-        return "\"" + std::string(text) + "\" is not a whole number";
+        return Fault("\"" + std::string(text) + "\" is not a whole number");
     }
     if (error != std::errc() || value < 0 || value > 255) {
-        return std::string(text) + " is not between 0 and 255";
+        return Fault(std::string(text) + " is not between 0 and 255");
     }
-    component = static_cast<std::uint8_t>(value);
-    return {};
+    return static_cast<std::uint8_t>(value);
 }
 
 void Append_Number(std::string& line, std::uint8_t number) {
@@ -60,9 +62,9 @@ std::u16string Scheme_Path(std::u16string_view program_folder, std::u16string_vi
     const std::u16string folder = Scheme_Folder(program_folder);
     const std::u16string path = folder + std::u16string(name) + From_Utf8(SchemeEnding);
     if (Ordinary_File_Exists(path)) return path;
-    std::vector<std::u16string> files;
-    static_cast<void>(List_Files(folder, SchemeEnding, files));  // none: the path says it
-    for (const std::u16string& file : files) {
+    const auto files = List_Files(folder, SchemeEnding);
+    if (!files) return path;
+    for (const std::u16string& file : *files) {
         if (Without_Ending(file) == name) return folder + file;
     }
     return path;
@@ -85,21 +87,22 @@ std::string Format_Scheme(const Scheme& scheme) {
     return contents;
 }
 
-std::string Parse_Scheme(std::string_view contents, Scheme& scheme) {
+Result<Scheme> Parse_Scheme(std::string_view contents) {
     constexpr std::size_t NumbersPerElement = 6;
     std::vector<std::uint8_t> numbers;
     std::string_view rest = contents;
-    while (numbers.size() < ElementCount * NumbersPerElement) {
+    while (numbers.size() < Elements.size() * NumbersPerElement) {
         if (rest.find_first_not_of(Blanks) == rest.npos) {
-            return "ends after " + std::to_string(numbers.size()) + " of 114 numbers";
+            return Fault("ends after " + std::to_string(numbers.size()) + " of 114 numbers");
         }
-        std::uint8_t component = 0;
-        const std::string reason = Parse_Component(Take_Number(rest), component);
-        if (!reason.empty()) {
-            return To_Utf8(ElementKeys[numbers.size() / NumbersPerElement]) + ": " + reason;
+        const auto component = Parse_Component(Take_Number(rest));
+        if (!component) {
+            return Fault(To_Utf8(Elements[numbers.size() / NumbersPerElement].key) + ": " +
+                         component.Why().reason);
         }
-        numbers.push_back(component);
+        numbers.push_back(*component);
     }
+    Scheme scheme{};
     const std::uint8_t* next = numbers.data();
     for (ColorPair& pair : scheme) {
         for (Color& color : pair) {
@@ -107,16 +110,13 @@ std::string Parse_Scheme(std::string_view contents, Scheme& scheme) {
             next += 3;
         }
     }
-    return {};
+    return scheme;
 }
 
-Outcome Load_Scheme(std::u16string_view program_folder, std::u16string_view name, Scheme& scheme) {
-    const std::u16string path = Scheme_Path(program_folder, name);
-    std::string contents;
-    if (auto failure = Read_File(path, contents)) return failure;
-    const std::string reason = Parse_Scheme(contents, scheme);
-    if (!reason.empty()) return Failure{path, reason};
-    return std::nullopt;
+Result<Scheme> Load_Scheme(const std::u16string& path) {
+    const auto contents = Read_File(path);
+    if (!contents) return contents.Why();
+    return Parse_Scheme(*contents).About(path);
 }
 
 }  // namespace bannersmith

@@ -6,24 +6,16 @@
 #include <string_view>
 
 #include "base/color.h"
-#include "base/failure.h"
+#include "base/result.h"
+#include "colors/elements.h"
 
 namespace bannersmith {
 
 /// First and second colour of one element.
 using ColorPair = std::array<Color, 2>;
 
-/// How many elements of a banner have colours of their own.
-inline constexpr std::size_t ElementCount = 19;
-
-/// The elements' keys in the order of the scheme file's lines.
-inline constexpr std::array<std::u16string_view, ElementCount> ElementKeys = {
-    u"PFLINE", u"T_PF",      u"Shade",    u"Back0",     u"Back1",    u"Back2",  u"Back3",
-    u"Back4",  u"YearLine",  u"PlayLine", u"T_VCTitle", u"T_Play",   u"T_Year", u"T_ESRB",
-    u"VCPic",  u"VCPicBase", u"VCPicSha", u"BackMask1", u"BackMask2"};
-
-/// One pair for each element, in the order of `ElementKeys`.
-using Scheme = std::array<ColorPair, ElementCount>;
+/// One pair for each element, in the order of `Elements`.
+using Scheme = std::array<ColorPair, Elements.size()>;
 
 /// The entry in front of the schemes in every scheme list: the colours that the layout itself has.
 inline constexpr std::u16string_view CurrentBrlyt = u"Current Brlyt";
@@ -46,12 +38,12 @@ std::u16string_view Without_Ending(std::u16string_view file);
 std::string Format_Scheme(const Scheme& scheme);
 
 /// Reads the 114 numbers of a scheme file's contents in sequence, whatever its lines: they are
-/// separated by blanks, a comma or line ends, and what follows the last one does not count. A text
-/// that ends early, something that is no whole number, and a number outside 0 to 255 give a reason,
-/// which names the element, and leave `scheme` as it was.
-std::string Parse_Scheme(std::string_view contents, Scheme& scheme);
+/// separated by blanks, a comma or line ends, and what follows the last one does not count. Fails
+/// for a text that ends early, for something that is no whole number, and for a number outside 0 to
+/// 255; the reason names the element, the subject is empty.
+Result<Scheme> Parse_Scheme(std::string_view contents);
 
-/// Reads the file of the scheme called `name` whole. On failure `scheme` is left as it was.
-Outcome Load_Scheme(std::u16string_view program_folder, std::u16string_view name, Scheme& scheme);
+/// Reads a scheme file whole.
+Result<Scheme> Load_Scheme(const std::u16string& path);
 
 }  // namespace bannersmith

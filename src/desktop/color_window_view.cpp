@@ -6,8 +6,8 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QVBoxLayout>
-#include <algorithm>
 #include <array>
+#include <map>
 #include <utility>
 
 #include "desktop/binding.h"
@@ -17,24 +17,12 @@
 
 namespace bannersmith {
 
-namespace {
-
-constexpr std::array<std::u16string_view, 13> UpperRow = {
-    u"PFLINE", u"T_PF",  u"Shade", u"VCPic", u"VCPicBase", u"VCPicSha", u"Back0",
-    u"Back1",  u"Back2", u"Back3", u"Back4", u"BackMask1", u"BackMask2"};
-constexpr std::array<std::u16string_view, 6> LowerRow = {u"YearLine", u"PlayLine", u"T_VCTitle",
-                                                         u"T_Year",   u"T_Play",   u"T_ESRB"};
-
-}  // namespace
-
 ColorWindowView::ColorWindowView(frmColor& window, std::function<void()> closed, QWidget* parent)
     : SecondWindow("color window", std::move(closed), parent), content_(new QWidget) {
     setWindowTitle("Bannersmith Colors");
     setWindowFlag(Qt::WindowMaximizeButtonHint);
-    auto* upper = new QHBoxLayout;
-    for (const std::u16string_view key : UpperRow) upper->addWidget(Make_Element(window, key), 1);
-    auto* lower = new QHBoxLayout;
-    for (const std::u16string_view key : LowerRow) lower->addWidget(Make_Element(window, key), 1);
+    QHBoxLayout* upper = Make_Row(window, 0);
+    QHBoxLayout* lower = Make_Row(window, 1);
     lower->addWidget(Make_Edit_Area(window), 7);
     for (QHBoxLayout* row : {upper, lower}) row->setSpacing(3);
 
@@ -81,10 +69,22 @@ QBoxLayout* ColorWindowView::Make_Bar(frmColor& window) {
     return bar;
 }
 
-QWidget* ColorWindowView::Make_Element(frmColor& window, std::u16string_view key) {
+/// The elements of a row by their columns.
+QHBoxLayout* ColorWindowView::Make_Row(frmColor& window, std::size_t row) {
+    std::map<std::size_t, std::size_t> columns;
+    for (std::size_t i = 0; i < Elements.size(); ++i) {
+        if (Elements[i].row == row) columns[Elements[i].column] = i;
+    }
+    auto* boxes = new QHBoxLayout;
+    for (const auto& [column, element] : columns) {
+        boxes->addWidget(Make_Element(window, element), 1);
+    }
+    return boxes;
+}
+
+QWidget* ColorWindowView::Make_Element(frmColor& window, std::size_t element) {
     constexpr QSize BoxSize(46, 18);
-    const auto element = static_cast<std::size_t>(
-        std::find(ElementKeys.begin(), ElementKeys.end(), key) - ElementKeys.begin());
+    const std::u16string_view key = Elements[element].key;
     auto* frame = new QGroupBox(Shown(key));
     QFont small = frame->font();
     small.setPointSizeF(small.pointSizeF() * 0.8);

@@ -4,6 +4,7 @@
 #include "desktop/second_window.h"
 
 class QBoxLayout;
+class QHBoxLayout;
 
 namespace bannersmith {
 
@@ -16,7 +17,8 @@ class ColorWindowView : public SecondWindow {
 
  private:
     QBoxLayout* Make_Bar(frmColor& window);
-    QWidget* Make_Element(frmColor& window, std::u16string_view key);
+    QHBoxLayout* Make_Row(frmColor& window, std::size_t row);
+    QWidget* Make_Element(frmColor& window, std::size_t element);
     QWidget* Make_Edit_Area(frmColor& window);
 
     QWidget* content_;

@@ -95,14 +95,14 @@ QWidget* MainWindowView::Make_Game_Info() {
     auto* frame = new QGroupBox("Game Info");
     auto* grid = new QGridLayout(frame);
     Add_Field(*grid, 0, "&Name:", info.txtName, true);
-    Add_Selector(*grid, 0, "name", GameInfo::title, 0, 0);
+    Add_Selector(*grid, 0, "name", Field::title, 0, 0);
     Add_Field(*grid, 1, "S&ystem:", info.txtSystem, true);
     grid->addWidget(Set_All_Button("Set", "Write the console's name", 3), 1, set);
     Add_Field(*grid, 2, "Y&ear:", info.txtYear, true);
-    Add_Selector(*grid, 2, "year", GameInfo::year, 1, 1);
+    Add_Selector(*grid, 2, "year", Field::year, 1, 1);
     Add_Players(*grid, 3);
     Add_Field(*grid, 4, "ESRB &Rating:", info.txtESRB, false);
-    Add_Selector(*grid, 4, "rating", GameInfo::rating, 2, 4);
+    Add_Selector(*grid, 4, "rating", Field::rating, 2, 4);
     auto* hardcore =
         Make_Button("Hardcore Manual Text Editor", "Show and replace the text of any text box",
                     QKeySequence("Ctrl+T"), [this] { window_.cmdHC_Click(); });
@@ -123,10 +123,10 @@ void MainWindowView::Add_Field(QGridLayout& grid, int row, const QString& name, 
 
 /// The language list behind a field, and the buttons that write the field for that language or for
 /// all, by their indexes.
-void MainWindowView::Add_Selector(QGridLayout& grid, int row, const QString& name,
-                                  GameInfo::Selector list, std::int16_t set_index,
-                                  std::int16_t set_all_index) {
-    auto* combo = Make_List(window_.info.cmbRegion[list], "The language of the " + name + " shown");
+void MainWindowView::Add_Selector(QGridLayout& grid, int row, const QString& name, Field list,
+                                  std::int16_t set_index, std::int16_t set_all_index) {
+    auto* combo = Make_List(window_.info.cmbRegion[static_cast<std::size_t>(list)],
+                            "The language of the " + name + " shown");
     combo->setAccessibleName("Language of the " + name);
     grid.addWidget(combo, row, selector);
     grid.addWidget(Make_Button("Set", "Write the " + name + " for this language", {},

@@ -27,7 +27,7 @@ class MainWindowView : public QMainWindow {
     QWidget* Make_Game_Info();
     QWidget* Make_File_Frame();
     void Add_Field(QGridLayout& grid, int row, const QString& name, TextBox& box, bool bold);
-    void Add_Selector(QGridLayout& grid, int row, const QString& name, GameInfo::Selector list,
+    void Add_Selector(QGridLayout& grid, int row, const QString& name, Field list,
                       std::int16_t set_index, std::int16_t set_all_index);
     QPushButton* Set_All_Button(const QString& name, const QString& tooltip, std::int16_t index);
     void Add_Players(QGridLayout& grid, int row);

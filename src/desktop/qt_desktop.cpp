@@ -16,6 +16,7 @@
 #include "desktop/text.h"
 #include "desktop/widgets.h"
 #include "system/code_page.h"
+#include "system/process.h"
 
 namespace bannersmith {
 
@@ -53,7 +54,7 @@ bool QtDesktop::Confirm(const std::u16string& question) {
 }
 
 void QtDesktop::Report(const Failure& failure) {
-    NoDesktop().Report(failure);
+    Print_Failure(failure);
     const std::string text =
         Readable(failure.subject) + "\n\n" + Readable(From_Utf8(failure.reason));
     Show_Box(QMessageBox::Critical, QString::fromStdString(text));

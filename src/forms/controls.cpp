@@ -4,8 +4,11 @@
 
 namespace bannersmith {
 
-Outcome FileList::Set_Path(const std::u16string& folder) {
-    return List_Files(folder, ending_, names_);
+Result<> FileList::Set_Path(const std::u16string& folder) {
+    auto names = List_Files(folder, ending_);
+    names_ = names ? *names : std::vector<std::u16string>();
+    if (!names) return names.Why();
+    return {};
 }
 
 }  // namespace bannersmith

@@ -152,7 +152,7 @@ class FileList {
     explicit FileList(std::string_view ending) : ending_(ending) {}
 
     /// Lists `folder`: file names sorted by name; none where it fails.
-    Outcome Set_Path(const std::u16string& folder);
+    Result<> Set_Path(const std::u16string& folder);
 
     /// The names as they were listed, without their folder.
     const std::vector<std::u16string>& Names() const { return names_; }

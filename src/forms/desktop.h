@@ -5,15 +5,9 @@
 #include <string_view>
 
 #include "base/color.h"
-#include "base/failure.h"
+#include "base/result.h"
 
 namespace bannersmith {
-
-/// Where and how the program was started.
-struct Process {
-    std::u16string program_folder;  ///< folder of the executable, no separator at its end
-    std::u16string command_line;    ///< everything after the program's name, as one text
-};
 
 /// A font by the family's name and its size in points. A family that is not installed is replaced
 /// by one that has Japanese characters.
@@ -54,20 +48,6 @@ class Desktop {
     /// What is left of `text` in a control that shows the system's code page only. On systems whose
     /// code page has every character, all of it.
     virtual std::u16string In_Code_Page(std::u16string_view text) = 0;
-};
-
-/// A run without windows: failures go to standard error as one line each, "bannersmith: SUBJECT:
-/// REASON"; messages are not shown, every question is left unanswered and nothing is confirmed.
-class NoDesktop : public Desktop {
- public:
-    void Message(const std::u16string& text) override;
-    bool Confirm(const std::u16string& question) override;
-    void Report(const Failure& failure) override;
-    std::u16string Open_File(const std::u16string& filter, const std::u16string& last) override;
-    std::u16string Ask(const std::u16string& prompt, const std::u16string& title) override;
-    Color Choose_Color(Color color) override;
-    float Text_Width(std::u16string_view text, const Font& font) override;
-    std::u16string In_Code_Page(std::u16string_view text) override;
 };
 
 }  // namespace bannersmith

@@ -3,28 +3,35 @@
 #include <utility>
 
 #include "base/text.h"
-#include "layout/mod_globals.h"
+#include "gameinfo/languages.h"
 #include "layout/text_box.h"
 
 namespace bannersmith {
 
-std::u16string Read_Box(std::u16string_view name) {
-    const auto bytes = To_Bytes(name);
-    return bytes ? Get_Text(BrlytData, *bytes) : std::u16string();
+std::u16string Box_Of(Field field, std::u16string_view code) {
+    return std::u16string(Prefix_Of(field)).append(code);
 }
 
-// A copy is changed, so that a lack of memory on the way leaves the layout as it was.
+std::u16string Box_To_Read(Field field, std::u16string_view code) {
+    return code == NoLanguage ? std::u16string(Neutral_Box(Prefix_Of(field))) : Box_Of(field, code);
+}
 
-void Write_Boxes(const std::vector<NamedText>& texts) {
+std::u16string Read_Box(std::string_view layout, std::u16string_view name) {
+    const auto bytes = To_Bytes(name);
+    return bytes ? Get_Text(layout, *bytes) : std::u16string();
+}
+
+std::string Write_Boxes(std::string layout, const std::vector<NamedText>& texts) {
     std::vector<BoxText> boxes;
     for (const NamedText& named : texts) {
         if (auto bytes = To_Bytes(named.name)) boxes.push_back({std::move(*bytes), named.text});
     }
-    BrlytData = Set_Texts(BrlytData, boxes);
+    return Set_Texts(std::move(layout), boxes);
 }
 
-void Write_Box(std::u16string_view name, std::u16string_view text) {
-    if (const auto bytes = To_Bytes(name)) BrlytData = Set_Text(BrlytData, *bytes, text);
+std::string Write_Box(std::string layout, std::u16string_view name, std::u16string_view text) {
+    const auto bytes = To_Bytes(name);
+    return bytes ? Set_Text(std::move(layout), *bytes, text) : layout;
 }
 
 }  // namespace bannersmith

@@ -1,4 +1,4 @@
-// The text boxes of a banner by name, on the loaded layout.
+// The text boxes of a banner by name.
 #pragma once
 
 #include <array>
@@ -8,6 +8,9 @@
 
 namespace bannersmith {
 
+/// The fields that each language has a box for, in the order in which a save treats them.
+enum class Field : std::size_t { title, year, players, rating };
+
 /// The name of a field's box in front of the language code.
 namespace box_prefix {
 inline constexpr std::u16string_view Title = u"T_VCTitle_";
@@ -16,18 +19,29 @@ inline constexpr std::u16string_view Players = u"T_Play_";
 inline constexpr std::u16string_view Rating = u"T_ESRB_";
 }  // namespace box_prefix
 
-/// The prefixes of the four fields that each language has a box for, in the order in which a save
-/// treats them.
+/// The prefix of each field.
 inline constexpr std::array<std::u16string_view, 4> FieldPrefixes = {
     box_prefix::Title, box_prefix::Year, box_prefix::Players, box_prefix::Rating};
 
 /// The one box that serves all languages: the name of the console.
 inline constexpr std::u16string_view SystemBox = u"T_PF";
 
+/// The prefix of a field's boxes.
+constexpr std::u16string_view Prefix_Of(Field field) {
+    return FieldPrefixes[static_cast<std::size_t>(field)];
+}
+
 /// The name of a field's language-neutral box: the prefix without its underscore.
 constexpr std::u16string_view Neutral_Box(std::u16string_view prefix) {
     return prefix.substr(0, prefix.size() - 1);
 }
+
+/// The name of a field's box of one language. With the code "NONE" it is the one under which the
+/// neutral box is written.
+std::u16string Box_Of(Field field, std::u16string_view code);
+
+/// The name under which the same box is read: that of the neutral box for the code "NONE".
+std::u16string Box_To_Read(Field field, std::u16string_view code);
 
 /// A text for a box, by the name as the windows and the command line have it.
 struct NamedText {
@@ -35,14 +49,14 @@ struct NamedText {
     std::u16string text;
 };
 
-/// The display text of a box of `BrlytData`. A name with a code unit above 0xFF names no box.
-std::u16string Read_Box(std::u16string_view name);
+/// The display text of a box of the layout. A name with a code unit above 0xFF names no box.
+std::u16string Read_Box(std::string_view layout, std::u16string_view name);
 
-/// Writes each text into its box of `BrlytData`, in order. Names that no box can have are passed
+/// The layout with each text written into its box, in order. Names that no box can have are passed
 /// over.
-void Write_Boxes(const std::vector<NamedText>& texts);
+std::string Write_Boxes(std::string layout, const std::vector<NamedText>& texts);
 
 /// `Write_Boxes` for one box.
-void Write_Box(std::u16string_view name, std::u16string_view text);
+std::string Write_Box(std::string layout, std::u16string_view name, std::u16string_view text);
 
 }  // namespace bannersmith

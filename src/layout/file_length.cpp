@@ -1,16 +1,15 @@
 #include "layout/file_length.h"
 
+#include <optional>
+
 #include "base/numbers.h"
+#include "layout/format.h"
 
 namespace bannersmith {
 
 namespace {
 
-using namespace std::string_view_literals;
-
-constexpr std::size_t FileLengthOffset = 8;
-constexpr std::string_view ClosingGroup = "gre1\0\0\0\x08"sv;
-constexpr std::string_view EmptyRootGroup = "RootGroup\0\0\0\0\0\0\0\0\0\0\0"sv;
+using ending::ClosingGroup, ending::EmptyRootGroup;
 
 std::optional<std::size_t> Read_Count(std::u16string_view digits) {
     if (digits.empty()) return std::nullopt;
@@ -34,17 +33,18 @@ std::size_t Find_Last(std::string_view data, std::string_view wanted) {
 }  // namespace
 
 std::string Set_File_Len(std::string tmpFile) {
-    if (tmpFile.size() < HeaderBytes) return tmpFile;
-    Write_U32(tmpFile, FileLengthOffset, static_cast<std::uint32_t>(tmpFile.size()));
+    if (tmpFile.size() < header::LengthEnd) return tmpFile;
+    Write_U32(tmpFile, header::FileLength, static_cast<std::uint32_t>(tmpFile.size()));
     return tmpFile;
 }
 
-std::optional<Padding> Read_Padding(std::u16string_view text) {
+Result<Padding> Read_Padding(std::u16string_view text) {
     if (text.empty()) return Padding{true, 0};
     const bool append = text.front() == u'+';
     const auto count = Read_Count(text.substr(append ? 1 : 0));
-    if (!count) return std::nullopt;
-    return Padding{append, *count};
+    if (count) return Padding{append, *count};
+    return Failure{std::u16string(u"Padding \"").append(text).append(u"\""),
+                   "Not a whole number up to 268435456, with or without + in front of it"};
 }
 
 std::string AddPadding(std::string TheFile, const Padding& padding) {

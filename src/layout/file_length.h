@@ -2,14 +2,12 @@
 #pragma once
 
 #include <cstddef>
-#include <optional>
 #include <string>
 #include <string_view>
 
-namespace bannersmith {
+#include "base/result.h"
 
-/// Bytes 0 to 11 of a layout: up to and including the file length. Shorter data cannot hold it.
-inline constexpr std::size_t HeaderBytes = 12;
+namespace bannersmith {
 
 /// `tmpFile` with its own length in bytes written at offset 8 (four bytes, big-endian). Data too
 /// short to hold that field is returned unchanged.
@@ -26,8 +24,8 @@ struct Padding {
 inline constexpr std::size_t MostPadding = std::size_t{256} << 20;
 
 /// The meaning of a padding text: empty for none, "+" and a whole number to append, a whole number
-/// to fill up. Nothing for any other text and for numbers above `MostPadding`.
-std::optional<Padding> Read_Padding(std::u16string_view text);
+/// to fill up. Fails, naming the padding, for any other text and for numbers above `MostPadding`.
+Result<Padding> Read_Padding(std::u16string_view text);
 
 /// `TheFile` with the zero bytes that `padding` asks for behind it; unchanged when it is long
 /// enough.

@@ -2,6 +2,8 @@
 
 #include <cstddef>
 
+#include "layout/format.h"
+
 namespace bannersmith {
 
 namespace {
@@ -33,8 +35,7 @@ constexpr Kind Kinds[] = {
 }  // namespace
 
 bool Is_Layout(std::string_view data) {
-    constexpr std::size_t WholeHeader = 16;
-    return data.size() >= WholeHeader && data.starts_with("RLYT");
+    return data.size() >= header::Size && data.starts_with(header::Magic);
 }
 
 std::string_view Not_To_Be_Edited(std::string_view data) {

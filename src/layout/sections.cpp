@@ -11,11 +11,6 @@ namespace bannersmith {
 
 namespace {
 
-constexpr std::size_t SectionHeader = 8, GroupNames = 28, NameWidth = 16;
-constexpr std::size_t MaterialName = 20, MaterialColors = 16, MaterialList = 12;
-constexpr std::size_t SmallestMaterial = 0x40;
-constexpr std::size_t TextOffsetField = 0x58;
-
 std::string Zero_Ended(std::string_view bytes) {
     return std::string(bytes.substr(0, bytes.find('\0')));
 }
@@ -32,65 +27,66 @@ void Add_Fault(LayoutInfo& info, std::string fault) {
     if (info.faults.size() <= MostFaults) info.faults.push_back(std::move(fault));
 }
 
-void Read_Text_Box(const ChainSection& section, LayoutInfo& info) {
-    if (section.bytes.size() < record::FieldsEnd) {
-        Add_Fault(info, "text box at " + Hex(section.offset) + ": no room for its fields");
+void Read_Text_Box(const ChainSection& part, LayoutInfo& info) {
+    if (part.bytes.size() < record::FieldsEnd) {
+        Add_Fault(info, "text box at " + Hex(part.offset) + ": no room for its fields");
         return;
     }
     TextBoxInfo box;
-    box.offset = section.offset;
-    box.record = section.bytes;
-    box.section_size = Read_U32(section.bytes, record::SectionSize);
-    box.name = Zero_Ended(box.record.substr(record::Name, NameWidth));
-    if (box.record.size() >= TextOffsetField + 4) {
+    box.offset = part.offset;
+    box.record = part.bytes;
+    box.section_size = Read_U32(part.bytes, record::SectionSize);
+    box.name = Zero_Ended(box.record.substr(record::Name, record::NameBytes));
+    if (box.record.size() >= record::TextOffset + 4) {
         box.buffer_length = Read_U16(box.record, record::BufferLength);
         box.text_length = Read_U16(box.record, record::TextLength);
-        box.text_offset = Read_U32(box.record, TextOffsetField);
+        box.text_offset = Read_U32(box.record, record::TextOffset);
         const std::size_t begin = std::min(box.text_offset, box.record.size());
         box.text = Shown_Text(box.record.substr(begin, box.text_length));
     }
     info.boxes.push_back(box);
 }
 
-void Read_Materials(const ChainSection& section, LayoutInfo& info) {
-    const std::string_view bytes = section.bytes;
-    const std::size_t count = bytes.size() >= MaterialList ? Read_U16(bytes, SectionHeader) : 0;
+void Read_Materials(const ChainSection& part, LayoutInfo& info) {
+    const std::string_view bytes = part.bytes;
+    const std::size_t count = bytes.size() >= material::List ? Read_U16(bytes, material::Count) : 0;
     for (std::size_t i = 0; i < count; ++i) {
-        const std::size_t entry = MaterialList + 4 * i;
+        const std::size_t entry = material::List + 4 * i;
         const std::size_t at = entry + 4 <= bytes.size() ? Read_U32(bytes, entry) : bytes.size();
-        const bool outside = at > bytes.size() || bytes.size() - at < MaterialName + MaterialColors;
-        if (outside || i * SmallestMaterial > bytes.size()) {
+        const bool outside = at > bytes.size() || bytes.size() - at < material::ColorsEnd;
+        if (outside || i * material::Smallest > bytes.size()) {
             // The rest of a list that is no list says nothing more, and can be long.
             Add_Fault(info, "material " + std::to_string(i) + " lies outside its section");
             return;
         }
-        MaterialInfo material{
-            section.offset + at, Zero_Ended(bytes.substr(at, MaterialName)), {}, {}};
+        MaterialInfo found{
+            part.offset + at, Zero_Ended(bytes.substr(at, material::NameBytes)), {}, {}};
         for (std::size_t c = 0; c < 4; ++c) {
-            const std::size_t colors = at + MaterialName + 2 * c;
-            material.first[c] = static_cast<std::int16_t>(Read_U16(bytes, colors));
-            material.second[c] = static_cast<std::int16_t>(Read_U16(bytes, colors + 8));
+            const std::size_t colors = at + material::FirstColor + 2 * c;
+            found.first[c] = static_cast<std::int16_t>(Read_U16(bytes, colors));
+            found.second[c] = static_cast<std::int16_t>(
+                Read_U16(bytes, colors + material::SecondColor - material::FirstColor));
         }
-        info.materials.push_back(material);
+        info.materials.push_back(found);
     }
 }
 
-void Read_Group(const ChainSection& section, LayoutInfo& info) {
-    if (section.bytes.size() < GroupNames) return;
-    GroupInfo group{Zero_Ended(section.bytes.substr(SectionHeader, NameWidth)), {}};
-    const std::size_t count = Read_U16(section.bytes, GroupNames - 4);
+void Read_Group(const ChainSection& part, LayoutInfo& info) {
+    if (part.bytes.size() < group::Members) return;
+    GroupInfo found{Zero_Ended(part.bytes.substr(group::Name, group::NameBytes)), {}};
+    const std::size_t count = Read_U16(part.bytes, group::Count);
     for (std::size_t i = 0; i < count; ++i) {
-        const std::size_t at = GroupNames + NameWidth * i;
-        if (at + NameWidth > section.bytes.size()) break;
-        group.members.push_back(Zero_Ended(section.bytes.substr(at, NameWidth)));
+        const std::size_t at = group::Members + group::NameBytes * i;
+        if (at + group::NameBytes > part.bytes.size()) break;
+        found.members.push_back(Zero_Ended(part.bytes.substr(at, group::NameBytes)));
     }
-    info.groups.push_back(group);
+    info.groups.push_back(found);
 }
 
-void Read_Section(const ChainSection& section, LayoutInfo& info) {
-    if (section.tag == record::Tag) Read_Text_Box(section, info);
-    if (section.tag == "mat1") Read_Materials(section, info);
-    if (section.tag == "grp1") Read_Group(section, info);
+void Read_Section(const ChainSection& part, LayoutInfo& info) {
+    if (part.tag == record::Tag) Read_Text_Box(part, info);
+    if (part.tag == section::Materials) Read_Materials(part, info);
+    if (part.tag == section::Group) Read_Group(part, info);
 }
 
 }  // namespace
@@ -107,17 +103,17 @@ std::string Hex(std::size_t number) {
 LayoutInfo Read_Layout(std::string_view data) {
     LayoutInfo info;
     info.file_size = data.size();
-    info.header_length = Read_U32(data, 8);
+    info.header_length = Read_U32(data, header::FileLength);
     const std::string_view layout = data.substr(0, info.header_length);
-    std::size_t at = Read_U16(data, 12);
-    while (at + SectionHeader <= layout.size()) {
-        const std::size_t size = Read_U32(layout, at + 4);
-        const ChainSection section{at, layout.substr(at, 4), layout.substr(at, size)};
-        if (size < SectionHeader) {
+    std::size_t at = Read_U16(data, header::Length);
+    while (at + section::Body <= layout.size()) {
+        const std::size_t size = Read_U32(layout, at + section::Size);
+        const ChainSection part{at, layout.substr(at, 4), layout.substr(at, size)};
+        if (size < section::Body) {
             Add_Fault(info, "section at " + Hex(at) + " has size " + std::to_string(size));
             return info;
         }
-        Read_Section(section, info);
+        Read_Section(part, info);
         at += size;
     }
     if (at != layout.size()) Add_Fault(info, "the last section does not end with the layout");

@@ -1,5 +1,5 @@
-// The section chain of a layout, followed by its size fields. The inspect tool is the one place
-// that does so; the editor finds what it needs by searching.
+// The section chain of a layout, followed by its size fields: a read-only view for whoever shows or
+// checks a layout. The editor finds what it needs by searching.
 #pragma once
 
 #include <array>

@@ -83,10 +83,11 @@ std::string Rewrite_Texts(std::string data, std::span<const std::string> names) 
 }
 
 std::vector<std::string> Text_Box_Names(std::string_view data) {
-    constexpr std::size_t NameInPiece = record::Name - record::Tag.size(), MostBytes = 20;
+    constexpr std::size_t NameInPiece = record::Name - record::Tag.size();
     std::vector<std::string> names;
     for (const std::string_view piece : Pieces(data).Behind_Tags(data)) {
-        std::string name(piece.substr(std::min(NameInPiece, piece.size()), MostBytes));
+        std::string name(
+            piece.substr(std::min(NameInPiece, piece.size()), record::ListedNameBytes));
         std::erase(name, '\0');
         names.push_back(std::move(name));
     }

@@ -1,14 +1,10 @@
 #include "mainwindow/form1.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "base/text.h"
 #include "colors/window/scheme_list.h"
 #include "gameinfo/languages.h"
-#include "layout/kind.h"
-#include "layout/mod_globals.h"
-#include "system/code_page.h"
 #include "system/files.h"
 
 namespace bannersmith {
@@ -20,106 +16,44 @@ constexpr std::u16string_view CurrentLogo = u"Current Logo";
 }  // namespace
 
 Form1::Form1(Process process, Desktop& desktop)
-    : cmbForce({LanguageList.begin(), LanguageList.end()}),
+    : BrlytData(opened_.banner.Bytes()),
+      NoneRegion(opened_.banner.Neutral()),
+      info(opened_.banner, [this](const Edit& edit) { Apply(edit); }),
+      cmbForce({LanguageList.begin(), LanguageList.end()}),
       process_(std::move(process)),
       desktop_(desktop) {
     txtSrc.Change = [this] { txtSrc_Change(); };
 }
 
-std::optional<int> Form1::Form_Load() {
+bool Form1::Form_Load() {
     cmbForce.Select(cmbForce.Count() - 1);
-    std::u16string line;
-    if (const auto failure = Read_Configuration(line)) {
-        desktop_.Report(*failure);
-        return Failed;
+    const auto line = Configuration(process_.program_folder).Read();
+    if (!line) {
+        desktop_.Report(line.Why());
+        return false;
     }
-    if (!Has_Window()) return Run_Batch(line);
-    txtSrc.Set(line);
+    txtSrc.Set(*line);
     form.Show();
     Tell_What_Is_Loaded();
     RefreshColorList_Here();
     RefreshLogoList();
-    return std::nullopt;
-}
-
-std::u16string Form1::Configuration_Path() const {
-    return process_.program_folder + u"\\cfgs\\vcinfopath.cfg";
-}
-
-Outcome Form1::Read_Configuration(std::u16string& line) const {
-    std::string contents;
-    if (auto failure = Read_File(Configuration_Path(), contents)) return failure;
-    if (contents.empty()) {
-        return Failure{Configuration_Path(), "Holds no line; write one with any path into it"};
-    }
-    line = From_Code_Page(contents.substr(0, contents.find_first_of("\r\n")));
-    return std::nullopt;
-}
-
-/// A path that cannot be stored is no reason to stop working, so a failure is not reported. One
-/// that the code page has not, or of more than a line, would come back as another path, so the last
-/// one stays.
-void Form1::Store_Path() const {
-    const std::string path = To_Code_Page(txtSrc.Text());
-    const bool one_line = path.find_first_of("\r\n") == path.npos;
-    if (!one_line || From_Code_Page(path) != txtSrc.Text()) return;
-    const std::string line = path + "\r\n";
-    std::string stored;
-    if (!Read_File(Configuration_Path(), stored) && stored == line) return;
-    static_cast<void>(Replace_File(Configuration_Path(), line));
-}
-
-std::u16string Form1::Layout_Path() const {
-    return Resolve(process_.program_folder, txtSrc.Text());
+    return true;
 }
 
 void Form1::txtSrc_Change() {
-    BrlytData.clear();
-    on_disk_.clear();
-    layout_size_ = 0;
-    why_not_loaded_.clear();
-    const std::u16string path = Layout_Path();
-    if (Ordinary_File_Exists(path)) {
-        BrlytPath = path;
-        Load_Brlyt();
-        Store_Path();
-    }
-    if (!Has_Window()) return;
+    opened_ = {};
+    opened_ = Open_Layout(process_.program_folder, txtSrc.Text(), Banner::MostHistory);
+    if (opened_.banner.Is_Loaded()) info.Refill();
     lblLastCommand.Set(u"");
     Tell_What_Is_Loaded();
 }
 
-void Form1::Load_Brlyt() {
-    NoneRegion.clear();
-    if (!Ordinary_File_Exists(BrlytPath) || Ends_In_Separator(BrlytPath)) return;
-    try {
-        if (const auto failure = Read_File(BrlytPath, on_disk_)) {
-            why_not_loaded_ = failure->reason;
-            return;
-        }
-        why_not_loaded_ = Not_To_Be_Edited(on_disk_);
-        if (!why_not_loaded_.empty()) return;
-        BrlytData = CutPadding(on_disk_);
-        layout_size_ = BrlytData.size();
-        info.Refill();
-    } catch (const std::bad_alloc&) {
-        BrlytData = on_disk_ = {};
-        layout_size_ = 0;
-        why_not_loaded_ = "Not enough memory";
-    }
+void Form1::Apply(const Edit& edit) {
+    if (const auto applied = opened_.banner.Apply(edit); !applied) desktop_.Report(applied.Why());
 }
 
-Failure Form1::Why_No_Layout() const {
-    if (txtSrc.Text().empty()) {
-        return {Has_Window() ? u"File" : Configuration_Path(), "Names no layout file"};
-    }
-    if (!why_not_loaded_.empty()) return {txtSrc.Text(), why_not_loaded_};
-    std::string bytes;
-    if (const auto failure = Read_File(Layout_Path(), bytes)) {
-        return {txtSrc.Text(), failure->reason};
-    }
-    return {txtSrc.Text(),
-            bytes.size() < HeaderBytes ? "Too short to be a layout" : "No layout is loaded"};
+std::u16string Form1::Layout_Path() const {
+    return Resolve(process_.program_folder, txtSrc.Text());
 }
 
 void Form1::cmdFileBrowse_Click() {
@@ -156,8 +90,10 @@ void Form1::RefreshLogoList() {
 }
 
 void Form1::cmdEditColor_Click() {
-    ColorWindow = std::make_unique<frmColor>(MainWindowForColors{form, txtSrc, cmbFileList, info},
-                                             process_.program_folder, desktop_);
+    ColorWindow =
+        std::make_unique<frmColor>(MainWindowForColors{form, txtSrc, cmbFileList, info.cmbRegion,
+                                                       [this] { return info.Texts(); }},
+                                   process_.program_folder, desktop_);
     ColorWindowMade.Raise();
     ColorWindow->Form_Load();
     ColorWindow->form.Show();
@@ -171,11 +107,13 @@ void Form1::Close_Color_Window() {
 }
 
 void Form1::cmdHC_Click() {
-    TextEditor = std::make_unique<frmHC>(form, info);
-    TextEditor->Written = [this, before = BrlytData]() mutable {
+    const auto apply = [this](const Edit& edit) {
+        const std::string before = BrlytData;
+        Apply(edit);
         Tell_Changes(u"Text editor", before);
-        before = BrlytData;
     };
+    TextEditor = std::make_unique<frmHC>(
+        MainWindowForTexts{form, opened_.banner, apply, [this] { info.Show_Selected(); }});
     TextEditorMade.Raise();
     TextEditor->Form_Load();
     TextEditor->form.Show();
@@ -184,13 +122,6 @@ void Form1::cmdHC_Click() {
 void Form1::Close_Text_Editor() {
     TextEditor->Form_Unload();
     TextEditor.reset();
-}
-
-void Form1::SetForce(std::u16string& REG) {
-    REG = Capitals(REG);
-    const auto& entries = cmbForce.Entries();
-    const auto entry = std::find(entries.begin(), entries.end(), REG);
-    if (entry != entries.end()) cmbForce.Select(static_cast<int>(entry - entries.begin()));
 }
 
 }  // namespace bannersmith

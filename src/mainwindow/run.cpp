@@ -1,9 +1,10 @@
 #include "mainwindow/run.h"
 
 #include <algorithm>
+#include <span>
 
 #include "base/text.h"
-#include "mainwindow/form1.h"
+#include "mainwindow/batch_run.h"
 #include "system/process.h"
 
 namespace bannersmith {
@@ -38,13 +39,11 @@ std::optional<int> Answer_About(const std::u16string& command_line, const std::s
 }
 
 int Run_Batch_Mode(const std::u16string& command_line) {
-    NoDesktop desktop;
     if (const std::string fault = Fault_Of(command_line); !fault.empty()) {
-        desktop.Report({u"Command line", fault});
-        return Form1::Failed;
+        Print_Failure({u"Command line", fault});
+        return BatchRun::Failed;
     }
-    Form1 window({Program_Folder(), command_line}, desktop);
-    return window.Form_Load().value_or(Form1::Done);
+    return BatchRun({Program_Folder(), command_line}, Print_Failure).Run();
 }
 
 }  // namespace bannersmith

@@ -6,7 +6,6 @@
 #include "gameinfo/boxes.h"
 #include "gameinfo/languages.h"
 #include "layout/kind.h"
-#include "layout/mod_globals.h"
 #include "layout/text_box.h"
 #include "mainwindow/form1.h"
 #include "system/files.h"
@@ -23,21 +22,21 @@ std::u16string Number(std::size_t number) {
     return From_Utf8(std::to_string(number));
 }
 
-bool Has_One_Text_For_All() {
-    return std::any_of(FieldPrefixes.begin(), FieldPrefixes.end(), [](std::u16string_view prefix) {
-        return !Read_Box(Neutral_Box(prefix)).empty();
+bool Has_One_Text_For_All(std::string_view layout) {
+    return std::any_of(FieldPrefixes.begin(), FieldPrefixes.end(), [&](std::u16string_view prefix) {
+        return !Read_Box(layout, Neutral_Box(prefix)).empty();
     });
 }
 
 /// The codes of the languages that have a title, or what there is in their place.
-std::u16string Languages_Present() {
+std::u16string Languages_Present(std::string_view layout) {
     std::u16string codes;
     for (const std::u16string_view code : Languages) {
-        if (Read_Box(std::u16string(box_prefix::Title).append(code)).empty()) continue;
+        if (Read_Box(layout, Box_Of(Field::title, code)).empty()) continue;
         codes.append(codes.empty() ? u"" : u" ").append(code);
     }
     if (!codes.empty()) return codes;
-    return Has_One_Text_For_All() ? u"one text for all languages" : u"no titles";
+    return Has_One_Text_For_All(layout) ? u"one text for all languages" : u"no titles";
 }
 
 /// The text boxes that the fields write, as far as their texts differ between two layouts.
@@ -69,28 +68,26 @@ std::u16string Describe(const std::vector<std::string>& boxes, bool same) {
 
 void Form1::cmdSet_Click(std::int16_t Index) {
     const auto field = static_cast<std::size_t>(Index);
-    const std::string before = Has_Window() ? BrlytData : std::string();
+    const std::string before = BrlytData;
     info.cmdSet_Click(Index);
     Tell_Changes(field < SetNames.size() ? SetNames[field] : u"", before);
 }
 
 void Form1::cmdSetAll_Click(std::int16_t Index) {
     const auto field = static_cast<std::size_t>(Index);
-    const std::string before = Has_Window() ? BrlytData : std::string();
+    const std::string before = BrlytData;
     info.cmdSetAll_Click(Index);
     Tell_Changes(field < SetAllNames.size() ? SetAllNames[field] : u"", before);
 }
 
-/// Without a window nobody is told, so nothing is compared.
 void Form1::Tell_Changes(std::u16string_view command, const std::string& before) {
-    if (!Has_Window()) return;
     const std::u16string changes = Describe(Changed_Boxes(before, BrlytData), before == BrlytData);
     lblLastCommand.Set(std::u16string(command) + u": " + changes);
     Tell_What_Is_Loaded();
 }
 
 bool Form1::Has_Unsaved_Changes() const {
-    return BrlytData != std::string_view(on_disk_).substr(0, layout_size_);
+    return opened_.banner.Has_Unsaved_Changes();
 }
 
 bool Form1::May_Close() {
@@ -105,14 +102,15 @@ bool Form1::Lose_Changes(const std::u16string& question) {
 
 void Form1::Tell_What_Is_Loaded() {
     if (BrlytData.empty()) {
-        const std::string reason = why_not_loaded_.empty() ? "" : ": " + why_not_loaded_;
+        const std::string reason = opened_.why_not.empty() ? "" : ": " + opened_.why_not;
         lblLoaded.Set(u"No layout loaded" + From_Utf8(reason));
         return;
     }
     const std::u16string path = With_Backslashes(txtSrc.Text());
     lblLoaded.Set(path.substr(path.rfind(u'\\') + 1) + u"  |  " +
                   (Has_Unsaved_Changes() ? u"texts not saved" : u"texts as in the file") +
-                  u"  |  " + (Is_Layout(BrlytData) ? Languages_Present() : u"not a layout file") +
+                  u"  |  " +
+                  (Is_Layout(BrlytData) ? Languages_Present(BrlytData) : u"not a layout file") +
                   u"  |  " + Number(BrlytData.size()) + u" bytes");
 }
 

@@ -1,23 +1,33 @@
 // The manual text editor: the raw text of any text box of the loaded layout.
 #pragma once
 
+#include <functional>
+#include <string>
+
+#include "banner/banner.h"
 #include "forms/controls.h"
-#include "gameinfo/game_info.h"
 
 namespace bannersmith {
 
-/// The editor as state and events. What it writes goes into `BrlytData` at once.
+/// What the manual text editor needs of the main window.
+struct MainWindowForTexts {
+    Form& form;                                    ///< disabled while the editor is open
+    const Banner& banner;                          ///< whose texts are edited
+    std::function<void(const Edit& edit)> apply;   ///< applies an edit to the banner
+    std::function<void()> show_what_is_there_now;  ///< in the main window's fields
+};
+
+/// The editor as state and events. What it writes goes into the banner at once.
 class frmHC {
  public:
-    /// `main_form` and `info` are the main window's and must outlive this window.
-    frmHC(Form& main_form, GameInfo& info);
+    /// What `main` refers to must outlive this window.
+    explicit frmHC(MainWindowForTexts main);
     frmHC(const frmHC&) = delete;
     frmHC& operator=(const frmHC&) = delete;
 
     Form form;
     DropDownList cmbHC;  ///< the names of all text boxes, in file order
     TextBox txtHC;       ///< the raw text of the selected one, "^" for a line break
-    Event Written;       ///< after each Set
 
     /// Disables the main window, lists the layout's text boxes and shows the first.
     void Form_Load();
@@ -29,8 +39,8 @@ class frmHC {
     void cmdSet_Click();
 
  private:
-    Form& main_form_;
-    GameInfo& info_;
+    MainWindowForTexts main_;
+    const std::string& BrlytData;
 };
 
 }  // namespace bannersmith

@@ -1,4 +1,4 @@
-// What the file routines of each system share: steps of which the first failure ends the whole.
+// What the file routines of each system share.
 #pragma once
 
 #include <cstdint>
@@ -6,30 +6,25 @@
 #include <new>
 #include <string>
 
-#include "base/failure.h"
+#include "base/result.h"
 #include "system/native_path.h"
 
 namespace bannersmith {
 
-/// Thrown by a step and caught by `Run_Steps`: why the step failed.
-struct StepFailed {
-    std::string reason;
-};
-
 /// In bytes. A layout's length field ends at 4 GiB; no banner comes near a part of that.
 constexpr std::int64_t LargestFile = std::int64_t{1} << 30;
 
-/// Calls `steps` with `path` as the file system takes it. A step that fails, the file system's own
-/// errors and a lack of memory become the failure of `path`.
+/// A reason whose subject is filled in where it is known.
+inline Failure Because(std::string reason) {
+    return {{}, std::move(reason)};
+}
+
+/// What `steps` returns for `path` as the file system takes it. A failure becomes one of `path`,
+/// and so does a lack of memory.
 template <typename Steps>
-Outcome Run_Steps(const std::u16string& path, Steps steps) {
+auto Run_Steps(const std::u16string& path, Steps steps) -> decltype(steps(Native_Path(path))) {
     try {
-        steps(Native_Path(path));
-        return std::nullopt;
-    } catch (const StepFailed& failed) {
-        return Failure{path, failed.reason};
-    } catch (const std::filesystem::filesystem_error& failed) {
-        return Failure{path, failed.code().message()};
+        return steps(Native_Path(path)).About(path);
     } catch (const std::bad_alloc&) {
         return Failure{path, "Not enough memory"};
     }

@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "base/text.h"
-#include "system/file_steps.h"
 #include "system/native_path.h"
 
 namespace bannersmith {
@@ -46,8 +45,7 @@ std::vector<std::string> Regular_Files(const std::u16string& folder, std::error_
             break;
         }
         if (!fs::is_regular_file(status)) continue;
-        const std::u8string name = at->path().filename().u8string();
-        names.emplace_back(name.begin(), name.end());
+        names.push_back(To_Utf8(Text_Of(at->path().filename())));
     }
     return names;
 }
@@ -60,6 +58,14 @@ fs::path Native_Path(std::u16string_view path) {
     return {std::wstring(path.begin(), path.end())};
 #else
     return {To_Utf8(Replace_All(path, u"\\", u"/"))};
+#endif
+}
+
+std::u16string Text_Of(const fs::path& path) {
+#ifdef _WIN32
+    return {path.native().begin(), path.native().end()};
+#else
+    return From_Utf8(path.native());
 #endif
 }
 
@@ -91,17 +97,15 @@ bool Same_File(const std::u16string& a, const std::u16string& b) {
     return fs::equivalent(Native_Path(a), Native_Path(b), ignored);
 }
 
-Outcome Find_Folder(const std::u16string& path, bool& found) {
+Result<bool> Is_Folder(const std::u16string& path) {
     std::error_code error;
     const fs::file_status status = fs::status(Native_Path(path), error);
-    found = fs::is_directory(status);
     if (status.type() == fs::file_type::none) return Failure{path, error.message()};
-    return std::nullopt;
+    return fs::is_directory(status);
 }
 
-Outcome List_Files(const std::u16string& folder, std::string_view ending,
-                   std::vector<std::u16string>& names) {
-    names.clear();
+Result<std::vector<std::u16string>> List_Files(const std::u16string& folder,
+                                               std::string_view ending) {
     std::error_code error;
     std::vector<std::string> files = Regular_Files(folder, error);
     if (error) return Failure{folder, error.message()};
@@ -113,9 +117,10 @@ Outcome List_Files(const std::u16string& folder, std::string_view ending,
         const std::string x = Without_Case(a), y = Without_Case(b);
         return x != y ? x < y : a < b;
     });
+    std::vector<std::u16string> names;
     names.reserve(files.size());
     for (const std::string& name : files) names.push_back(From_Utf8(name));
-    return std::nullopt;
+    return names;
 }
 
 }  // namespace bannersmith

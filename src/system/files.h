@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "base/failure.h"
+#include "base/result.h"
 
 namespace bannersmith {
 
@@ -30,17 +30,16 @@ bool Ordinary_File_Exists(const std::u16string& path);
 /// Whether both paths lead to one file that is there.
 bool Same_File(const std::u16string& a, const std::u16string& b);
 
-/// Sets `found` to whether `path` names a folder, with or without a separator at its end. Fails
-/// only where that cannot be told.
-Outcome Find_Folder(const std::u16string& path, bool& found);
+/// Whether `path` names a folder, with or without a separator at its end. Fails only where that
+/// cannot be told.
+Result<bool> Is_Folder(const std::u16string& path);
 
-/// Sets `names` to the regular files of `folder` that end in `ending` whatever its case (".tpl"),
-/// sorted by name without case. Hidden files, whose names begin with a dot, are left out. On
-/// failure `names` is empty.
-Outcome List_Files(const std::u16string& folder, std::string_view ending,
-                   std::vector<std::u16string>& names);
+/// The regular files of `folder` that end in `ending` whatever its case (".tpl"), sorted by name
+/// without case. Hidden files, whose names begin with a dot, are left out.
+Result<std::vector<std::u16string>> List_Files(const std::u16string& folder,
+                                               std::string_view ending);
 
-/// Reads a regular file whole into `bytes`. On failure `bytes` is left as it was.
-Outcome Read_File(const std::u16string& path, std::string& bytes);
+/// The bytes of a regular file.
+Result<std::string> Read_File(const std::u16string& path);
 
 }  // namespace bannersmith

@@ -3,24 +3,26 @@
 #include <string>
 
 #include "system/files.h"
-#include "system/linux_steps.h"
+#include "system/linux_calls.h"
 
 namespace bannersmith {
 
-std::string Read_Whole(const std::string& path) {
+Result<std::string> Read_Whole(const std::string& path) {
     // Non-blocking, so that a pipe without a writer is refused below and not waited for.
     const Descriptor file(
-        Retry([&] { return ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK); }));
+        Repeat([&] { return ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK); }));
+    if (!file.Is_Open()) return Error_Of(errno);
     struct stat info {};
-    Retry([&] { return ::fstat(file.get(), &info); });
-    Require_Regular(info);
-    if (info.st_size > LargestFile) Fail(EFBIG);
+    if (Repeat([&] { return ::fstat(file.get(), &info); }) < 0) return Error_Of(errno);
+    if (auto regular = Require_Regular(info); !regular) return regular.Why();
+    if (info.st_size > LargestFile) return Error_Of(EFBIG);
 
     std::string bytes(static_cast<std::size_t>(info.st_size) + 1, '\0');
     std::size_t filled = 0;
     for (;;) {
-        const auto count =
-            Retry([&] { return ::read(file.get(), bytes.data() + filled, bytes.size() - filled); });
+        const auto count = Repeat(
+            [&] { return ::read(file.get(), bytes.data() + filled, bytes.size() - filled); });
+        if (count < 0) return Error_Of(errno);
         if (count == 0) break;
         filled += static_cast<std::size_t>(count);
         if (filled == bytes.size()) bytes.resize(bytes.size() * 2);
@@ -29,9 +31,9 @@ std::string Read_Whole(const std::string& path) {
     return bytes;
 }
 
-Outcome Read_File(const std::u16string& path, std::string& bytes) {
+Result<std::string> Read_File(const std::u16string& path) {
     return Run_Steps(
-        path, [&](const std::filesystem::path& native) { bytes = Read_Whole(native.string()); });
+        path, [](const std::filesystem::path& native) { return Read_Whole(native.string()); });
 }
 
 }  // namespace bannersmith

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "system/files.h"
-#include "system/windows_steps.h"
+#include "system/windows_calls.h"
 
 namespace bannersmith {
 
@@ -14,21 +14,23 @@ HANDLE Open_To_Read(const std::wstring& path) {
                          FILE_ATTRIBUTE_NORMAL, nullptr);
 }
 
-std::string Read_Whole(const std::wstring& path) {
-    Attributes_Of(path);
+Result<std::string> Read_Whole(const std::wstring& path) {
+    if (auto attributes = Attributes_Of(path); !attributes) return attributes.Why();
     const Handle file(Open_To_Read(path));
-    if (::GetFileType(file.get()) != FILE_TYPE_DISK) throw StepFailed{"Not an ordinary file"};
+    if (!file.Is_Open()) return Error_Of(::GetLastError());
+    if (::GetFileType(file.get()) != FILE_TYPE_DISK) return Because("Not an ordinary file");
     LARGE_INTEGER size{};
-    Require(::GetFileSizeEx(file.get(), &size));
-    if (size.QuadPart > LargestFile) Fail(ERROR_FILE_TOO_LARGE);
+    if (!::GetFileSizeEx(file.get(), &size)) return Error_Of(::GetLastError());
+    if (size.QuadPart > LargestFile) return Error_Of(ERROR_FILE_TOO_LARGE);
 
     std::string bytes(static_cast<std::size_t>(size.QuadPart) + 1, '\0');
     std::size_t filled = 0;
     for (;;) {
-        const std::size_t part = std::min(bytes.size() - filled, LargestPart);
+        const auto part = static_cast<DWORD>(std::min(bytes.size() - filled, LargestPart));
         DWORD count = 0;
-        Require(::ReadFile(file.get(), bytes.data() + filled, static_cast<DWORD>(part), &count,
-                           nullptr));
+        if (!::ReadFile(file.get(), bytes.data() + filled, part, &count, nullptr)) {
+            return Error_Of(::GetLastError());
+        }
         if (count == 0) break;
         filled += count;
         if (filled == bytes.size()) bytes.resize(bytes.size() * 2);
@@ -39,20 +41,20 @@ std::string Read_Whole(const std::wstring& path) {
 
 }  // namespace
 
-DWORD Attributes_Of(const std::wstring& path) {
+Result<DWORD> Attributes_Of(const std::wstring& path) {
     const DWORD attributes = ::GetFileAttributesW(path.c_str());
     if (attributes == INVALID_FILE_ATTRIBUTES) {
         const DWORD error = ::GetLastError();
-        if (error != ERROR_FILE_NOT_FOUND) Fail(error);
+        if (error != ERROR_FILE_NOT_FOUND) return Error_Of(error);
     } else if ((attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
-        throw StepFailed{"Is a directory"};
+        return Because("Is a directory");
     }
     return attributes;
 }
 
-Outcome Read_File(const std::u16string& path, std::string& bytes) {
+Result<std::string> Read_File(const std::u16string& path) {
     return Run_Steps(
-        path, [&](const std::filesystem::path& native) { bytes = Read_Whole(native.wstring()); });
+        path, [](const std::filesystem::path& native) { return Read_Whole(native.wstring()); });
 }
 
 }  // namespace bannersmith

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "base/failure.h"
+#include "base/result.h"
 
 namespace bannersmith {
 
@@ -20,6 +20,9 @@ std::vector<std::u16string> Arguments(int argc, char** argv);
 /// it as it is. False where it could not be written whole.
 bool Print(const std::string& text, std::FILE* stream);
 
+/// Writes a failure to standard error as one line, "bannersmith: SUBJECT: REASON".
+void Print_Failure(const Failure& failure);
+
 /// The folder of the running executable, without a separator at its end; empty where the system
 /// does not tell.
 std::u16string Program_Folder();
@@ -27,6 +30,6 @@ std::u16string Program_Folder();
 /// Hands over to the program `name` of the program folder, which is called without command-line
 /// text. On POSIX this process becomes that program; on Windows it goes on beside it. The failure
 /// names the program's file.
-Outcome Start_Program(const std::u16string& name, char** argv);
+Result<> Start_Program(const std::u16string& name, char** argv);
 
 }  // namespace bannersmith

@@ -32,7 +32,7 @@ std::u16string Program_Folder() {
     return From_Utf8(program.parent_path().string());
 }
 
-Outcome Start_Program(const std::u16string& name, char** argv) {
+Result<> Start_Program(const std::u16string& name, char** argv) {
     const std::u16string program = Program_Folder() + u"/" + name;
     ::execv(To_Utf8(program).c_str(), argv);
     return Failure{program, std::strerror(errno)};

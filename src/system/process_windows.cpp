@@ -62,7 +62,7 @@ std::u16string Program_Folder() {
     return To_Text(path.substr(0, path.find_last_of(L'\\')).c_str());
 }
 
-Outcome Start_Program(const std::u16string& name, char** /*argv*/) {
+Result<> Start_Program(const std::u16string& name, char** /*argv*/) {
     const std::u16string path = Program_Folder() + u"\\" + name + u".exe";
     const std::wstring program(path.begin(), path.end());
     std::wstring command_line = L"\"" + program + L"\"";
@@ -75,7 +75,7 @@ Outcome Start_Program(const std::u16string& name, char** /*argv*/) {
     }
     ::CloseHandle(started.hThread);
     ::CloseHandle(started.hProcess);
-    return std::nullopt;
+    return {};
 }
 
 std::string Error_Text(unsigned long code) {

@@ -28,14 +28,17 @@ class Replacing {
     Replacing(const Replacing&) = delete;
     Replacing& operator=(const Replacing&) = delete;
 
-    Outcome Run() {
-        if (auto failure = Prepare()) return failure;
-        Outcome failure;
-        while (!failure && placed_ < all_.size()) failure = Place_Next();
-        for (std::size_t i = 0; !failure && i < all_.size(); ++i) {
-            failure = Step(i, [&] { all_[i]->Make_Safe(); });
+    Result<> Run() {
+        if (auto prepared = Prepare(); !prepared) return prepared;
+        for (; placed_ < all_.size(); ++placed_) {
+            const bool others_follow = placed_ + 1 < all_.size();
+            auto placed = Step(placed_, [&] { return all_[placed_]->Put_In_Place(others_follow); });
+            if (!placed) return placed;
         }
-        return failure;
+        for (std::size_t i = 0; i < all_.size(); ++i) {
+            if (auto safe = Step(i, [&] { return all_[i]->Make_Safe(); }); !safe) return safe;
+        }
+        return {};
     }
 
     /// After a failure: takes out again what was put into place, newest first, so that a file that
@@ -47,8 +50,8 @@ class Replacing {
             if (!each->Can_Be_Put_Back()) return false;
         }
         for (std::size_t i = placed.size(); i-- > 0;) {
-            const auto stays = Step(i, [&] { placed[i]->Put_Back(); });
-            if (stays && notice) notice(*stays);
+            const auto back = Step(i, [&] { return placed[i]->Put_Back(); });
+            if (!back && notice) notice(back.Why());
         }
         return true;
     }
@@ -63,51 +66,56 @@ class Replacing {
 
  private:
     /// What can fail without a trace.
-    Outcome Prepare() {
+    Result<> Prepare() {
         for (const NewContents& file : files_) {
-            auto failure = Run_Steps(file.path, [&](const fs::path& native) {
-                all_.push_back(std::make_unique<Replacement>(native));
+            auto looked_at = Run_Steps(file.path, [&](const fs::path& native) -> Result<> {
+                all_.push_back(std::make_unique<Replacement>());
+                return all_.back()->Look_At(native);
             });
-            if (failure) return failure;
+            if (!looked_at) return looked_at;
         }
         // From the last to the first, as the layout's folder is held before that of its textures.
         std::vector<const FolderLock::Folder*> folders(files_.size());
         for (std::size_t i = files_.size(); i-- > 0;) {
-            auto failure = Step(i, [&] { folders[i] = &Take_Folder(all_[i]->Folder_Path()); });
-            if (failure) return failure;
+            auto taken = Step(i, [&] { return Take_Folder(all_[i]->Folder_Path(), folders[i]); });
+            if (!taken) return taken;
         }
         for (std::size_t i = 0; i < files_.size(); ++i) {
-            auto failure = Step(i, [&] { all_[i]->Write(*folders[i], files_[i].bytes); });
-            if (failure) return failure;
+            auto written = Step(i, [&] { return all_[i]->Write(*folders[i], files_[i].bytes); });
+            if (!written) return written;
         }
         if (InterruptionsHeld::Pending()) return Failure{files_.back().path, "Interrupted"};
-        return std::nullopt;
+        return {};
     }
 
-    const FolderLock::Folder& Take_Folder(const fs::path& path) {
-        if (lock_.Held() != nullptr && fs::equivalent(lock_.Held()->path, path)) {
-            Remove_Leftovers(*lock_.Held());
-            return *lock_.Held();
+    /// Lets `folder` be the one at `path`, held.
+    Result<> Take_Folder(const fs::path& path, const FolderLock::Folder*& folder) {
+        std::error_code error;
+        if (lock_.Held() != nullptr && fs::equivalent(lock_.Held()->path, path, error)) {
+            folder = lock_.Held();
+            Remove_Leftovers(*folder);
+            return {};
         }
-        for (const auto& folder : folders_) {
-            if (fs::equivalent(folder->path, path)) return *folder;
+        for (const auto& held : folders_) {
+            if (error) break;
+            if (fs::equivalent(held->path, path, error)) {
+                folder = held.get();
+                return {};
+            }
         }
-        folders_.push_back(std::make_unique<FolderLock::Folder>(path));
-        folders_.back()->Lock();
-        Remove_Leftovers(*folders_.back());
-        return *folders_.back();
-    }
-
-    Outcome Place_Next() {
-        auto failure =
-            Step(placed_, [&] { all_[placed_]->Put_In_Place(placed_ + 1 < all_.size()); });
-        if (!failure) ++placed_;
-        return failure;
+        if (error) return Because(error.message());
+        folders_.push_back(std::make_unique<FolderLock::Folder>());
+        FolderLock::Folder& fresh = *folders_.back();
+        if (auto opened = fresh.Open(path); !opened) return opened;
+        if (auto locked = fresh.Lock(); !locked) return locked;
+        Remove_Leftovers(fresh);
+        folder = &fresh;
+        return {};
     }
 
     template <typename Action>
-    Outcome Step(std::size_t i, Action action) {
-        return Run_Steps(files_[i].path, [&](const fs::path&) { action(); });
+    Result<> Step(std::size_t i, Action action) {
+        return Run_Steps(files_[i].path, [&](const fs::path&) { return action(); });
     }
 
     std::span<const NewContents> files_;
@@ -124,29 +132,32 @@ FolderLock::FolderLock(FolderLock&& other) noexcept = default;
 FolderLock& FolderLock::operator=(FolderLock&& other) noexcept = default;
 FolderLock::~FolderLock() = default;
 
-Outcome FolderLock::Take(const std::u16string& path) {
-    folder_.reset();
-    const auto opened = Run_Steps(path, [&](const fs::path& native) {
-        folder_ = std::make_unique<Folder>(Folder_Of(Follow_Links(native)));
+Result<> FolderLock::Take(const std::u16string& path) {
+    return Run_Steps(path, [&](const fs::path& native) -> Result<> {
+        folder_.reset();
+        const auto file = Follow_Links(native);
+        if (!file) return {};
+        auto folder = std::make_unique<Folder>();
+        if (!folder->Open(Folder_Of(*file))) return {};
+        folder_ = std::move(folder);
+        return folder_->Lock();
     });
-    if (opened) return std::nullopt;
-    return Run_Steps(path, [&](const fs::path&) { folder_->Lock(); });
 }
 
-Outcome Replace_Files(std::span<const NewContents> files, const FolderLock& lock,
-                      const Notice& notice) {
-    const InterruptionsHeld held;
+Result<> Replace_Files(std::span<const NewContents> files, const FolderLock& lock,
+                       const Notice& notice) {
     Replacing replacing(files, lock);
-    auto failure = replacing.Run();
-    if (!failure) {
+    auto done = replacing.Run();
+    if (done) {
         replacing.Finish(notice);
     } else if (!replacing.Put_Back(notice)) {
-        failure->reason = "Written, but not safe from a power failure. " + failure->reason;
+        return Failure{done.Why().subject,
+                       "Written, but not safe from a power failure. " + done.Why().reason};
     }
-    return failure;
+    return done;
 }
 
-Outcome Replace_File(const std::u16string& path, std::string_view bytes, const Notice& notice) {
+Result<> Replace_File(const std::u16string& path, std::string_view bytes, const Notice& notice) {
     const NewContents file{path, std::string(bytes)};
     return Replace_Files({&file, 1}, {}, notice);
 }

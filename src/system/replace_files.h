@@ -7,7 +7,7 @@
 #include <span>
 #include <string>
 
-#include "base/failure.h"
+#include "base/result.h"
 
 namespace bannersmith {
 
@@ -27,7 +27,7 @@ class FolderLock {
     /// Takes the folder of the file at `path`, or of the one that a link there leads to, in place
     /// of the folder held before. Waits for other runs, ten seconds at the most, and fails then. A
     /// folder that cannot be opened is not held, which is no failure.
-    Outcome Take(const std::u16string& path);
+    Result<> Take(const std::u16string& path);
 
     /// The folder held, or null.
     const Folder* Held() const { return folder_.get(); }
@@ -59,12 +59,13 @@ using Notice = std::function<void(const Failure& loss)>;
 /// to is replaced. A file without write permission, a folder, a pipe and a device are refused.
 ///
 /// Other runs are kept out of the folders meanwhile, unless the caller holds one in `lock`; what a
-/// run that was killed left in them is removed. A signal that would end the process takes effect
-/// after the call, or before the first file changes.
-Outcome Replace_Files(std::span<const NewContents> files, const FolderLock& lock = {},
-                      const Notice& notice = {});
+/// run that was killed left in them is removed. Where the caller holds interruptions back, see
+/// `InterruptionsHeld`, one that arrives before the first file changes ends the call there.
+Result<> Replace_Files(std::span<const NewContents> files, const FolderLock& lock = {},
+                       const Notice& notice = {});
 
 /// `Replace_Files` for one file.
-Outcome Replace_File(const std::u16string& path, std::string_view bytes, const Notice& notice = {});
+Result<> Replace_File(const std::u16string& path, std::string_view bytes,
+                      const Notice& notice = {});
 
 }  // namespace bannersmith

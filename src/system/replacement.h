@@ -1,6 +1,6 @@
 // What each system does for one file that is replaced together with others, and for the folder that
-// it lies in; the order in which it is called stands in replace_files.cpp. Each step fails by
-// throwing `StepFailed`.
+// it lies in; the order in which it is called stands in replace_files.cpp. The failures of the
+// steps have no subject.
 #pragma once
 
 #include <cstdint>
@@ -21,47 +21,54 @@ inline constexpr char KeptPrefix[] = ".bannersmith-old-";
 
 /// A folder held open.
 struct FolderLock::Folder {
-    explicit Folder(std::filesystem::path folder);
+    static constexpr std::intptr_t NoHandle = -1;
+
+    Folder() = default;
     ~Folder();
     Folder(const Folder&) = delete;
     Folder& operator=(const Folder&) = delete;
 
-    /// Waits until no other run holds the folder.
-    void Lock();
+    /// Opens the folder at `folder`; once.
+    Result<> Open(std::filesystem::path folder);
+
+    /// Waits until no other run holds the folder, which is open.
+    Result<> Lock();
 
     std::filesystem::path path;
-    std::intptr_t handle;  ///< a descriptor of the folder, or a mutex of its name
-    bool alone = false;    ///< no other run can be at work in it
-    bool card = false;     ///< on a file system of memory cards, whose order of writes matters
+    std::intptr_t handle = NoHandle;  ///< a descriptor of the folder, or a mutex of its name
+    bool alone = false;               ///< no other run can be at work in it
+    bool card = false;  ///< on a file system of memory cards, whose order of writes matters
 };
 
 /// One file on its way to new contents. The end of the object removes what it has left beside the
 /// file.
 class Replacement {
  public:
-    /// Looks at what is at `path` and refuses what cannot be replaced.
-    explicit Replacement(const std::filesystem::path& path);
+    Replacement();
     ~Replacement();
     Replacement(const Replacement&) = delete;
     Replacement& operator=(const Replacement&) = delete;
+
+    /// Looks at what is at `path` and refuses what cannot be replaced. To be called once, first.
+    Result<> Look_At(const std::filesystem::path& path);
 
     /// The folder of the file itself, where links to it have been followed.
     std::filesystem::path Folder_Path() const;
 
     /// Writes a temporary file with `bytes`, as like the old file as can be, safe on the disk.
     /// `folder` is the file's own and stays open.
-    void Write(const FolderLock::Folder& folder, std::string_view bytes);
+    Result<> Write(const FolderLock::Folder& folder, std::string_view bytes);
 
     /// Puts the temporary file in the place of the old one. `others_follow`: the old file can then
     /// come back even where that costs a copy of it.
-    void Put_In_Place(bool others_follow);
+    Result<> Put_In_Place(bool others_follow);
 
     /// Makes the new file in its new place safe from a crash of the machine.
-    void Make_Safe();
+    Result<> Make_Safe();
 
     /// Brings back what was there before `Put_In_Place`, if it can.
     bool Can_Be_Put_Back() const;
-    void Put_Back();
+    Result<> Put_Back();
 
     /// Lets the old file go. Returns what was lost of it although it was replaced, as parts of a
     /// sentence that begins with "Saved, but".
@@ -73,7 +80,7 @@ class Replacement {
 };
 
 /// The file that `path` leads to through any number of links, which need not exist.
-std::filesystem::path Follow_Links(std::filesystem::path path);
+Result<std::filesystem::path> Follow_Links(std::filesystem::path path);
 
 /// Removes from the folder what runs that were killed have left there.
 void Remove_Leftovers(const FolderLock::Folder& folder);

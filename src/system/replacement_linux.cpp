@@ -12,7 +12,7 @@
 #include <thread>
 
 #include "system/interruptions.h"
-#include "system/linux_steps.h"
+#include "system/linux_calls.h"
 #include "system/replacement.h"
 
 namespace bannersmith {
@@ -47,7 +47,7 @@ class FileBeside {
     const std::string& Path() const { return path_; }
     bool Is_There() const { return !path_.empty(); }
 
-    /// Makes an empty file that can be written.
+    /// Makes an empty file that can be written; not open where it cannot be made.
     Descriptor Make(const std::string& folder, mode_t mode) {
         constexpr int Flags = O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC;
         for (;;) {
@@ -57,7 +57,7 @@ class FileBeside {
                 path_ = std::move(path);
                 return Descriptor(fd);
             }
-            if (errno != EEXIST && errno != EINTR) Fail(errno);
+            if (errno != EEXIST && errno != EINTR) return {};
         }
     }
 
@@ -93,11 +93,13 @@ class FileBeside {
     std::string path_;
 };
 
-void Write_All(const Descriptor& file, std::string_view bytes) {
+Result<> Write_All(const Descriptor& file, std::string_view bytes) {
     while (!bytes.empty()) {
-        const auto count = Retry([&] { return ::write(file.get(), bytes.data(), bytes.size()); });
+        const auto count = Repeat([&] { return ::write(file.get(), bytes.data(), bytes.size()); });
+        if (count < 0) return Error_Of(errno);
         bytes.remove_prefix(static_cast<std::size_t>(count));
     }
+    return {};
 }
 
 /// A list of things with commas between them.
@@ -130,7 +132,7 @@ std::string Copy_Attributes(const std::string& old, int fresh) {
 /// Only a privileged user may give files away, but the group may be another one of the user's own.
 std::string Copy_Owner(const struct stat& old, int fresh) {
     struct stat now {};
-    Retry([&] { return ::fstat(fresh, &now); });
+    if (Repeat([&] { return ::fstat(fresh, &now); }) < 0) return "owner and group";
     if (now.st_uid == old.st_uid && now.st_gid == old.st_gid) return {};
     if (::fchown(fresh, old.st_uid, old.st_gid) == 0) return {};
     const bool group_kept =
@@ -141,8 +143,9 @@ std::string Copy_Owner(const struct stat& old, int fresh) {
 std::string Copy_Mode(const struct stat& old, int fresh) {
     const mode_t mode = old.st_mode & 07777U & ~RightsOfOthers;
     struct stat now {};
-    Retry([&] { return ::fstat(fresh, &now); });
-    return (now.st_mode & 07777U) == mode || ::fchmod(fresh, mode) == 0 ? "" : "mode";
+    const bool has_it =
+        Repeat([&] { return ::fstat(fresh, &now); }) == 0 && (now.st_mode & 07777U) == mode;
+    return has_it || ::fchmod(fresh, mode) == 0 ? "" : "mode";
 }
 
 /// Makes `fresh` like the file at `path`, of which `old` tells. Returns what could not be taken
@@ -178,27 +181,30 @@ bool Is_Card(int folder) {
 
 }  // namespace
 
-FolderLock::Folder::Folder(fs::path folder)
-    : path(std::move(folder)),
-      handle(Retry([&] { return ::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); })),
-      card(Is_Card(static_cast<int>(handle))) {}
-
-FolderLock::Folder::~Folder() {
-    ::close(static_cast<int>(handle));
+Result<> FolderLock::Folder::Open(fs::path folder) {
+    path = std::move(folder);
+    handle = Repeat([&] { return ::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); });
+    if (handle < 0) return Error_Of(errno);
+    card = Is_Card(static_cast<int>(handle));
+    return {};
 }
 
-void FolderLock::Folder::Lock() {
+FolderLock::Folder::~Folder() {
+    if (handle >= 0) ::close(static_cast<int>(handle));
+}
+
+Result<> FolderLock::Folder::Lock() {
     using namespace std::chrono_literals;
     const auto end = std::chrono::steady_clock::now() + 10s;
     for (;;) {
         if (::flock(static_cast<int>(handle), LOCK_EX | LOCK_NB) == 0) {
             alone = true;
-            return;
+            return {};
         }
-        if (errno != EWOULDBLOCK && errno != EINTR) return;  // a file system without locks
-        if (InterruptionsHeld::Pending()) throw StepFailed{"Interrupted"};
+        if (errno != EWOULDBLOCK && errno != EINTR) return {};  // a file system without locks
+        if (InterruptionsHeld::Pending()) return Because("Interrupted");
         if (std::chrono::steady_clock::now() > end) {
-            throw StepFailed{"Another run of Bannersmith is at work in its folder"};
+            return Because("Another run of Bannersmith is at work in its folder");
         }
         std::this_thread::sleep_for(5ms);
     }
@@ -220,28 +226,32 @@ struct Replacement::State {
                            RENAME_EXCHANGE) == 0;
     }
 
-    bool Trade_Places() {
-        if (folder->card) return false;
+    /// Where the file system can do that; `traded` tells.
+    Result<> Trade_Places() {
+        if (folder->card) return {};
         traded = Exchange();
-        if (!traded && errno != EINVAL && errno != ENOSYS && errno != ENOTSUP) Fail(errno);
-        return traded;
+        if (traded || errno == EINVAL || errno == ENOSYS || errno == ENOTSUP) return {};
+        return Error_Of(errno);
     }
 
     /// The old file under a second name, or a copy of it.
-    void Keep_Old(bool copied) {
-        if (second_name.Link_To(target, folder_path) || !copied) return;
+    Result<> Keep_Old(bool copied) {
+        if (second_name.Link_To(target, folder_path) || !copied) return {};
         Descriptor copy = second_name.Make(folder_path, S_IRUSR | S_IWUSR);
-        Write_All(copy, Read_Whole(target));
+        if (!copy.Is_Open()) return Error_Of(errno);
+        const auto bytes = Read_Whole(target);
+        if (!bytes) return bytes.Why();
+        if (auto written = Write_All(copy, *bytes); !written) return written;
         static_cast<void>(Take_Over(target, old, copy.get()));
-        Sync_And_Close(copy);
+        return Sync_And_Close(copy);
     }
 
     /// Makes a file that was written beside the old one safe. A card's folder brings the table
     /// along.
-    void Sync_And_Close(Descriptor& file) const {
+    Result<> Sync_And_Close(Descriptor& file) const {
         if (folder->card) Sync(static_cast<int>(folder->handle));
-        Retry([&] { return ::fsync(file.get()); });
-        file.Close();
+        if (auto synced = Require([&] { return ::fsync(file.get()); }); !synced) return synced;
+        return file.Close();
     }
 
     /// Removes the file. Returns its name if it stays all the same.
@@ -268,64 +278,70 @@ struct Replacement::State {
     }
 };
 
-Replacement::Replacement(const fs::path& path) : state_(std::make_unique<State>()) {
-    State& state = *state_;
-    state.target = Follow_Links(path).string();
-    const fs::path folder = fs::path(state.target).parent_path();
-    state.folder_path = folder.empty() ? "." : folder.string();
-    const int old = ::open(state.target.c_str(), O_PATH | O_CLOEXEC);
-    if (old < 0 && errno != ENOENT) Fail(errno);
-    if (old < 0) return;
-    state.exists = true;
-    state.old_file = Descriptor(old);
-    Retry([&] { return ::fstat(old, &state.old); });
-    Require_Regular(state.old);
-    Retry([&] { return ::faccessat(AT_FDCWD, state.target.c_str(), W_OK, AT_EACCESS); });
-}
-
+Replacement::Replacement() : state_(std::make_unique<State>()) {}
 Replacement::~Replacement() = default;
+
+Result<> Replacement::Look_At(const fs::path& path) {
+    State& state = *state_;
+    const auto target = Follow_Links(path);
+    if (!target) return target.Why();
+    state.target = target->string();
+    const fs::path folder = target->parent_path();
+    state.folder_path = folder.empty() ? "." : folder.string();
+    state.old_file = Descriptor(::open(state.target.c_str(), O_PATH | O_CLOEXEC));
+    if (!state.old_file.Is_Open()) return errno == ENOENT ? Result<>() : Error_Of(errno);
+    state.exists = true;
+    if (auto seen = Require([&] { return ::fstat(state.old_file.get(), &state.old); }); !seen) {
+        return seen;
+    }
+    if (auto regular = Require_Regular(state.old); !regular) return regular;
+    return Require([&] { return ::faccessat(AT_FDCWD, state.target.c_str(), W_OK, AT_EACCESS); });
+}
 
 fs::path Replacement::Folder_Path() const {
     return state_->folder_path;
 }
 
-void Replacement::Write(const FolderLock::Folder& folder, std::string_view bytes) {
+Result<> Replacement::Write(const FolderLock::Folder& folder, std::string_view bytes) {
     State& state = *state_;
     state.folder = &folder;
     const mode_t mode = state.exists ? S_IRUSR | S_IWUSR : 0666;
     Descriptor file = state.temporary.Make(state.folder_path, mode);
-    Write_All(file, bytes);
+    if (!file.Is_Open()) return Error_Of(errno);
+    if (auto written = Write_All(file, bytes); !written) return written;
     if (state.exists) state.lost = Take_Over(state.target, state.old, file.get());
-    state.Sync_And_Close(file);
+    return state.Sync_And_Close(file);
 }
 
-void Replacement::Put_In_Place(bool others_follow) {
+Result<> Replacement::Put_In_Place(bool others_follow) {
     State& state = *state_;
     if (state.exists) {
-        if (state.Trade_Places()) return;
-        state.Keep_Old(others_follow);
+        auto traded = state.Trade_Places();
+        if (!traded || state.traded) return traded;
+        if (auto kept = state.Keep_Old(others_follow); !kept) return kept;
     }
-    Retry([&] { return ::rename(state.temporary.Path().c_str(), state.target.c_str()); });
-    state.temporary.Forget();
+    auto renamed =
+        Require([&] { return ::rename(state.temporary.Path().c_str(), state.target.c_str()); });
+    if (renamed) state.temporary.Forget();
+    return renamed;
 }
 
-void Replacement::Make_Safe() {
-    if (!state_->Sync_Place()) {
-        throw StepFailed{std::string("Its folder cannot be synced: ") + std::strerror(errno)};
-    }
+Result<> Replacement::Make_Safe() {
+    if (state_->Sync_Place()) return {};
+    return Because(std::string("Its folder cannot be synced: ") + std::strerror(errno));
 }
 
 bool Replacement::Can_Be_Put_Back() const {
     return state_->traded || state_->second_name.Is_There() || !state_->exists;
 }
 
-void Replacement::Put_Back() {
+Result<> Replacement::Put_Back() {
     State& state = *state_;
     if (!state.exists) {
-        if (!Remove_File(state.target)) Fail(errno);
-        return;
+        if (!Remove_File(state.target)) return Error_Of(errno);
+        return {};
     }
-    const int fresh = ::open(state.target.c_str(), O_PATH | O_CLOEXEC);
+    const Descriptor fresh(::open(state.target.c_str(), O_PATH | O_CLOEXEC));  // keeps its room
     const auto back = [&] {
         return state.traded ? state.Exchange()
                             : ::rename(state.second_name.Path().c_str(), state.target.c_str()) == 0;
@@ -335,12 +351,12 @@ void Replacement::Put_Back() {
     const int error = errno;
     FileBeside& kept = state.traded ? state.temporary : state.second_name;
     if (!done) {
-        throw StepFailed{std::strerror(error) + std::string(". The old file is kept as ") +
-                         kept.Keep(state.folder_path)};
+        return Because(std::strerror(error) + std::string(". The old file is kept as ") +
+                       kept.Keep(state.folder_path));
     }
     if (!state.traded) kept.Forget();
     static_cast<void>(state.Sync_Place());
-    if (fresh >= 0) ::close(fresh);
+    return {};
 }
 
 std::string Replacement::Finish() {
@@ -358,18 +374,20 @@ std::string Replacement::Finish() {
     return lost;
 }
 
-fs::path Follow_Links(fs::path path) {
+Result<fs::path> Follow_Links(fs::path path) {
     constexpr int MostLinks = 40;
     for (int links = 0; links < MostLinks; ++links) {
         struct stat info {};
         if (::lstat(path.c_str(), &info) != 0) {
             if (errno == ENOENT) return path;
-            Fail(errno);
+            return Error_Of(errno);
         }
         if (!S_ISLNK(info.st_mode)) return path;
-        path = path.parent_path() / fs::read_symlink(path);
+        std::error_code error;
+        path = path.parent_path() / fs::read_symlink(path, error);
+        if (error) return Because(error.message());
     }
-    Fail(ELOOP);
+    return Error_Of(ELOOP);
 }
 
 void Remove_Leftovers(const FolderLock::Folder& folder) {

@@ -4,9 +4,10 @@
 #include <filesystem>
 #include <string>
 
+#include "base/text.h"
 #include "system/interruptions.h"
 #include "system/replacement.h"
-#include "system/windows_steps.h"
+#include "system/windows_calls.h"
 
 namespace bannersmith {
 
@@ -36,16 +37,18 @@ bool Move_Over(const std::wstring& from, const std::wstring& to) {
 }
 
 /// Fails while another program keeps the file from being replaced.
-void Require_Replaceable(const std::wstring& path) {
+Result<> Require_Replaceable(const std::wstring& path) {
     const Handle file(::CreateFileW(path.c_str(), GENERIC_WRITE | DELETE, Everyone, nullptr,
                                     OPEN_EXISTING, 0, nullptr));
-    if (::GetFileType(file.get()) != FILE_TYPE_DISK) throw StepFailed{"Not an ordinary file"};
+    if (!file.Is_Open()) return Error_Of(::GetLastError());
+    if (::GetFileType(file.get()) != FILE_TYPE_DISK) return Because("Not an ordinary file");
+    return {};
 }
 
 /// The same for all processes that work in one folder. A mutex has no name longer than a path, and
 /// none with a separator in it.
 std::wstring Mutex_Name(const fs::path& folder) {
-    std::wstring path = fs::canonical(folder).wstring();
+    std::wstring path = folder.wstring();
     ::CharLowerBuffW(path.data(), static_cast<DWORD>(path.size()));
     std::uint64_t hash = 0xCBF29CE484222325;  // FNV-1a
     for (const wchar_t unit : path)
@@ -55,27 +58,33 @@ std::wstring Mutex_Name(const fs::path& folder) {
 
 }  // namespace
 
-FolderLock::Folder::Folder(fs::path folder)
-    : path(std::move(folder)),
-      handle(reinterpret_cast<std::intptr_t>(
-          ::CreateMutexW(nullptr, FALSE, Mutex_Name(path).c_str()))) {}
+Result<> FolderLock::Folder::Open(fs::path folder) {
+    std::error_code error;
+    path = fs::canonical(folder, error);
+    if (error) return Because(error.message());
+    handle =
+        reinterpret_cast<std::intptr_t>(::CreateMutexW(nullptr, FALSE, Mutex_Name(path).c_str()));
+    return {};
+}
 
 FolderLock::Folder::~Folder() {
+    if (handle == NoHandle) return;
     const auto mutex = reinterpret_cast<HANDLE>(handle);
     if (alone) ::ReleaseMutex(mutex);
     if (mutex != nullptr) ::CloseHandle(mutex);
 }
 
-void FolderLock::Folder::Lock() {
+Result<> FolderLock::Folder::Lock() {
     constexpr DWORD Part = 50, Parts = 200;  // of ten seconds, in milliseconds
     const auto mutex = reinterpret_cast<HANDLE>(handle);
     for (DWORD i = 0; mutex != nullptr && i < Parts; ++i) {
         const DWORD result = ::WaitForSingleObject(mutex, Part);
         alone = result == WAIT_OBJECT_0 || result == WAIT_ABANDONED;
-        if (alone || result == WAIT_FAILED) return;
-        if (InterruptionsHeld::Pending()) throw StepFailed{"Interrupted"};
+        if (alone || result == WAIT_FAILED) return {};
+        if (InterruptionsHeld::Pending()) return Because("Interrupted");
     }
-    if (mutex != nullptr) throw StepFailed{"Another run of Bannersmith is at work in its folder"};
+    if (mutex == nullptr) return {};
+    return Because("Another run of Bannersmith is at work in its folder");
 }
 
 struct Replacement::State {
@@ -87,28 +96,34 @@ struct Replacement::State {
     fs::path Folder() const { return target.parent_path(); }
 
     /// The system's own call takes over the old file's access list, attributes and streams.
-    void Replace() {
+    Result<> Replace() {
         old_file = Unused_Path(Folder(), LeftoverPrefix);
         if (::ReplaceFileW(target.c_str(), temporary.c_str(), old_file.c_str(), 0, nullptr,
                            nullptr)) {
-            return;
+            return {};
         }
         const DWORD error = ::GetLastError();
         if (error == ERROR_UNABLE_TO_MOVE_REPLACEMENT_2) Move_Over(old_file, target.wstring());
         old_file.clear();
-        Fail(error);
+        return Error_Of(error);
     }
 };
 
-Replacement::Replacement(const fs::path& path) : state_(std::make_unique<State>()) {
-    state_->target = Follow_Links(path);
-    state_->exists = Attributes_Of(state_->target.wstring()) != INVALID_FILE_ATTRIBUTES;
-    if (state_->exists) Require_Replaceable(state_->target.wstring());
-}
+Replacement::Replacement() : state_(std::make_unique<State>()) {}
 
 Replacement::~Replacement() {
     Remove_File(state_->temporary);
     Remove_File(state_->old_file);
+}
+
+Result<> Replacement::Look_At(const fs::path& path) {
+    auto target = Follow_Links(path);
+    if (!target) return target.Why();
+    state_->target = std::move(*target);
+    const auto attributes = Attributes_Of(state_->target.wstring());
+    if (!attributes) return attributes.Why();
+    state_->exists = *attributes != INVALID_FILE_ATTRIBUTES;
+    return state_->exists ? Require_Replaceable(state_->target.wstring()) : Result<>();
 }
 
 fs::path Replacement::Folder_Path() const {
@@ -116,72 +131,73 @@ fs::path Replacement::Folder_Path() const {
     return folder.empty() ? fs::path(".") : folder;
 }
 
-void Replacement::Write(const FolderLock::Folder& /*folder*/, std::string_view bytes) {
+Result<> Replacement::Write(const FolderLock::Folder& /*folder*/, std::string_view bytes) {
     const std::wstring path = Unused_Path(state_->Folder(), LeftoverPrefix);
     Handle file(::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
                               FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (!file.Is_Open()) return Error_Of(::GetLastError());
     state_->temporary = path;
     while (!bytes.empty()) {
         const auto part = static_cast<DWORD>(std::min(bytes.size(), LargestPart));
         DWORD count = 0;
-        Require(::WriteFile(file.get(), bytes.data(), part, &count, nullptr));
+        if (!::WriteFile(file.get(), bytes.data(), part, &count, nullptr)) {
+            return Error_Of(::GetLastError());
+        }
         bytes.remove_prefix(count);
     }
-    Require(::FlushFileBuffers(file.get()));
-    file.Close();
+    if (auto flushed = Require(::FlushFileBuffers(file.get())); !flushed) return flushed;
+    return file.Close();
 }
 
-void Replacement::Put_In_Place(bool /*others_follow*/) {
-    if (state_->exists) {
-        state_->Replace();
-    } else {
-        Require(::MoveFileExW(state_->temporary.c_str(), state_->target.c_str(),
-                              MOVEFILE_WRITE_THROUGH));
-    }
-    state_->temporary.clear();
+Result<> Replacement::Put_In_Place(bool /*others_follow*/) {
+    const auto move = [&] {
+        return Require(::MoveFileExW(state_->temporary.c_str(), state_->target.c_str(),
+                                     MOVEFILE_WRITE_THROUGH));
+    };
+    auto placed = state_->exists ? state_->Replace() : move();
+    if (placed) state_->temporary.clear();
+    return placed;
 }
 
 /// A card's file brings along where its contents are only when it is flushed under its new name.
-void Replacement::Make_Safe() {
-    const HANDLE file = ::CreateFileW(state_->target.c_str(), GENERIC_WRITE, Everyone, nullptr,
-                                      OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (file == INVALID_HANDLE_VALUE) return;  // in use by a program that looks into new files
-    const Handle closing(file);
-    Require(::FlushFileBuffers(file));
+Result<> Replacement::Make_Safe() {
+    const Handle file(::CreateFileW(state_->target.c_str(), GENERIC_WRITE, Everyone, nullptr,
+                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (!file.Is_Open()) return {};  // in use by a program that looks into new files
+    return Require(::FlushFileBuffers(file.get()));
 }
 
 bool Replacement::Can_Be_Put_Back() const {
     return true;
 }
 
-void Replacement::Put_Back() {
+Result<> Replacement::Put_Back() {
     State& state = *state_;
-    if (!state.exists) {
-        Require(::DeleteFileW(state.target.c_str()));
-        return;
-    }
+    if (!state.exists) return Require(::DeleteFileW(state.target.c_str()));
     const std::wstring old_file = std::exchange(state.old_file, {});
     const std::wstring target = state.target.wstring();
-    if (Move_Over(old_file, target) || Move_Over(old_file, target)) return;
+    if (Move_Over(old_file, target) || Move_Over(old_file, target)) return {};
     const DWORD error = ::GetLastError();
     const std::wstring kept = Unused_Path(state.Folder(), KeptPrefix);
     const bool renamed = ::MoveFileW(old_file.c_str(), kept.c_str()) != 0;
-    const std::u8string name = fs::path(renamed ? kept : old_file).u8string();
-    throw StepFailed{Error_Text(error) + ". The old file is kept as " +
-                     std::string(name.begin(), name.end())};
+    return Because(Error_Text(error) + ". The old file is kept as " +
+                   To_Utf8(Text_Of(renamed ? kept : old_file)));
 }
 
 std::string Replacement::Finish() {
-    const std::u8string left = fs::path(Remove_File(state_->old_file)).u8string();
-    if (left.empty()) return {};
-    return "the old file stays as " + std::string(left.begin(), left.end());
+    const std::wstring left = Remove_File(state_->old_file);
+    return left.empty() ? "" : "the old file stays as " + To_Utf8(Text_Of(left));
 }
 
-fs::path Follow_Links(fs::path path) {
+Result<fs::path> Follow_Links(fs::path path) {
     const DWORD attributes = ::GetFileAttributesW(path.c_str());
     const bool link =
         attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
-    return link ? fs::canonical(path) : path;
+    if (!link) return path;
+    std::error_code error;
+    fs::path target = fs::canonical(path, error);
+    if (error) return Because(error.message());
+    return target;
 }
 
 void Remove_Leftovers(const FolderLock::Folder& folder) {

@@ -23,7 +23,6 @@
 
 #include "base/text.h"
 #include "gameinfo/boxes.h"
-#include "layout/mod_globals.h"
 #include "mainwindow/form1.h"
 #include "system/process.h"
 
@@ -93,14 +92,14 @@ std::string Line(const Preview& preview) {
 }
 
 /// Prints what it is shown and gives the same answer to everything.
-class TalkingDesktop : public NoDesktop {
+class TalkingDesktop : public Desktop {
  public:
     std::u16string answer;
     bool failed = false;  ///< what was told last is a failure
 
     void Report(const Failure& failure) override {
         failed = true;
-        NoDesktop::Report(failure);
+        Print_Failure(failure);
     }
     void Message(const std::u16string& text) override {
         failed = false;
@@ -134,7 +133,7 @@ class Person {
  public:
     /// Does what the lines say. The status is 1 when what was told last is a failure, 2 when a line cannot be done.
     int Work(std::istream& lines) {
-        if (main_.Form_Load()) return 1;
+        if (!main_.Form_Load()) return 1;
         for (std::string line; std::getline(lines, line);) {
             try {
                 Do(line);
@@ -272,16 +271,16 @@ class Person {
              std::cout << std::endl;
          }},
         {"read",
-         [](std::istream& line) {
+         [this](std::istream& line) {
              const std::string name = Word(line);
-             Say(name, Line(Read_Box(From_Utf8(name))));
+             Say(name, Line(Read_Box(main_.BrlytData, From_Utf8(name))));
          }},
         {"write",
-         [](std::istream& line) {
+         [this](std::istream& line) {
              const std::u16string name = From_Utf8(Word(line));
-             Write_Box(name, Rest(line));
+             main_.Apply(WriteBox{name, Rest(line)});
          }},
-        {"keep", [](std::istream& line) { std::ofstream(Word(line), std::ios::binary) << BrlytData; }},
+        {"keep", [this](std::istream& line) { std::ofstream(Word(line), std::ios::binary) << main_.BrlytData; }},
         {"answer", [this](std::istream& line) { desktop_.answer = Rest(line); }},
         {"!",
          [](std::istream& line) {

@@ -60,8 +60,7 @@ class MaterialList {
  public:
     /// Adds a material in the colours of an element of the scheme and returns its index.
     unsigned Add(std::string_view name, std::u16string_view element, int texture = -1) {
-        const auto key = std::find(ElementKeys.begin(), ElementKeys.end(), element);
-        const ColorPair& pair = colors_[static_cast<std::size_t>(key - ElementKeys.begin())];
+        const ColorPair& pair = colors_[Element_Index(element)];
         list_.push_back({std::string(name), Rgba_Of(pair[0], 0), Rgba_Of(pair[1], 255), texture});
         return static_cast<unsigned>(list_.size() - 1);
     }

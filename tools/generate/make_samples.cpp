@@ -23,8 +23,8 @@ constexpr int LogoWidth = 256, LogoHeight = 64;
 
 void Write(const fs::path& path, std::string_view bytes) {
     fs::create_directories(path.parent_path());
-    const auto failure = Replace_File(From_Utf8(path.string()), bytes);
-    if (failure) throw std::runtime_error(path.string() + ": " + failure->reason);
+    const auto written = Replace_File(From_Utf8(path.string()), bytes);
+    if (!written) throw std::runtime_error(path.string() + ": " + written.Why().reason);
 }
 
 /// 1 inside a shape, 0 outside, and a soft edge one pixel wide; `distance` is negative inside.

@@ -78,9 +78,7 @@ void Render(const std::u16string& program_folder, const Painter& painter) {
     QApplication::processEvents();
     painter.Save(view, "main-window");
 
-    window.info.cmbRegion[GameInfo::title].Pick(6);
-    window.info.cmbRegion[GameInfo::year].Pick(6);
-    window.info.cmbRegion[GameInfo::players].Pick(6);
+    for (std::size_t field = 0; field < 3; ++field) window.info.cmbRegion[field].Pick(6);
     window.cmdHC_Click();
     window.TextEditor->cmbHC.Pick(28);
     window.TextEditor->cmbHC.Pick(27);

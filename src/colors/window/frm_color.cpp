@@ -11,6 +11,7 @@
 #include "colors/materials.h"
 #include "colors/window/scheme_list.h"
 #include "system/files.h"
+#include "system/interruptions.h"
 #include "system/replace_files.h"
 
 namespace bannersmith {
@@ -37,10 +38,10 @@ std::optional<int> Whole_Number(std::u16string_view text) {
 
 std::u16string Set_Pic_Colors_brlyt(std::string_view data, std::string_view name, ColorBox& first,
                                     ColorBox& second) {
-    ColorPair colors{};
-    if (!Get_Mat_Colors(data, name, colors)) return std::u16string(NotFound);
-    first.Set(colors[0]);
-    second.Set(colors[1]);
+    const auto colors = Get_Mat_Colors(data, name);
+    if (!colors) return std::u16string(NotFound);
+    first.Set((*colors)[0]);
+    second.Set((*colors)[1]);
     return {};
 }
 
@@ -50,7 +51,10 @@ std::u16string VbColor2RGB(Color color) {
 }
 
 frmColor::frmColor(MainWindowForColors main, std::u16string program_folder, Desktop& desktop)
-    : preview(desktop), main_(main), program_folder_(std::move(program_folder)), desktop_(desktop) {
+    : preview(desktop),
+      main_(std::move(main)),
+      program_folder_(std::move(program_folder)),
+      desktop_(desktop) {
     cmbFileList.Click = [this] { cmbFileList_Click(); };
     for (TextBox* box : {&txtR, &txtG, &txtB}) box->Change = [this] { UpDatePicClr(); };
 }
@@ -89,23 +93,24 @@ void frmColor::cmdGetScheme_Click() {
         desktop_.Message(u"File Not Found!");
         return;
     }
-    std::string data;
-    if (const auto failure = Read_File(path, data)) {
-        desktop_.Report(*failure);
+    const auto data = Read_File(path);
+    if (!data) {
+        desktop_.Report(data.Why());
         return;
     }
-    Read_Element_Set(data);
+    Read_Element_Set(*data);
     MakePreview();
 }
 
 void frmColor::Read_Element_Set(std::string_view data) {
     for (std::size_t i = 0; i < pic.size(); ++i) {
-        const auto& [material, text] = ElementMaterials[i];
-        std::u16string name(material);
-        if (text) name += main_.info.cmbRegion[*text].Selected();
+        const auto& text = Elements[i].text;
+        std::u16string name(Elements[i].material);
+        if (text) name += main_.cmbRegion[static_cast<std::size_t>(*text)].Selected();
         const auto found = Set_Pic_Colors_brlyt(data, To_Utf8(name), pic[i][0], pic[i][1]);
         if (found == NotFound && text) {
-            Set_Pic_Colors_brlyt(data, To_Utf8(Neutral_Box(material)), pic[i][0], pic[i][1]);
+            const std::string neutral = To_Utf8(Neutral_Box(Elements[i].material));
+            Set_Pic_Colors_brlyt(data, neutral, pic[i][0], pic[i][1]);
         }
     }
 }
@@ -119,25 +124,26 @@ Scheme frmColor::Colors() const {
 void frmColor::cmdSaveScheme_Click() {
     const std::u16string name = desktop_.Ask(u"Type a Name for the New Scheme", u"Save Scheme");
     if (name.empty()) return;
-    Outcome failure;
-    if (name.starts_with(u'.') || name.find_first_of(u"\\/") != name.npos) {
-        failure = Failure{name, "A scheme's name cannot begin with . or hold \\ or /"};
-    } else {
-        failure = Replace_File(Scheme_Path(program_folder_, name), Format_Scheme(Colors()),
-                               [this](const Failure& loss) { desktop_.Report(loss); });
-    }
-    if (failure) {
-        desktop_.Report(*failure);
+    if (const auto saved = Save_Scheme(name); !saved) {
+        desktop_.Report(saved.Why());
         return;
     }
     desktop_.Message(u"Color Scheme saved as " + name);
     RefreshColorList();
 }
 
+Result<> frmColor::Save_Scheme(const std::u16string& name) {
+    if (name.starts_with(u'.') || name.find_first_of(u"\\/") != name.npos) {
+        return Failure{name, "A scheme's name cannot begin with . or hold \\ or /"};
+    }
+    const InterruptionsHeld held;
+    return Replace_File(Scheme_Path(program_folder_, name), Format_Scheme(Colors()),
+                        [this](const Failure& loss) { desktop_.Report(loss); });
+}
+
 frmColor::Boxes* frmColor::Find_Boxes(std::u16string_view key) {
-    const auto found = std::find(ElementKeys.begin(), ElementKeys.end(), key);
-    return found == ElementKeys.end() ? nullptr
-                                      : &pic[static_cast<std::size_t>(found - ElementKeys.begin())];
+    const std::size_t index = Element_Index(key);
+    return index == Elements.size() ? nullptr : &pic[index];
 }
 
 /// Each of the three texts runs `UpDatePicClr` as it changes.
@@ -182,20 +188,20 @@ void frmColor::cmdColor_Click() {
 }
 
 void frmColor::Load_Scheme_Colors(std::u16string_view name) {
-    Scheme scheme{};
-    if (const auto failure = Load_Scheme(program_folder_, name, scheme)) {
-        desktop_.Report(*failure);
+    const auto scheme = Load_Scheme(Scheme_Path(program_folder_, name));
+    if (!scheme) {
+        desktop_.Report(scheme.Why());
         return;
     }
     for (std::size_t i = 0; i < pic.size(); ++i) {
-        pic[i][0].Set(scheme[i][0]);
-        pic[i][1].Set(scheme[i][1]);
+        pic[i][0].Set((*scheme)[i][0]);
+        pic[i][1].Set((*scheme)[i][1]);
     }
     MakePreview();
 }
 
 void frmColor::MakePreview() {
-    preview.Draw(Colors(), main_.info);
+    preview.Draw(Colors(), main_.texts());
 }
 
 }  // namespace bannersmith

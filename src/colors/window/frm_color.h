@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -11,7 +12,6 @@
 #include "colors/window/preview.h"
 #include "forms/controls.h"
 #include "forms/desktop.h"
-#include "gameinfo/game_info.h"
 
 namespace bannersmith {
 
@@ -20,7 +20,9 @@ struct MainWindowForColors {
     Form& form;                 ///< enabled again at the end
     TextBox& txtSrc;            ///< the path of the layout
     DropDownList& cmbFileList;  ///< the schemes; gets this window's list and selection
-    const GameInfo& info;       ///< the texts of the preview, the languages of the text colours
+    /// The languages of the text colours, by their `Field`.
+    const std::array<DropDownList, FieldPrefixes.size()>& cmbRegion;
+    std::function<PreviewTexts()> texts;  ///< what the preview shows now
 };
 
 /// The colour window as state and events. Closing it is the main window's to do.
@@ -35,8 +37,8 @@ class frmColor {
     frmColor& operator=(const frmColor&) = delete;
 
     Form form;
-    std::array<Boxes, ElementCount> pic;  ///< the elements' boxes, in the order of `ElementKeys`
-    DropDownList cmbFileList;             ///< "Current Brlyt" and the schemes
+    std::array<Boxes, Elements.size()> pic;  ///< the elements' boxes, in the order of `Elements`
+    DropDownList cmbFileList;                ///< "Current Brlyt" and the schemes
     FileList File1{".vccs"};
     TextBox txtBannerPath{u"gen.brlyt"};         ///< the layout to read colours from
     TextBox txtR{u"0"}, txtG{u"0"}, txtB{u"0"};  ///< the colour being edited, 0 to 255 each
@@ -74,12 +76,13 @@ class frmColor {
     /// is reported and changes nothing.
     void Load_Scheme_Colors(std::u16string_view name);
 
-    /// Draws the preview from the boxes, the main window's fields and `BrlytData`.
+    /// Draws the preview from the boxes and what the main window shows.
     void MakePreview();
 
  private:
     static constexpr int WholeByte = 255;
 
+    Result<> Save_Scheme(const std::u16string& name);
     Boxes* Find_Boxes(std::u16string_view key);
     void Show_Components(Color color);
     void Read_Element_Set(std::string_view data);

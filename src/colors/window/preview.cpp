@@ -2,7 +2,6 @@
 
 #include "base/text.h"
 #include "colors/window/gradients.h"
-#include "gameinfo/boxes.h"
 
 namespace bannersmith {
 
@@ -17,63 +16,60 @@ std::u16string With_Line_Breaks(std::u16string_view text) {
 
 }  // namespace
 
-void Preview::Draw(const Scheme& colors, const GameInfo& info) {
+void Preview::Draw(const Scheme& colors, const PreviewTexts& texts) {
     Draw_Colors(colors);
-    Show_Texts(info);
+    Show_Texts(texts);
     shpPFLine[1].area.left = lblT_PF.area.left - FrameBeforeConsole;
     shpPFLine[1].area.width = shpBackMask1.Right() - shpPFLine[1].area.left;
     Drawn.Raise();
 }
 
 void Preview::Draw_Colors(const Scheme& colors) {
-    const auto color = [&](Element element, std::size_t box) {
-        return colors[static_cast<std::size_t>(element)][box];
+    const auto color = [&](std::u16string_view element, std::size_t box) {
+        return colors[Element_Index(element)][box];
     };
     for (Shape& shape : shpPFLine) {
-        shape.fill = color(Element::PFLINE, 1);
-        shape.border = color(Element::PFLINE, 0);
+        shape.fill = color(u"PFLINE", 1);
+        shape.border = color(u"PFLINE", 0);
     }
-    lblT_PF.color = color(Element::T_PF, 1);
-    shpBack1.fill = color(Element::Back1, 0);
-    lblT_Year.color = color(Element::T_Year, 1);
-    lblT_Play.color = color(Element::T_Play, 1);
-    lblT_ESRB.color = color(Element::T_ESRB, 1);
+    lblT_PF.color = color(u"T_PF", 1);
+    shpBack1.fill = color(u"Back1", 0);
+    lblT_Year.color = color(u"T_Year", 1);
+    lblT_Play.color = color(u"T_Play", 1);
+    lblT_ESRB.color = color(u"T_ESRB", 1);
 
     const Color paper = shpBack1.fill;
     shpYearLine.Clear();
-    BackgroundHorizontalGradient(shpYearLine, color(Element::YearLine, 1), paper, FadeSteps, 0,
+    BackgroundHorizontalGradient(shpYearLine, color(u"YearLine", 1), paper, FadeSteps, 0,
                                  shpYearLine.Height(), 0, YearLineArea.width);
     shpPlayLine.Clear();
-    BackgroundHorizontalGradient(shpPlayLine, color(Element::PlayLine, 1), paper, FadeSteps, 0,
+    BackgroundHorizontalGradient(shpPlayLine, color(u"PlayLine", 1), paper, FadeSteps, 0,
                                  shpPlayLine.Height(), 0, PlayLineArea.width);
     surface.Clear();
-    BackgroundVerticalGradient(surface, paper, color(Element::BackMask1, 1), FadeSteps,
-                               shpBackMask1.top, shpBackMask1.Bottom(), shpBackMask1.left,
-                               shpBackMask1.Right());
+    BackgroundVerticalGradient(surface, paper, color(u"BackMask1", 1), FadeSteps, shpBackMask1.top,
+                               shpBackMask1.Bottom(), shpBackMask1.left, shpBackMask1.Right());
 
-    shpBackMask2.fill = color(Element::BackMask2, 1);
-    lblT_VCTitle.color = color(Element::T_VCTitle, 1);
-    lblBack1[0].color = color(Element::Back1, 1);
-    lblBack1[1].color = color(Element::Back2, 1);
-    lblBack1[2].color = color(Element::Back3, 1);
-    lblBack1[3].color = color(Element::Back4, 1);
-    shpVcPic.border = color(Element::VCPic, 0);
-    shpVcPic.fill = color(Element::VCPic, 1);
+    shpBackMask2.fill = color(u"BackMask2", 1);
+    lblT_VCTitle.color = color(u"T_VCTitle", 1);
+    lblBack1[0].color = color(u"Back1", 1);
+    lblBack1[1].color = color(u"Back2", 1);
+    lblBack1[2].color = color(u"Back3", 1);
+    lblBack1[3].color = color(u"Back4", 1);
+    shpVcPic.border = color(u"VCPic", 0);
+    shpVcPic.fill = color(u"VCPic", 1);
 }
 
-/// Title and console as the main window's fields have them; the others as the layout words them.
-void Preview::Show_Texts(const GameInfo& info) {
-    if (!info.txtName.Text().empty()) lblT_VCTitle.text = With_Line_Breaks(info.txtName.Text());
-    if (!info.txtSystem.Text().empty()) Show_Console(info.txtSystem.Text());
-    if (!info.txtYear.Text().empty()) lblT_Year.text = Read_Box(info.Selected_Box(GameInfo::year));
-    if (!info.txtPlayers.Text().empty()) {
-        lblT_Play.text = With_Line_Breaks(Read_Box(info.Selected_Box(GameInfo::players)));
+/// A label whose field is empty keeps the text that it had.
+void Preview::Show_Texts(const PreviewTexts& texts) {
+    if (!texts.title.empty()) lblT_VCTitle.text = With_Line_Breaks(texts.title);
+    if (!texts.system.empty()) Show_Console(texts.system);
+    if (texts.year) lblT_Year.text = *texts.year;
+    if (texts.players) {
+        lblT_Play.text = With_Line_Breaks(*texts.players);
         const bool lines = lblT_Play.text.find(u"\r\n") != std::u16string::npos;
         lblT_Play.area.top = lines ? lbl_PlayPos.top : lbl_PlayPos.Bottom();
     }
-    if (!info.txtESRB.Text().empty()) {
-        lblT_ESRB.text = With_Line_Breaks(Read_Box(info.Selected_Box(GameInfo::rating)));
-    }
+    if (texts.rating) lblT_ESRB.text = With_Line_Breaks(*texts.rating);
 }
 
 /// The console's name keeps its right edge. A name that the measuring label cannot show gets room

@@ -2,36 +2,21 @@
 #pragma once
 
 #include <array>
+#include <optional>
+#include <string>
 
 #include "colors/scheme.h"
 #include "forms/controls.h"
 #include "forms/desktop.h"
 #include "forms/drawing.h"
-#include "gameinfo/game_info.h"
 
 namespace bannersmith {
 
-/// The element of a scheme by its place in the scheme file.
-enum class Element : std::size_t {
-    PFLINE,
-    T_PF,
-    Shade,
-    Back0,
-    Back1,
-    Back2,
-    Back3,
-    Back4,
-    YearLine,
-    PlayLine,
-    T_VCTitle,
-    T_Play,
-    T_Year,
-    T_ESRB,
-    VCPic,
-    VCPicBase,
-    VCPicSha,
-    BackMask1,
-    BackMask2
+/// What the preview shows of the main window's fields.
+struct PreviewTexts {
+    std::u16string title, system;  ///< as the fields have them
+    /// As the layout words them in the languages chosen; nothing where the field is empty.
+    std::optional<std::u16string> year, players, rating;
 };
 
 /// The preview's shapes and labels as they were last drawn. Nothing changes between two drawings,
@@ -41,8 +26,8 @@ class Preview {
     /// `desktop` measures texts and must outlive the preview.
     explicit Preview(Desktop& desktop) : desktop_(desktop) {}
 
-    /// Draws everything anew from the colours, the main window's fields and `BrlytData`.
-    void Draw(const Scheme& colors, const GameInfo& info);
+    /// Draws everything anew.
+    void Draw(const Scheme& colors, const PreviewTexts& texts);
 
     /// Runs after each drawing.
     Event Drawn;
@@ -90,7 +75,7 @@ class Preview {
     static constexpr Font RowFont{u"@Arial Unicode MS", 68.25F};
 
     void Draw_Colors(const Scheme& colors);
-    void Show_Texts(const GameInfo& info);
+    void Show_Texts(const PreviewTexts& texts);
     void Show_Console(std::u16string_view text);
 
     Desktop& desktop_;

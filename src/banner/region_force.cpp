@@ -1,4 +1,4 @@
-#include "mainwindow/region_force.h"
+#include "banner/region_force.h"
 
 #include "base/text.h"
 #include "gameinfo/boxes.h"

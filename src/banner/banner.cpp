@@ -1,0 +1,220 @@
+#include "banner/banner.h"
+
+#include <algorithm>
+#include <new>
+#include <utility>
+
+#include "banner/region_force.h"
+#include "base/text.h"
+#include "colors/materials.h"
+#include "gameinfo/fields.h"
+#include "gameinfo/languages.h"
+#include "layout/file_length.h"
+#include "layout/format.h"
+#include "layout/text_box.h"
+#include "system/files.h"
+
+namespace bannersmith {
+
+namespace {
+
+constexpr std::u16string_view LogoTexture = u"my_Back";
+
+/// Every text box that the save passes through the writer: language by language the four fields,
+/// then the system.
+std::vector<std::string> Boxes_To_Rewrite() {
+    std::vector<std::string> names;
+    for (const std::u16string_view code : LanguageList) {
+        for (const std::u16string_view prefix : FieldPrefixes) {
+            names.push_back(To_Utf8(prefix) + To_Utf8(code));
+        }
+    }
+    names.push_back(To_Utf8(SystemBox));
+    return names;
+}
+
+/// What `work` returns, or a lack of memory as a failure of `source`.
+template <typename Work>
+auto Within_Memory(const FolderSource& source, Work work) -> decltype(work()) {
+    try {
+        return work();
+    } catch (const std::bad_alloc&) {
+        return Failure{source.Name(), "Not enough memory"};
+    }
+}
+
+}  // namespace
+
+bool Banner::State::operator==(const State& other) const {
+    const auto same = [](const NewContents& a, const NewContents& b) {
+        return a.path == b.path && a.bytes == b.bytes;
+    };
+    return layout == other.layout && forced == other.forced && padding == other.padding &&
+           std::equal(textures.begin(), textures.end(), other.textures.begin(),
+                      other.textures.end(), same);
+}
+
+std::size_t Banner::State::Size() const {
+    std::size_t size = layout.size();
+    for (const NewContents& texture : textures) size += texture.bytes.size();
+    return size;
+}
+
+Result<Banner> Banner::Load(FolderSource source, std::size_t history) {
+    return Within_Memory(source, [&]() -> Result<Banner> {
+        auto bytes = source.Read();
+        if (!bytes) return bytes.Why();
+        return From_Bytes(std::move(*bytes), source, history);
+    });
+}
+
+Banner Banner::From_Bytes(std::string file, FolderSource source, std::size_t history) {
+    Banner banner;
+    banner.source_ = std::move(source);
+    banner.on_disk_ = std::move(file);
+    banner.state_.layout = CutPadding(banner.on_disk_);
+    banner.loaded_size_ = banner.state_.layout.size();
+    banner.neutral_ = Neutral_Language(banner.state_.layout);
+    banner.most_history_ = history;
+    return banner;
+}
+
+/// How each kind of edit changes a state.
+struct Banner::Applying {
+    const Banner& banner;
+    State& state;
+
+    Result<> operator()(const SetField& edit) const {
+        state.layout =
+            Set_Field(std::move(state.layout), edit.field, edit.code, edit.value, banner.neutral_);
+        return {};
+    }
+
+    Result<> operator()(const SetFieldEverywhere& edit) const {
+        state.layout =
+            Set_Field_Everywhere(std::move(state.layout), edit.field, edit.value, banner.neutral_);
+        return {};
+    }
+
+    Result<> operator()(const WriteBox& edit) const {
+        state.layout = Write_Box(std::move(state.layout), edit.name, edit.text);
+        return {};
+    }
+
+    Result<> operator()(const ApplyScheme& edit) const {
+        auto colored = Apply_Color_Scheme(std::move(state.layout), edit.file);
+        if (!colored) return colored.Why();
+        state.layout = std::move(*colored);
+        return {};
+    }
+
+    Result<> operator()(const ReplaceLogo& edit) const {
+        const auto texture = banner.source_.Find_Texture(LogoTexture);
+        if (!texture) return texture.Why();
+        if (!*texture) return {};
+        auto logo = Read_Logo(edit.file);
+        if (!logo) return logo.Why();
+        state.textures.push_back({**texture, std::move(*logo)});
+        return {};
+    }
+
+    Result<> operator()(const ForceRegion& edit) const {
+        state.forced = edit.code;
+        return {};
+    }
+
+    Result<> operator()(const SetPadding& edit) const {
+        state.padding = edit.text;
+        return {};
+    }
+
+    /// A logo may be the texture that an edit before this one has replaced.
+    Result<std::string> Read_Logo(const std::u16string& file) const {
+        const auto replaced =
+            std::find_if(state.textures.rbegin(), state.textures.rend(),
+                         [&](const NewContents& texture) { return Same_File(texture.path, file); });
+        if (replaced == state.textures.rend()) return Read_File(file);
+        return replaced->bytes;
+    }
+};
+
+Result<> Banner::Apply_To(State& state, const Edit& edit) const {
+    return std::visit(Applying{*this, state}, edit);
+}
+
+Result<> Banner::Apply(const Edit& edit) {
+    return Within_Memory(source_, [&]() -> Result<> {
+        State next = state_;
+        if (auto applied = Apply_To(next, edit); !applied) return applied;
+        if (next == state_) return {};
+        Remember_And_Take(undo_, std::move(next));
+        redo_.clear();
+        Shorten_History();
+        return {};
+    });
+}
+
+/// The one step that can lack memory comes first, while nothing has changed yet.
+void Banner::Remember_And_Take(std::deque<State>& history, State next) {
+    history.emplace_back();
+    history.back() = std::exchange(state_, std::move(next));
+}
+
+/// The oldest steps go first.
+void Banner::Shorten_History() {
+    std::size_t size = 0;
+    for (const State& state : undo_) size += state.Size();
+    while (size > most_history_) {
+        size -= undo_.front().Size();
+        undo_.pop_front();
+    }
+}
+
+bool Banner::Step(std::deque<State>& from, std::deque<State>& to) {
+    if (from.empty()) return false;
+    Remember_And_Take(to, std::move(from.back()));
+    from.pop_back();
+    return true;
+}
+
+bool Banner::Undo() {
+    return Step(undo_, redo_);
+}
+
+bool Banner::Redo() {
+    return Step(redo_, undo_);
+}
+
+bool Banner::Has_Unsaved_Changes() const {
+    return state_.layout != std::string_view(on_disk_).substr(0, loaded_size_);
+}
+
+bool Banner::Was_Changed_Elsewhere() const {
+    return source_.Holds_Other(on_disk_);
+}
+
+Result<SavePlan> Banner::Plan_Save(std::span<const Edit> last) const {
+    return Within_Memory(source_, [&]() -> Result<SavePlan> {
+        if (state_.layout.size() < header::LengthEnd) {
+            return Failure{source_.Name(), "No layout is loaded"};
+        }
+        State state = state_;
+        state.layout = Set_File_Len(Rewrite_Texts(std::move(state.layout), Boxes_To_Rewrite()));
+        for (const Edit& edit : last) {
+            if (auto applied = Apply_To(state, edit); !applied) return applied.Why();
+        }
+        auto padding = state.padding ? Read_Padding(*state.padding)
+                                     : Result<Padding>(Padding{false, on_disk_.size()});
+        if (!padding) return padding.Why();
+        Region_Force(state.layout, To_Utf8(state.forced));
+        SavePlan plan = std::move(state.textures);
+        plan.push_back({source_.Path(), AddPadding(std::move(state.layout), *padding)});
+        return plan;
+    });
+}
+
+Result<> Banner::Save(const SavePlan& plan, const FolderLock& lock, const Notice& notice) const {
+    return Replace_Files(plan, lock, notice);
+}
+
+}  // namespace bannersmith

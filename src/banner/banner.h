@@ -1,0 +1,106 @@
+// A banner as a value: one layout, where it came from, and what was done to it.
+#pragma once
+
+#include <cstddef>
+#include <deque>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "banner/edit.h"
+#include "banner/source.h"
+#include "base/result.h"
+#include "system/replace_files.h"
+
+namespace bannersmith {
+
+/// Which files get which bytes: the textures that are replaced, in the order of their edits, then
+/// the layout.
+using SavePlan = std::vector<NewContents>;
+
+/// One banner. Nothing of it is shared: different banners can be used by different threads. A lack
+/// of memory is a failure of the routine, unless it says otherwise.
+class Banner {
+ public:
+    /// Bytes of memory that the history of a banner takes at most.
+    static constexpr std::size_t MostHistory = std::size_t{32} << 20;
+
+    /// No banner: it has no bytes, and no edit gives it any.
+    Banner() = default;
+
+    /// Reads the layout and cuts its padding. `history`: how many bytes of what was before may be
+    /// kept for `Undo`; 0 keeps nothing. The failure has the name of the source.
+    static Result<Banner> Load(FolderSource source, std::size_t history = MostHistory);
+
+    /// The same for bytes that were read already. Throws where memory lacks.
+    static Banner From_Bytes(std::string file, FolderSource source = {},
+                             std::size_t history = MostHistory);
+
+    /// The layout, without padding behind its end. Stays at its place while the object does.
+    const std::string& Bytes() const { return state_.layout; }
+
+    /// The code of the language in whose wording the neutral boxes are composed, as it was found
+    /// when the banner was loaded; empty for a banner with a name of its own for some language.
+    const std::u16string& Neutral() const { return neutral_; }
+
+    /// Where it was loaded from.
+    const FolderSource& Source() const { return source_; }
+    bool Is_Loaded() const { return !source_.Path().empty(); }
+
+    /// The file as it was loaded or saved last, with its padding.
+    const std::string& On_Disk() const { return on_disk_; }
+
+    /// The one way to change a banner. What fails leaves it as it was. A text for a box that the
+    /// layout lacks, and a colour without its material, are passed over.
+    Result<> Apply(const Edit& edit);
+
+    /// Takes back what `Apply` changed last, and brings it again. False where there is nothing to
+    /// take back or to bring.
+    bool Undo();
+    bool Redo();
+
+    /// Whether the layout differs from the one that was loaded or saved last.
+    bool Has_Unsaved_Changes() const;
+
+    /// Whether another program wrote the file since it was loaded or saved last.
+    bool Was_Changed_Elsewhere() const;
+
+    /// What a save would write, after `last`, edits that are not kept: each language's texts and
+    /// the console's name pass once through the writer, the header gets the length, then come
+    /// `last`, the forced region and the padding. Changes nothing.
+    Result<SavePlan> Plan_Save(std::span<const Edit> last = {}) const;
+
+    /// Writes all files of a plan or none, see `Replace_Files`. `lock` and `notice` are passed on.
+    /// The banner itself stays as it is; load it again to go on with what is on the disk.
+    Result<> Save(const SavePlan& plan, const FolderLock& lock = {},
+                  const Notice& notice = {}) const;
+
+ private:
+    /// What edits change.
+    struct State {
+        std::string layout;
+        std::vector<NewContents> textures;  ///< that the save replaces
+        std::u16string forced;
+        std::optional<std::u16string> padding;
+
+        bool operator==(const State& other) const;
+        std::size_t Size() const;
+    };
+
+    struct Applying;
+    Result<> Apply_To(State& state, const Edit& edit) const;
+    void Remember_And_Take(std::deque<State>& history, State next);
+    void Shorten_History();
+    bool Step(std::deque<State>& from, std::deque<State>& to);
+
+    FolderSource source_;
+    std::u16string neutral_;
+    std::string on_disk_;
+    std::size_t loaded_size_ = 0;  ///< of the layout in `on_disk_`
+    State state_;
+    std::deque<State> undo_, redo_;
+    std::size_t most_history_ = 0;
+};
+
+}  // namespace bannersmith

@@ -1,0 +1,56 @@
+// One wish about a banner, as a value. Command lines, recipes and buttons are all read into these.
+#pragma once
+
+#include <string>
+#include <variant>
+
+#include "gameinfo/boxes.h"
+
+namespace bannersmith {
+
+/// A field in the wording of one language; the code "NONE" stands for the neutral box.
+struct SetField {
+    Field field;
+    std::u16string code;
+    std::u16string value;
+};
+
+/// A field in every language and in the neutral box, each in its wording.
+struct SetFieldEverywhere {
+    Field field;
+    std::u16string value;
+};
+
+/// The raw text of any text box, "^" for a line break.
+struct WriteBox {
+    std::u16string name;
+    std::u16string text;
+};
+
+/// The colours of a scheme file.
+struct ApplyScheme {
+    std::u16string file;
+};
+
+/// A texture file in the place of the banner's logo texture, the first one whose name begins with
+/// "my_Back". A banner without it is left alone.
+struct ReplaceLogo {
+    std::u16string file;
+};
+
+/// A language code whose items the save makes of those that the banner has; "NONE" for none.
+struct ForceRegion {
+    std::u16string code;
+};
+
+/// What `Read_Padding` takes, read by the save. Without this edit a save fills the file up to the
+/// length that it had.
+struct SetPadding {
+    std::u16string text;
+};
+
+/// Any of them.
+using Edit = std::variant<SetField, SetFieldEverywhere, WriteBox, ApplyScheme, ReplaceLogo,
+                          ForceRegion, SetPadding>;
+
+}  // namespace bannersmith

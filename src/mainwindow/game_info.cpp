@@ -1,0 +1,92 @@
+#include "mainwindow/game_info.h"
+
+#include <optional>
+#include <utility>
+
+#include "gameinfo/fields.h"
+#include "gameinfo/languages.h"
+
+namespace bannersmith {
+
+namespace {
+
+/// The fields by the index of their Set and Set All; nothing is the console's name.
+constexpr std::array<Field, 3> SetFields = {Field::title, Field::year, Field::rating};
+constexpr std::array<std::optional<Field>, 5> SetAllFields = {
+    Field::title, Field::year, Field::players, std::nullopt, Field::rating};
+
+}  // namespace
+
+GameInfo::GameInfo(const Banner& banner, std::function<void(const Edit& edit)> apply)
+    : BrlytData(banner.Bytes()), apply_(std::move(apply)) {
+    for (std::size_t i = 0; i < cmbRegion.size(); ++i) {
+        cmbRegion[i] = DropDownList({LanguageList.begin(), LanguageList.end()});
+        cmbRegion[i].Click = [this, i] { cmbRegion_click(static_cast<std::int16_t>(i)); };
+    }
+}
+
+TextBox& GameInfo::Box_Of_Field(std::size_t field) {
+    return *std::array{&txtName, &txtYear, &txtPlayers, &txtESRB}[field];
+}
+
+std::u16string GameInfo::Selected_Text(Field field) const {
+    const DropDownList& list = cmbRegion[static_cast<std::size_t>(field)];
+    return Read_Box(BrlytData, Box_To_Read(field, list.Selected()));
+}
+
+void GameInfo::cmbRegion_click(std::int16_t Index) {
+    const auto index = static_cast<std::size_t>(Index);
+    if (index >= cmbRegion.size()) return;
+    if (cmbRegion[index].Index() == DropDownList::NoSelection) return;
+    const auto field = static_cast<Field>(index);
+    const std::u16string text = Selected_Text(field);
+    if (field == Field::year && text.empty()) return;
+    Box_Of_Field(index).Set(Bare_Value(field, text));
+}
+
+void GameInfo::Refill() {
+    for (DropDownList& list : cmbRegion) list.Select(DropDownList::NoSelection);
+    for (TextBox* box : {&txtName, &txtYear, &txtPlayers, &txtESRB, &txtSystem}) box->Set(u"");
+    txtSystem.Set(Read_Box(BrlytData, SystemBox));
+    for (std::size_t i = 0; i < cmbRegion.size(); ++i) {
+        DropDownList& list = cmbRegion[i];
+        while (Box_Of_Field(i).Text().empty() && !list.On_Last_Entry()) {
+            list.Select(list.Index() + 1);
+        }
+    }
+}
+
+void GameInfo::Show_Selected() {
+    for (std::size_t i = 0; i < cmbRegion.size(); ++i) {
+        cmbRegion_click(static_cast<std::int16_t>(i));
+    }
+    txtSystem.Set(Read_Box(BrlytData, SystemBox));
+}
+
+void GameInfo::cmdSet_Click(std::int16_t Index) {
+    const auto index = static_cast<std::size_t>(Index);
+    if (index >= SetFields.size()) return;
+    const auto field = static_cast<std::size_t>(SetFields[index]);
+    apply_(SetField{SetFields[index], cmbRegion[field].Selected(), Box_Of_Field(field).Text()});
+}
+
+void GameInfo::cmdSetAll_Click(std::int16_t Index) {
+    const auto index = static_cast<std::size_t>(Index);
+    if (index >= SetAllFields.size()) return;
+    if (const auto field = SetAllFields[index]) {
+        const TextBox& box = Box_Of_Field(static_cast<std::size_t>(*field));
+        apply_(SetFieldEverywhere{*field, box.Text()});
+    } else {
+        apply_(WriteBox{std::u16string(SystemBox), txtSystem.Text()});
+    }
+}
+
+PreviewTexts GameInfo::Texts() const {
+    PreviewTexts texts{txtName.Text(), txtSystem.Text(), {}, {}, {}};
+    if (!txtYear.Text().empty()) texts.year = Selected_Text(Field::year);
+    if (!txtPlayers.Text().empty()) texts.players = Selected_Text(Field::players);
+    if (!txtESRB.Text().empty()) texts.rating = Selected_Text(Field::rating);
+    return texts;
+}
+
+}  // namespace bannersmith

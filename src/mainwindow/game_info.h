@@ -1,0 +1,61 @@
+// The five fields of the main window with their language selectors.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <string>
+
+#include "banner/banner.h"
+#include "colors/window/preview.h"
+#include "forms/controls.h"
+
+namespace bannersmith {
+
+/// The fields and selectors, a view of the banner: what they hold reaches it only through Set and
+/// Set All. The names of the controls are those of the window.
+class GameInfo {
+ public:
+    /// Empty fields, and lists of all languages with nothing selected. `banner` must outlive the
+    /// object; `apply` applies an edit to it.
+    GameInfo(const Banner& banner, std::function<void(const Edit& edit)> apply);
+    GameInfo(const GameInfo&) = delete;
+    GameInfo& operator=(const GameInfo&) = delete;
+
+    /// The bare values. Line breaks are shown as "^".
+    TextBox txtName, txtYear, txtPlayers, txtESRB, txtSystem;
+    /// The language that each field shows, by its `Field`; a selection runs `cmbRegion_click`.
+    std::array<DropDownList, FieldPrefixes.size()> cmbRegion;
+
+    /// Shows the value of field `Index` for the language that its selector shows: 0 name, 1 year,
+    /// 2 players, 3 rating; any other index does nothing, and so does a selector without a
+    /// selection. A year stays as it is where the language has no year text; the other fields
+    /// become empty.
+    void cmbRegion_click(std::int16_t Index);
+
+    /// Empties the fields and fills them from the banner: each selector stops on the first language
+    /// with a value, or on "NONE".
+    void Refill();
+
+    /// Shows again what the banner has in the selected languages, and the console's name.
+    void Show_Selected();
+
+    /// Set for one field in the language of its selector: 0 name, 1 year, 2 rating; else nothing.
+    void cmdSet_Click(std::int16_t Index);
+
+    /// Set for one field in every language and in the language-neutral box: 0 name, 1 year, 2
+    /// players, 3 system, 4 rating; else nothing.
+    void cmdSetAll_Click(std::int16_t Index);
+
+    /// What the colour window's preview shows of the fields.
+    PreviewTexts Texts() const;
+
+ private:
+    TextBox& Box_Of_Field(std::size_t field);
+    std::u16string Selected_Text(Field field) const;
+
+    const std::string& BrlytData;
+    std::function<void(const Edit& edit)> apply_;
+};
+
+}  // namespace bannersmith

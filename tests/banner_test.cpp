@@ -1,0 +1,141 @@
+// Banners and their edits, as whole files beside the plainest form of the rules.
+#include "banner/banner.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "base/text.h"
+#include "generate/banners.h"
+#include "generate/layout_builder.h"
+#include "layout/file_length.h"
+#include "mainwindow/command_line.h"
+#include "plain_rules.h"
+#include "support.h"
+
+using namespace bannersmith;
+
+namespace {
+
+std::mt19937 random_bits(20261124);
+std::size_t Pick(std::size_t count) { return random_bits() % count; }
+template <typename Items>
+auto Any(const Items& items) {
+    return *(std::begin(items) + static_cast<std::ptrdiff_t>(Pick(std::size(items))));
+}
+
+const char* const Names[] = {
+    "T_VCTitle_ENG", "T_VCTitle_GER", "T_VCTitle_JPN", "T_VCTitle",  "T_Year_ENG", "T_Year_FRA", "T_Year_NED",
+    "T_Year_JPN",    "T_Year",        "T_Year_ITA",    "T_Play_ENG", "T_Play_JPN", "T_Play_NED", "T_Play",
+    "T_ESRB_ENG",    "T_ESRB_FRA",    "T_ESRB",        "T_PF",       "T_PF2",      "L_GER",      "Years"};
+const char16_t* const Stored[] = {u"Released: 1985",
+                                  u"Erschienen: 1985",
+                                  u"Publié en 1985",
+                                  u"Pubblicato: 1985",
+                                  u"Año: 1985",
+                                  u"Release: 1985",
+                                  u"1985年発売",
+                                  u"1-2 Spieler",
+                                  u"プレイ人数^1～2人",
+                                  u"Game",
+                                  u"",
+                                  u"LENG T_YEAR_ENG"};
+const char* const Materials[] = {"PFLine",     "T_PF",  "Back0",      "T_VCTitle_ENG",
+                                 "T_Year_SPA", "VCPic", "T_ESRB_JPN", "BackMask2"};
+
+std::string Any_Box() {
+    TextBoxSpec box = Clean_Text_Box(Any(Names), Any(Stored), 0);
+    if (Pick(6) == 0) box.text_length = static_cast<unsigned>(Pick(40));
+    if (Pick(6) == 0) box.stored += std::string(2 * Pick(4), '\0');
+    std::string section = Text_Box_Section(box);
+    if (Pick(20) == 0) Write_U32(section, 4, static_cast<std::uint32_t>(Pick(400)));
+    return section;
+}
+
+std::string Any_File() {
+    std::vector<Material> materials;
+    for (std::size_t i = Pick(6); i-- > 0;) materials.push_back({Any(Materials), {0x0102, 3, 4, 5}, {6, 7, 8, 9}, -1});
+    std::vector<std::string> sections = {Pick(4) ? Material_Section(materials) : Any_Box()};
+    for (std::size_t i = Pick(12); i-- > 0;) sections.push_back(Pick(8) ? Any_Box() : sections.back());
+    if (Pick(6) == 0) sections.push_back(Group_Section("T_YEAR_ENG", {"LENG", "T_PLAY_ENGLJPN"}));
+    if (Pick(3)) sections.push_back(Group_Section("RootGroup", {}));
+    for (std::size_t i = Pick(3); i-- > 0;) sections.push_back(Empty_Section("gre1"));
+    std::string file = Layout_File(sections) + std::string(Pick(3) * 50, '\0');
+    return Pick(10) ? file : file.substr(0, 12 + Pick(file.size() - 12));
+}
+
+std::u16string Any_Line() {
+    static const char* const Words[] = {
+        "TITLE",   "title",         "YEAR",     "Play",  "PLAY",  "SYSTEM", "ESRB",  "T_GER", "T_ENG",        "t_jpn",
+        "Y_FRA",   "Y_SPA",         "Y_ITA",    "Y_NED", "Y_JPN", "Y_XYZ",  "E_FRA", "E_GER", "H_T_Play_ENG", "h_T_PF",
+        "H_Years", "H_T_Year_NONE", "H_",       "PAD",   "FORCE", "COLOR",  "2",     "LOGO",  "T_",           "X_GER",
+        "",        "TITLES",        "Y_TOO_JPN"};
+    static const char* const Values[] = {"1985", "",      "1",
+                                         "4",    " A^B ", "\"quo\"ted\"",
+                                         "ita",  "JPN",   "NONE",
+                                         "+16",  "0",     "300",
+                                         "99",   "x",     "longer than what was there",
+                                         "ENG",  "+"};
+    std::string line;
+    for (std::size_t i = Pick(6); i-- > 0;) {
+        line += "-" + std::string(Any(Words));
+        if (Pick(12)) line += (Pick(8) ? " " : "  ") + std::string(Any(Values)) + (Pick(3) ? " " : "");
+    }
+    return From_Bytes(line.empty() ? "-x" : line);
+}
+
+TEST(Banner, IsEditedAsThePlainRulesSay) {
+    const TempFolder folder;
+    std::vector<plain::Six> scheme;
+    std::string file;
+    for (int i = 0; i < 19; ++i) {
+        scheme.push_back({i, 10 + i, 20 + i, 200 + i, 100 + i, 235 + i});
+        for (const int number : scheme.back()) file += " " + std::to_string(number) + " ";
+        file += "\r\n";
+    }
+    for (const char* name : {"x", "1985", "A^B", "quoted", "ita", "JPN", "NONE", "+16", "0", "300", "99", "1", "4",
+                             "ENG", "+", "longer than what was there", ""}) {
+        folder.Write("schemes/" + std::string(name) + ".vccs", file);
+    }
+    for (int round = 0; round < 20000; ++round) {
+        const std::string data = Any_File();
+        const std::u16string line = Any_Line();
+        SCOPED_TRACE("round " + std::to_string(round) + ": " + To_Utf8(line) + "\n" + Hex(data));
+        Banner banner = Banner::From_Bytes(data, FolderSource(folder.Text() + u"/a/b/c"));
+        const std::string loaded = banner.Bytes();
+        for (const Edit& edit : ParseClo(line, folder.Text()).edits) {
+            const std::string before = banner.Bytes();
+            ASSERT_TRUE(banner.Apply(edit));
+            if (before == banner.Bytes()) continue;
+            ASSERT_TRUE(banner.Undo());
+            ASSERT_EQ(Hex(banner.Bytes()), Hex(before));
+            ASSERT_TRUE(banner.Redo() && !banner.Redo());
+        }
+        ASSERT_EQ(banner.Has_Unsaved_Changes(), banner.Bytes() != loaded);
+        const auto plan = banner.Plan_Save();
+        const auto expected = loaded.size() < 12 ? std::nullopt : plain::Batch(data, line, scheme);
+        ASSERT_EQ(static_cast<bool>(plan), expected.has_value());
+        if (plan) { ASSERT_EQ(Hex(plan->back().bytes), Hex(*expected)); }
+        while (banner.Undo()) continue;
+        ASSERT_EQ(Hex(banner.Bytes()), Hex(loaded));
+    }
+}
+
+TEST(Banner, KeepsHistoryWithinItsBound) {
+    const std::string file = Seven_Language_Banner();
+    Banner banner = Banner::From_Bytes(file, {}, 3 * file.size());
+    for (const char16_t* title : {u"1", u"2", u"3", u"4", u"5"})
+        ASSERT_TRUE(banner.Apply(SetFieldEverywhere{Field::title, title}));
+    ASSERT_TRUE(banner.Undo() && banner.Undo());
+    EXPECT_EQ(Get_Text(banner.Bytes(), "T_VCTitle_ENG"), u"3");
+    ASSERT_TRUE(banner.Apply(WriteBox{u"T_PF", u"other"}));
+    EXPECT_FALSE(banner.Redo()) << "what was taken back is gone once something else is done";
+    while (banner.Undo()) continue;
+    EXPECT_EQ(Get_Text(banner.Bytes(), "T_VCTitle_ENG"), u"2");
+    Banner unremembered = Banner::From_Bytes(file, {}, 0);
+    ASSERT_TRUE(unremembered.Apply(WriteBox{u"T_PF", u"other"}));
+    EXPECT_FALSE(unremembered.Undo());
+    EXPECT_EQ(unremembered.Plan_Save()->back().bytes.size(), std::max(file.size(), unremembered.Bytes().size()));
+}
+
+}  // namespace
