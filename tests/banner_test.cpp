@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <random>
+#include <thread>
 
 #include "base/text.h"
 #include "generate/banners.h"
@@ -118,6 +119,40 @@ TEST(Banner, IsEditedAsThePlainRulesSay) {
         if (plan) { ASSERT_EQ(Hex(plan->back().bytes), Hex(*expected)); }
         while (banner.Undo()) continue;
         ASSERT_EQ(Hex(banner.Bytes()), Hex(loaded));
+    }
+}
+
+/// Run under the thread sanitizer, too.
+TEST(Banner, EightThreadsEditAndSaveEightEach) {
+    const TempFolder folder;
+    const auto path = [](std::size_t thread, int number) {
+        return "t" + std::to_string(thread % 4) + "/" + std::to_string(thread) + "-" + std::to_string(number);
+    };
+    const auto work = [&](std::size_t thread) {
+        for (int number = 0; number < 8; ++number) {
+            auto banner = Banner::Load(FolderSource(folder.Text() + u"/" + From_Utf8(path(thread, number))));
+            ASSERT_TRUE(banner);
+            for (const Edit& edit :
+                 ParseClo(u"-TITLE One -YEAR 1999 -COLOR s -FORCE JPN -PAD 0", folder.Text()).edits) {
+                ASSERT_TRUE(banner->Apply(edit));
+            }
+            ASSERT_TRUE(banner->Undo() && banner->Redo());
+            ASSERT_TRUE(banner->Save(*banner->Plan_Save()));
+        }
+    };
+    folder.Write("schemes/s.vccs", Format_Scheme(Shipped_Schemes()[0].scheme));
+    for (std::size_t thread = 0; thread < 8; ++thread) {
+        for (int number = 0; number < 8; ++number) folder.Write(path(thread, number), German_Japanese_Banner());
+    }
+    {
+        std::vector<std::jthread> threads;
+        for (std::size_t thread = 0; thread < 8; ++thread) threads.emplace_back(work, thread);
+    }
+    EXPECT_EQ(folder.Names().size(), 65U);
+    const std::string first = folder.Read(path(0, 0));
+    EXPECT_NE(first, German_Japanese_Banner());
+    for (std::size_t thread = 0; thread < 8; ++thread) {
+        for (int number = 0; number < 8; ++number) EXPECT_TRUE(folder.Read(path(thread, number)) == first);
     }
 }
 

@@ -13,7 +13,7 @@ Result<std::string> Read_Whole(const std::string& path) {
         Repeat([&] { return ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK); }));
     if (!file.Is_Open()) return Error_Of(errno);
     struct stat info {};
-    if (Repeat([&] { return ::fstat(file.get(), &info); }) < 0) return Error_Of(errno);
+    if (Repeat([&] { return ::fstat(file.Get(), &info); }) < 0) return Error_Of(errno);
     if (auto regular = Require_Regular(info); !regular) return regular.Why();
     if (info.st_size > LargestFile) return Error_Of(EFBIG);
 
@@ -21,7 +21,7 @@ Result<std::string> Read_Whole(const std::string& path) {
     std::size_t filled = 0;
     for (;;) {
         const auto count = Repeat(
-            [&] { return ::read(file.get(), bytes.data() + filled, bytes.size() - filled); });
+            [&] { return ::read(file.Get(), bytes.data() + filled, bytes.size() - filled); });
         if (count < 0) return Error_Of(errno);
         if (count == 0) break;
         filled += static_cast<std::size_t>(count);

@@ -18,9 +18,9 @@ Result<std::string> Read_Whole(const std::wstring& path) {
     if (auto attributes = Attributes_Of(path); !attributes) return attributes.Why();
     const Handle file(Open_To_Read(path));
     if (!file.Is_Open()) return Error_Of(::GetLastError());
-    if (::GetFileType(file.get()) != FILE_TYPE_DISK) return Because("Not an ordinary file");
+    if (::GetFileType(file.Get()) != FILE_TYPE_DISK) return Because("Not an ordinary file");
     LARGE_INTEGER size{};
-    if (!::GetFileSizeEx(file.get(), &size)) return Error_Of(::GetLastError());
+    if (!::GetFileSizeEx(file.Get(), &size)) return Error_Of(::GetLastError());
     if (size.QuadPart > LargestFile) return Error_Of(ERROR_FILE_TOO_LARGE);
 
     std::string bytes(static_cast<std::size_t>(size.QuadPart) + 1, '\0');
@@ -28,7 +28,7 @@ Result<std::string> Read_Whole(const std::wstring& path) {
     for (;;) {
         const auto part = static_cast<DWORD>(std::min(bytes.size() - filled, LargestPart));
         DWORD count = 0;
-        if (!::ReadFile(file.get(), bytes.data() + filled, part, &count, nullptr)) {
+        if (!::ReadFile(file.Get(), bytes.data() + filled, part, &count, nullptr)) {
             return Error_Of(::GetLastError());
         }
         if (count == 0) break;

@@ -33,7 +33,7 @@ class Descriptor {
     }
 
     bool Is_Open() const { return fd_ >= 0; }
-    int get() const { return fd_; }
+    int Get() const { return fd_; }
 
     /// Some file systems report a failed write only here. After EINTR the descriptor is gone.
     Result<> Close() {

@@ -95,7 +95,7 @@ class FileBeside {
 
 Result<> Write_All(const Descriptor& file, std::string_view bytes) {
     while (!bytes.empty()) {
-        const auto count = Repeat([&] { return ::write(file.get(), bytes.data(), bytes.size()); });
+        const auto count = Repeat([&] { return ::write(file.Get(), bytes.data(), bytes.size()); });
         if (count < 0) return Error_Of(errno);
         bytes.remove_prefix(static_cast<std::size_t>(count));
     }
@@ -242,7 +242,7 @@ struct Replacement::State {
         const auto bytes = Read_Whole(target);
         if (!bytes) return bytes.Why();
         if (auto written = Write_All(copy, *bytes); !written) return written;
-        static_cast<void>(Take_Over(target, old, copy.get()));
+        static_cast<void>(Take_Over(target, old, copy.Get()));
         return Sync_And_Close(copy);
     }
 
@@ -250,7 +250,7 @@ struct Replacement::State {
     /// along.
     Result<> Sync_And_Close(Descriptor& file) const {
         if (folder->card) Sync(static_cast<int>(folder->handle));
-        if (auto synced = Require([&] { return ::fsync(file.get()); }); !synced) return synced;
+        if (auto synced = Require([&] { return ::fsync(file.Get()); }); !synced) return synced;
         return file.Close();
     }
 
@@ -291,7 +291,7 @@ Result<> Replacement::Look_At(const fs::path& path) {
     state.old_file = Descriptor(::open(state.target.c_str(), O_PATH | O_CLOEXEC));
     if (!state.old_file.Is_Open()) return errno == ENOENT ? Result<>() : Error_Of(errno);
     state.exists = true;
-    if (auto seen = Require([&] { return ::fstat(state.old_file.get(), &state.old); }); !seen) {
+    if (auto seen = Require([&] { return ::fstat(state.old_file.Get(), &state.old); }); !seen) {
         return seen;
     }
     if (auto regular = Require_Regular(state.old); !regular) return regular;
@@ -309,7 +309,7 @@ Result<> Replacement::Write(const FolderLock::Folder& folder, std::string_view b
     Descriptor file = state.temporary.Make(state.folder_path, mode);
     if (!file.Is_Open()) return Error_Of(errno);
     if (auto written = Write_All(file, bytes); !written) return written;
-    if (state.exists) state.lost = Take_Over(state.target, state.old, file.get());
+    if (state.exists) state.lost = Take_Over(state.target, state.old, file.Get());
     return state.Sync_And_Close(file);
 }
 

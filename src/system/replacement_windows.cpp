@@ -41,7 +41,7 @@ Result<> Require_Replaceable(const std::wstring& path) {
     const Handle file(::CreateFileW(path.c_str(), GENERIC_WRITE | DELETE, Everyone, nullptr,
                                     OPEN_EXISTING, 0, nullptr));
     if (!file.Is_Open()) return Error_Of(::GetLastError());
-    if (::GetFileType(file.get()) != FILE_TYPE_DISK) return Because("Not an ordinary file");
+    if (::GetFileType(file.Get()) != FILE_TYPE_DISK) return Because("Not an ordinary file");
     return {};
 }
 
@@ -140,12 +140,12 @@ Result<> Replacement::Write(const FolderLock::Folder& /*folder*/, std::string_vi
     while (!bytes.empty()) {
         const auto part = static_cast<DWORD>(std::min(bytes.size(), LargestPart));
         DWORD count = 0;
-        if (!::WriteFile(file.get(), bytes.data(), part, &count, nullptr)) {
+        if (!::WriteFile(file.Get(), bytes.data(), part, &count, nullptr)) {
             return Error_Of(::GetLastError());
         }
         bytes.remove_prefix(count);
     }
-    if (auto flushed = Require(::FlushFileBuffers(file.get())); !flushed) return flushed;
+    if (auto flushed = Require(::FlushFileBuffers(file.Get())); !flushed) return flushed;
     return file.Close();
 }
 
@@ -164,7 +164,7 @@ Result<> Replacement::Make_Safe() {
     const Handle file(::CreateFileW(state_->target.c_str(), GENERIC_WRITE, Everyone, nullptr,
                                     OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
     if (!file.Is_Open()) return {};  // in use by a program that looks into new files
-    return Require(::FlushFileBuffers(file.get()));
+    return Require(::FlushFileBuffers(file.Get()));
 }
 
 bool Replacement::Can_Be_Put_Back() const {

@@ -41,7 +41,7 @@ class Handle {
     Handle& operator=(const Handle&) = delete;
 
     bool Is_Open() const { return handle_ != INVALID_HANDLE_VALUE; }
-    HANDLE get() const { return handle_; }
+    HANDLE Get() const { return handle_; }
     Result<> Close() {
         return Require(::CloseHandle(std::exchange(handle_, INVALID_HANDLE_VALUE)));
     }

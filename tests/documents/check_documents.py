@@ -98,7 +98,7 @@ def code_of(sources):
     """The sources that messages stand in, without comments, with literals in one piece."""
     code = ""
     for at, _, names in os.walk(os.path.join(sources, "src")):
-        if os.path.basename(at) not in ("samples", "pictures", "desktop"):  # the views have tooltips
+        if os.path.basename(at) != "desktop":  # the views have tooltips
             code += "".join(read(at, name) for name in names if re.search(r"(?<!usage)\.(cpp|h)$", name))
     code = re.sub(r"(?<!:)//.*|#include.*", "", code)
     return re.sub(r'"\s*\n\s*"', "", code).replace('\\"', "'").replace("\\\\", "\\")
