@@ -41,8 +41,10 @@ const char16_t* const Stored[] = {u"Released: 1985",
                                   u"Game",
                                   u"",
                                   u"LENG T_YEAR_ENG"};
-const char* const Materials[] = {"PFLine",     "T_PF",  "Back0",      "T_VCTitle_ENG",
-                                 "T_Year_SPA", "VCPic", "T_ESRB_JPN", "BackMask2"};
+std::string Any_Material() {
+    const std::string name = Any(plain::Materials);
+    return name.ends_with('_') ? name + Any(plain::Codes) : name;
+}
 
 std::string Any_Box() {
     TextBoxSpec box = Clean_Text_Box(Any(Names), Any(Stored), 0);
@@ -55,7 +57,7 @@ std::string Any_Box() {
 
 std::string Any_File() {
     std::vector<Material> materials;
-    for (std::size_t i = Pick(6); i-- > 0;) materials.push_back({Any(Materials), {0x0102, 3, 4, 5}, {6, 7, 8, 9}, -1});
+    for (std::size_t i = Pick(6); i-- > 0;) materials.push_back({Any_Material(), {0x0102, 3, 4, 5}, {6, 7, 8, 9}, -1});
     std::vector<std::string> sections = {Pick(4) ? Material_Section(materials) : Any_Box()};
     for (std::size_t i = Pick(12); i-- > 0;) sections.push_back(Pick(8) ? Any_Box() : sections.back());
     if (Pick(6) == 0) sections.push_back(Group_Section("T_YEAR_ENG", {"LENG", "T_PLAY_ENGLJPN"}));
@@ -119,6 +121,26 @@ TEST(Banner, IsEditedAsThePlainRulesSay) {
         if (plan) { ASSERT_EQ(Hex(plan->back().bytes), Hex(*expected)); }
         while (banner.Undo()) continue;
         ASSERT_EQ(Hex(banner.Bytes()), Hex(loaded));
+    }
+}
+
+TEST(Banner, TakesSingleFieldsAsThePlainRulesSay) {
+    const std::pair<Field, char> fields[] = {
+        {Field::title, 'T'}, {Field::year, 'Y'}, {Field::players, 'P'}, {Field::rating, 'E'}};
+    const char* const values[] = {"1990", "", "1", "3", "a^b"};
+    for (int round = 0; round < 5000; ++round) {
+        Banner banner = Banner::From_Bytes(Any_File());
+        std::string expected = banner.Bytes();
+        const std::string neutral = plain::Neutral(expected);
+        for (int i = 0; i < 4; ++i) {
+            const auto [field, letter] = Any(fields);
+            const std::string code = Any(plain::Codes);
+            const std::u16string value = From_Bytes(Any(values));
+            ASSERT_TRUE(banner.Apply(SetField{field, From_Bytes(code), value}));
+            expected = plain::Set(expected, plain::Prefix(letter) + code,
+                                  plain::Compose(letter, value, code == "NONE" ? neutral : code));
+            ASSERT_EQ(Hex(banner.Bytes()), Hex(expected)) << round << " " << code;
+        }
     }
 }
 

@@ -143,12 +143,13 @@ inline std::string Colored(std::string data, std::string name, const Six& six) {
     return data;
 }
 
+inline const std::vector<std::string> Materials = {"PFLine",     "T_PF",     "Shade",     "Back0",    "Back1",
+                                                   "Back2",      "Back3",    "Back4",     "YearLine", "PlayLine",
+                                                   "T_VCTitle_", "T_Play_",  "T_Year_",   "T_ESRB_",  "VCPic",
+                                                   "VCPicBase",  "VCPicSha", "BackMask1", "BackMask2"};
+
 /// `scheme`: 19 times six numbers.
 inline std::string Colored(std::string data, const std::vector<Six>& scheme) {
-    static const std::vector<std::string> Materials = {"PFLine",     "T_PF",     "Shade",     "Back0",    "Back1",
-                                                       "Back2",      "Back3",    "Back4",     "YearLine", "PlayLine",
-                                                       "T_VCTitle_", "T_Play_",  "T_Year_",   "T_ESRB_",  "VCPic",
-                                                       "VCPicBase",  "VCPicSha", "BackMask1", "BackMask2"};
     for (std::size_t i = 0; i < Materials.size(); ++i) {
         if (!Materials[i].ends_with('_')) data = Colored(data, Materials[i], scheme[i]);
         for (std::size_t code = 0; Materials[i].ends_with('_') && code < 7; ++code) {
