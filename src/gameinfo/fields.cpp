@@ -107,6 +107,7 @@ std::string Set_Field(std::string layout, Field field, std::u16string_view code,
 std::string Set_Field_Everywhere(std::string layout, Field field, std::u16string_view value,
                                  std::u16string_view neutral) {
     std::vector<NamedText> texts;
+    texts.reserve(LanguageList.size() + 1);
     for (const std::u16string_view code : LanguageList) {
         texts.push_back({Box_Of(field, code), Text_For(field, value, code)});
     }

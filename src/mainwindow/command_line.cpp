@@ -82,28 +82,28 @@ class Options {
         std::u16string_view word;
         std::size_t skipped;  ///< characters of the piece in front of the value
         bool quotes_removed;
-        void (Options::*take)(std::u16string value);
+        void (Options::*take)(const std::u16string& value);
     };
 
     template <Field field>
-    void Everywhere(std::u16string value) {
-        edits.push_back(SetFieldEverywhere{field, std::move(value)});
+    void Everywhere(const std::u16string& value) {
+        edits.push_back(SetFieldEverywhere{field, value});
     }
-    void System(std::u16string value) {
-        edits.push_back(WriteBox{std::u16string(SystemBox), std::move(value)});
+    void System(const std::u16string& value) {
+        edits.push_back(WriteBox{std::u16string(SystemBox), value});
     }
-    void Logo(std::u16string value) {
+    void Logo(const std::u16string& value) {
         edits.push_back(ReplaceLogo{Logo_Path(program_folder_, value)});
     }
-    void Color(std::u16string value) {
+    void Color(const std::u16string& value) {
         edits.push_back(ApplyScheme{Scheme_Path(program_folder_, value)});
     }
-    void Pad(std::u16string value) { edits.push_back(SetPadding{std::move(value)}); }
-    void Force(std::u16string value) {
-        value = Capitals(value);
+    void Pad(const std::u16string& value) { edits.push_back(SetPadding{value}); }
+    void Force(const std::u16string& value) {
+        const std::u16string code = Capitals(value);
         const bool known =
-            std::find(LanguageList.begin(), LanguageList.end(), value) != LanguageList.end();
-        if (known) edits.push_back(ForceRegion{std::move(value)});
+            std::find(LanguageList.begin(), LanguageList.end(), code) != LanguageList.end();
+        if (known) edits.push_back(ForceRegion{code});
     }
 
     /// The value of an option that is told by the beginning of its word, which ends in a language

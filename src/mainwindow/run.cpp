@@ -18,10 +18,13 @@ bool Is_One_Of(std::span<const std::u16string_view> words, std::u16string_view w
     return std::find(words.begin(), words.end(), word) != words.end();
 }
 
-/// Why a command line cannot be meant as it stands; empty when it can.
-std::string Fault_Of(std::u16string_view command_line) {
-    if (command_line.find_first_of(u"\r\n") != command_line.npos) return "Holds a line break";
-    return Is_Utf8(command_line) ? "" : "Is no UTF-8 text";
+/// Fails where a command line cannot be meant as it stands.
+Result<> Check(std::u16string_view command_line) {
+    const std::u16string subject = u"Command line";
+    const bool broken = command_line.find_first_of(u"\r\n") != command_line.npos;
+    if (broken) return Failure{subject, "Holds a line break"};
+    if (!Is_Utf8(command_line)) return Failure{subject, "Is no UTF-8 text"};
+    return {};
 }
 
 }  // namespace
@@ -39,8 +42,8 @@ std::optional<int> Answer_About(const std::u16string& command_line, const std::s
 }
 
 int Run_Batch_Mode(const std::u16string& command_line) {
-    if (const std::string fault = Fault_Of(command_line); !fault.empty()) {
-        Print_Failure({u"Command line", fault});
+    if (const auto checked = Check(command_line); !checked) {
+        Print_Failure(checked.Why());
         return BatchRun::Failed;
     }
     return BatchRun({Program_Folder(), command_line}, Print_Failure).Run();
