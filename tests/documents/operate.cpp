@@ -12,6 +12,7 @@
 #include <functional>
 #include <iostream>
 #include <map>
+#include <new>
 #include <sstream>
 
 #include "base/text.h"
@@ -82,7 +83,11 @@ int Work(std::istream& lines) {
         const auto act =
             std::find_if(acts.rbegin(), acts.rend(), [&](const auto& each) { return line.starts_with(each.first); });
         if (act == acts.rend()) return Print("operate: cannot do: " + line + "\n", stderr), 2;
-        act->second(From_Utf8(line.substr(std::min(act->first.size() + 1, line.size()))));
+        try {
+            act->second(From_Utf8(line.substr(std::min(act->first.size() + 1, line.size()))));
+        } catch (const std::bad_alloc&) {  // a window goes on
+            desktop.Report({u"operate", "Not enough memory"});
+        }
     }
     return desktop.failed ? 1 : 0;
 }
@@ -92,6 +97,10 @@ int Work(std::istream& lines) {
 int main() {
     std::ostringstream lines;
     lines << std::cin.rdbuf();
+    if (std::ferror(stdin) != 0) {
+        Print_Failure({u"standard input", "cannot be read"});
+        return 1;
+    }
     std::istringstream input(lines.str());
-    return std::ferror(stdin) == 0 ? Work(input) : 1;
+    return Work(input);
 }
