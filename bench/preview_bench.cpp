@@ -11,6 +11,7 @@
 #include "desktop/text.h"
 #include "desktop/widgets.h"
 #include "generate/banners.h"
+#include "mainwindow/game_info.h"
 
 using namespace bannersmith;
 
@@ -26,7 +27,7 @@ struct Painted {
 
     QtDesktop desktop;
     Banner banner = Banner::From_Bytes(Seven_Language_Banner());
-    GameInfo info{banner, {}};
+    GameInfo info{banner, [](const Edit&) {}};
     Preview preview{desktop};
     QImage image{774, 488, QImage::Format_ARGB32_Premultiplied};
 };
