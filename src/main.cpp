@@ -2,7 +2,6 @@
 // windows, so that a batch run never pays for a toolkit.
 #include "mainwindow/run.h"
 #include "mainwindow/usage.h"
-#include "system/memory.h"
 #include "system/process.h"
 
 using namespace bannersmith;
@@ -24,6 +23,5 @@ int main(int argc, char** argv) {
     const std::u16string command_line = Command_Line(argc, argv);
     if (const auto status = Answer_About(command_line, "bannersmith", Usage)) return *status;
     if (command_line.empty()) return Start_Window(argv);
-    Take_Memory_At_Once();
     return Run_Batch_Mode(command_line);
 }
