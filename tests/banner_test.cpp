@@ -9,7 +9,9 @@
 #include "base/text.h"
 #include "generate/banners.h"
 #include "generate/layout_builder.h"
+#include "inspect/report.h"
 #include "layout/file_length.h"
+#include "layout/kind.h"
 #include "mainwindow/command_line.h"
 #include "plain_rules.h"
 #include "support.h"
@@ -121,6 +123,20 @@ TEST(Banner, IsEditedAsThePlainRulesSay) {
         if (plan) { ASSERT_EQ(Hex(plan->back().bytes), Hex(*expected)); }
         while (banner.Undo()) continue;
         ASSERT_EQ(Hex(banner.Bytes()), Hex(loaded));
+        if (!Is_Layout(data)) continue;
+        const LayoutInfo layout = Read_Layout(data);
+        Write_Json({"any", layout, Find_Warnings(data, layout)}, [](std::string_view) {});
+    }
+}
+
+/// What matters here is the run under sanitizers.
+TEST(Banner, ReadsNothingOutsideACutFile) {
+    for (const std::string& sample : {Neutral_Banner(), Banner_Without_Closing_Group(), Seven_Language_Banner()}) {
+        for (std::size_t size = 0; size < sample.size(); ++size) {
+            Banner banner = Banner::From_Bytes(sample.substr(0, size), {}, 0);
+            ASSERT_TRUE(banner.Apply(SetFieldEverywhere{Field::title, u"A longer name than before"}));
+            ASSERT_EQ(static_cast<bool>(banner.Plan_Save()), banner.Bytes().size() >= 12);
+        }
     }
 }
 

@@ -99,6 +99,13 @@ TEST(SetText, FollowsThePlainRulesOnRandomLayouts) {
     }
 }
 
-TEST(Padding, MayBeAsLongAsItsLimit) { EXPECT_EQ(Read_Padding(u"268435456")->count, 268435456U); }
+TEST(Padding, IsAWholeNumberUpToItsLimit) {
+    EXPECT_EQ(Read_Padding(u"268435456")->count, 268435456U);
+    EXPECT_TRUE(Read_Padding(u"+007")->append && Read_Padding(u"+007")->count == 7 && !Read_Padding(u"7")->append);
+    for (const std::u16string text :
+         {u"abc", u"+", u"-1", u"1.5", u"1 2", u"\u0661", u"268435457", u"+99999999999999999999"}) {
+        EXPECT_EQ(Read_Padding(text).Why().subject, u"Padding \"" + text + u"\"");
+    }
+}
 
 }  // namespace

@@ -6,8 +6,9 @@ namespace bannersmith {
 
 Result<> FileList::Set_Path(const std::u16string& folder) {
     auto names = List_Files(folder, ending_);
-    names_ = names ? *names : std::vector<std::u16string>();
+    names_.clear();
     if (!names) return names.Why();
+    names_ = std::move(*names);
     return {};
 }
 

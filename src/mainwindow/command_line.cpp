@@ -99,8 +99,8 @@ class Options {
         edits.push_back(ApplyScheme{Scheme_Path(program_folder_, value)});
     }
     void Pad(const std::u16string& value) { edits.push_back(SetPadding{value}); }
-    void Force(const std::u16string& value) {
-        const std::u16string code = Capitals(value);
+    void SetForce(const std::u16string& REG) {
+        const std::u16string code = Capitals(REG);
         const bool known =
             std::find(LanguageList.begin(), LanguageList.end(), code) != LanguageList.end();
         if (known) edits.push_back(ForceRegion{code});
@@ -121,7 +121,7 @@ class Options {
 
 const std::array<Options::Named, 9> Options::NamedOptions = {{
     {u"LOGO", 5, true, &Options::Logo},
-    {u"FORCE", 5, true, &Options::Force},
+    {u"FORCE", 5, true, &Options::SetForce},
     {u"COLOR", 6, true, &Options::Color},
     {u"TITLE", 6, true, &Options::Everywhere<Field::title>},
     {u"YEAR", 5, false, &Options::Everywhere<Field::year>},

@@ -43,7 +43,7 @@ class Form1 {
     /// What each save applies: a scheme and a logo, none for the first entry, and a forced
     /// language.
     DropDownList cmbFileList, cmbLogo, cmbForce;
-    /// The files listed last: of the schemes folder, and of the logos or the timg folder.
+    /// The files listed last: of the schemes folder and of the logos folder.
     FileList File1{".vccs"}, File2{".tpl"};
     Label lblLoaded;       ///< what is loaded: file, languages, size, unsaved changes
     Label lblLastCommand;  ///< what the last command changed

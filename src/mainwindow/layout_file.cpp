@@ -31,19 +31,24 @@ void Configuration::Store(const std::u16string& line) const {
     static_cast<void>(Replace_File(path_, stored + "\r\n"));
 }
 
+namespace {
+
+/// Of a path that names a folder nothing is loaded.
+OpenedLayout Load_Brlyt(const std::u16string& BrlytPath, const std::u16string& text,
+                        std::size_t history) {
+    if (Ends_In_Separator(BrlytPath)) return {};
+    auto banner = Banner::Load({BrlytPath, text}, history);
+    if (!banner) return {{}, banner.Why().reason};
+    return {std::move(*banner), {}};
+}
+
+}  // namespace
+
 OpenedLayout Open_Layout(const std::u16string& program_folder, const std::u16string& text,
                          std::size_t history) {
-    OpenedLayout opened;
-    const std::u16string path = Resolve(program_folder, text);
-    if (!Ordinary_File_Exists(path)) return opened;
-    if (!Ends_In_Separator(path)) {
-        auto banner = Banner::Load({path, text}, history);
-        if (banner) {
-            opened.banner = std::move(*banner);
-        } else {
-            opened.why_not = banner.Why().reason;
-        }
-    }
+    const std::u16string BrlytPath = Resolve(program_folder, text);
+    if (!Ordinary_File_Exists(BrlytPath)) return {};
+    OpenedLayout opened = Load_Brlyt(BrlytPath, text, history);
     Configuration(program_folder).Store(text);
     return opened;
 }
