@@ -133,10 +133,12 @@ class Banner {
         }
     }
 
-    std::string File(bool closing_group) const {
+    std::string File(bool closing_group,
+                     const std::vector<std::string>& textures = {"my_Back_logo.tpl", "my_VCPic.tpl",
+                                                                 "my_White.tpl"}) const {
         std::vector<std::string> sections = {
             Section("lyt1", ByteWriter().U8(1).Zeros(3).F32(608).F32(456).Data()),
-            Name_List_Section("txl1", {"my_Back_logo.tpl", "my_VCPic.tpl", "my_White.tpl"}),
+            Name_List_Section("txl1", textures),
             Name_List_Section("fnl1", {"wbf1.brfna"}),
             Material_Section(materials_.All()),
             Pane_Section("RootPane", {0, 0, 608, 456}),
@@ -178,6 +180,30 @@ std::string Seven_Language_Banner() {
         if (code != NoLanguage) banner.Add_Language(code);
     }
     return banner.File(true);
+}
+
+std::string Channel_Banner() {
+    Banner banner;
+    for (const std::u16string_view code : Languages) banner.Add_Language(code);
+    return banner.File(true, {"my_BackSample_a.tpl", "VCPic.tpl", "my_Shade_a.tpl"});
+}
+
+std::string Channel_Icon() {
+    const std::vector<Material> materials = {{"Back", {0, 0, 0, 0}, {255, 255, 255, 255}, 0},
+                                             {"IconVCPic", {0, 0, 0, 0}, {255, 255, 255, 255}, 1},
+                                             {"Logo", {0, 0, 0, 0}, {255, 255, 255, 255}, 2}};
+    return Layout_File({
+        Section("lyt1", ByteWriter().U8(1).Zeros(3).F32(608).F32(456).Data()),
+        Name_List_Section("txl1", {"Back_a.tpl", "IconVCPic.tpl", "LogoSample.tpl"}),
+        Material_Section(materials),
+        Pane_Section("RootPane", {0, 0, 608, 456}),
+        Empty_Section("pas1"),
+        Picture_Section("Back", 0, {0, 0, 128, 96}),
+        Picture_Section("IconVCPic", 1, {0, 0, 128, 96}),
+        Picture_Section("Logo", 2, {0, -28, 112, 32}),
+        Empty_Section("pae1"),
+        Group_Section("RootGroup", {}),
+    });
 }
 
 std::string Neutral_Banner() {

@@ -20,6 +20,11 @@ std::string German_Japanese_Banner();
 /// A banner in English whose last section is the empty root group.
 std::string Banner_Without_Closing_Group();
 
+/// The same texts as the first in the banner of a channel, whose textures have names as channels
+/// have them, and the channel's icon.
+std::string Channel_Banner();
+std::string Channel_Icon();
+
 /// A colour scheme of our own with its name.
 struct NamedScheme {
     std::u16string name;

@@ -10,6 +10,7 @@
 #include "base/text.h"
 #include "colors/scheme.h"
 #include "generate/banners.h"
+#include "generate/channel.h"
 #include "generate/texture.h"
 #include "system/replace_files.h"
 
@@ -94,6 +95,7 @@ void Write_Program_Folder(const fs::path& folder) {
     Write_Banner(samples, "all_languages_one_text", Neutral_Banner());
     Write_Banner(samples, "german_japanese", German_Japanese_Banner());
     Write_Banner(samples, "no_closing_group", Banner_Without_Closing_Group());
+    Write(samples / "channel" / "00000000.app", Sample_Channel());
     Write(logos / "Comet.tpl", Logo(TextureFormat::i4, Comet));
     Write(logos / "Diamonds.tpl", Logo(TextureFormat::ia8, Diamonds));
     Write(logos / "Rings.tpl", Logo(TextureFormat::i4, Rings));

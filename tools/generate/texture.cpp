@@ -27,8 +27,14 @@ void Append_Pixel(ByteWriter& out, TextureFormat format, const Pixel& p, const P
         case TextureFormat::i4:
             out.U8(Level(p.green, 15) << 4 | Level(next.green, 15));
             break;
+        case TextureFormat::ia4:
+            out.U8(Level(p.alpha, 15) << 4 | Level(p.green, 15));
+            break;
         case TextureFormat::ia8:
             out.U8(Level(p.alpha, 255)).U8(Level(p.green, 255));
+            break;
+        case TextureFormat::rgb565:
+            out.U16(Level(p.red, 31) << 11 | Level(p.green, 63) << 5 | Level(p.blue, 31));
             break;
         case TextureFormat::rgb5a3:
             out.U16(Rgb5a3(p));
@@ -50,11 +56,12 @@ std::string Texture_File(TextureFormat format, int width, int height,
     file.Align(DataOffset);
 
     const bool nibbles = format == TextureFormat::i4;  // two pixels a byte, in larger blocks
-    const int block = nibbles ? 8 : 4, step = nibbles ? 2 : 1;
-    for (int top = 0; top < height; top += block) {
-        for (int left = 0; left < width; left += block) {
-            for (int y = top; y < top + block; ++y) {
-                for (int x = left; x < left + block; x += step) {
+    const bool bytes = format == TextureFormat::ia4;
+    const int across = nibbles || bytes ? 8 : 4, down = nibbles ? 8 : 4, step = nibbles ? 2 : 1;
+    for (int top = 0; top < height; top += down) {
+        for (int left = 0; left < width; left += across) {
+            for (int y = top; y < top + down; ++y) {
+                for (int x = left; x < left + across; x += step) {
                     Append_Pixel(file, format, pixel(x, y), pixel(x + step - 1, y));
                 }
             }

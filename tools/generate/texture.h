@@ -8,7 +8,7 @@
 namespace bannersmith {
 
 /// The image formats made here, by their numbers in the file.
-enum class TextureFormat { i4 = 0, ia8 = 3, rgb5a3 = 5 };
+enum class TextureFormat { i4 = 0, ia4 = 2, ia8 = 3, rgb565 = 4, rgb5a3 = 5 };
 
 /// One pixel: grey or colour, and opacity, each 0 to 1. Formats without colour take the green.
 struct Pixel {

@@ -1,0 +1,283 @@
+#include "container/lz77.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <vector>
+
+namespace bannersmith {
+
+namespace {
+
+using namespace std::string_view_literals;
+
+constexpr auto Tag = "LZ77"sv;
+constexpr auto FirstOfU8 = "\x55\xAA\x38\x2D"sv;
+constexpr std::size_t Window = 4096, ShortestCopy = 3, LongestShort = 18;
+constexpr std::size_t LongestTwo = 16, LongestThree = 0x110, LongestFour = 0x10110;
+
+unsigned Byte(std::string_view bytes, std::size_t at) {
+    return static_cast<unsigned char>(bytes[at]);
+}
+
+/// Behind the tag: the size, and where the groups begin.
+struct Header {
+    std::size_t size = 0, end = 0;
+};
+
+std::optional<Header> Read_Header(std::string_view stream) {
+    std::size_t at = stream.starts_with(Tag) ? Tag.size() : 0;
+    if (stream.size() < at + 4) return std::nullopt;
+    std::size_t size =
+        Byte(stream, at + 1) | Byte(stream, at + 2) << 8 | Byte(stream, at + 3) << 16;
+    at += 4;
+    if (size != 0 || stream.size() < at + 4) return Header{size, at};
+    for (std::size_t i = 4; i-- > 0;) size = size << 8 | Byte(stream, at + i);
+    return Header{size, at + 4};
+}
+
+struct Copy {
+    std::size_t length = 0, distance = 0, stored = 0;  ///< `stored`: bytes that say so
+};
+
+/// How many bytes a copy whose first byte is `first` takes.
+std::size_t Stored_Size(Lz77Form::Type type, unsigned first) {
+    if (type == Lz77Form::short_copies || first >> 4 > 1) return 2;
+    return first >> 4 == 0 ? 3 : 4;
+}
+
+/// A copy, all of whose bytes are there.
+Copy Read_Copy(Lz77Form::Type type, std::string_view bytes) {
+    const unsigned first = Byte(bytes, 0), high = first >> 4, low = first & 15;
+    const std::size_t stored = Stored_Size(type, first);
+    const std::size_t distance =
+        ((Byte(bytes, stored - 2) & 15U) << 8 | Byte(bytes, stored - 1)) + 1;
+    if (type == Lz77Form::short_copies) return {high + ShortestCopy, distance, stored};
+    if (stored == 2) return {high + 1, distance, stored};
+    if (stored == 3) return {(low << 4 | Byte(bytes, 1) >> 4) + LongestTwo + 1, distance, stored};
+    const std::size_t length = low << 12 | Byte(bytes, 1) << 4 | Byte(bytes, 2) >> 4;
+    return {length + LongestThree + 1, distance, stored};
+}
+
+void Append_Copy(std::string& bytes, const Copy& copy) {
+    const std::size_t from = bytes.size() - copy.distance;
+    if (copy.distance >= copy.length) {
+        bytes.append(bytes, from, copy.length);
+        return;
+    }
+    for (std::size_t i = 0; i < copy.length; ++i) bytes += bytes[from + i];
+}
+
+Failure Broken(const char* reason) {
+    return {u"", std::string("LZ77 stream ") + reason};
+}
+
+/// Appends what the token at `at` stands for, at most `room` bytes, and moves `at` behind it.
+Result<> Read_Token(Lz77Form::Type type, std::string_view stream, bool is_copy, std::size_t room,
+                    std::size_t& at, std::string& bytes) {
+    if (at == stream.size()) return Broken("ends too early");
+    if (!is_copy) {
+        bytes += stream[at++];
+        return {};
+    }
+    const std::size_t stored = Stored_Size(type, Byte(stream, at));
+    if (stream.size() - at < stored) return Broken("ends too early");
+    const Copy copy = Read_Copy(type, stream.substr(at, stored));
+    if (copy.distance > bytes.size()) return Broken("copies from before its start");
+    if (copy.length > room) return Broken("holds more than it says");
+    Append_Copy(bytes, copy);
+    at += stored;
+    return {};
+}
+
+/// Where the groups that begin at `at` end; they are appended to `bytes` until there are `size`.
+Result<std::size_t> Read_Groups(Lz77Form::Type type, std::string_view stream, std::size_t at,
+                                std::size_t size, std::string& bytes) {
+    while (bytes.size() < size) {
+        if (at == stream.size()) return Broken("ends too early");
+        const unsigned flags = Byte(stream, at++);
+        for (unsigned bit = 0x80; bit != 0 && bytes.size() < size; bit >>= 1) {
+            const bool is_copy = (flags & bit) != 0;
+            auto read = Read_Token(type, stream, is_copy, size - bytes.size(), at, bytes);
+            if (!read) return read.Why();
+        }
+    }
+    return at;
+}
+
+/// Collects tokens into groups.
+class GroupWriter {
+ public:
+    explicit GroupWriter(std::string& stream) : stream_(stream) {}
+
+    void Literal(char byte) {
+        Begin_Token(false);
+        stream_ += byte;
+    }
+
+    void Copy_From(Lz77Form::Type type, std::size_t length, std::size_t distance) {
+        Begin_Token(true);
+        const std::size_t back = distance - 1;
+        if (type == Lz77Form::short_copies) {
+            Put(((length - ShortestCopy) << 12) | back, 2);
+        } else if (length <= LongestTwo) {
+            Put((length - 1) << 12 | back, 2);
+        } else if (length <= LongestThree) {
+            Put((length - LongestTwo - 1) << 12 | back, 3);
+        } else {
+            Put(std::size_t{1} << 28 | (length - LongestThree - 1) << 12 | back, 4);
+        }
+    }
+
+ private:
+    void Begin_Token(bool is_copy) {
+        if (bit_ == 0) {
+            flags_at_ = stream_.size();
+            stream_ += '\0';
+            bit_ = 0x80;
+        }
+        if (is_copy) stream_[flags_at_] = static_cast<char>(stream_[flags_at_] | bit_);
+        bit_ >>= 1;
+    }
+
+    void Put(std::size_t number, unsigned count) {
+        while (count-- > 0) stream_ += static_cast<char>(number >> 8 * count);
+    }
+
+    std::string& stream_;
+    std::size_t flags_at_ = 0;
+    int bit_ = 0;
+};
+
+struct Match {
+    std::size_t length = 0, distance = 0;
+};
+
+/// Finds the longest match among the places of the window that begin with the same three bytes, the
+/// nearest first, a bounded number of them, so that the time is linear in the bytes.
+class MatchFinder {
+ public:
+    /// Of a match that is as long no better one is looked for.
+    static constexpr std::size_t GoodEnough = 0x110;
+
+    MatchFinder(std::string_view bytes, std::size_t longest)
+        : bytes_(bytes), longest_(longest), newest_(std::size_t{1} << HashBits, Nowhere) {
+        older_.fill(Nowhere);
+    }
+
+    /// The best match for the bytes at `at`, which never becomes smaller; none where fewer than
+    /// three bytes match.
+    Match Find(std::size_t at) {
+        Enter_Up_To(at);
+        Match best;
+        const std::size_t room = std::min(longest_, bytes_.size() - at);
+        if (room < ShortestCopy) return best;
+        std::size_t place = newest_[Hash(at)];
+        for (unsigned tries = 0; tries < MostTries && place != Nowhere && at - place <= Window;
+             ++tries, place = older_[place % Window]) {
+            const std::size_t length = Common(place, at, room, best.length);
+            if (length > best.length) best = {length, at - place};
+            if (length >= std::min(room, GoodEnough)) break;
+        }
+        return best.length < ShortestCopy ? Match() : best;
+    }
+
+ private:
+    static constexpr std::size_t Nowhere = ~std::size_t{0};
+    static constexpr unsigned HashBits = 13, MostTries = 256;
+
+    std::size_t Hash(std::size_t at) const {
+        const std::uint32_t three =
+            Byte(bytes_, at) << 16 | Byte(bytes_, at + 1) << 8 | Byte(bytes_, at + 2);
+        return three * 0x9E3779B1U >> (32 - HashBits);
+    }
+
+    /// Makes the places in front of `at` known.
+    void Enter_Up_To(std::size_t at) {
+        for (; entered_ < at && entered_ + ShortestCopy <= bytes_.size(); ++entered_) {
+            std::size_t& newest = newest_[Hash(entered_)];
+            older_[entered_ % Window] = newest;
+            newest = entered_;
+        }
+    }
+
+    /// How many bytes at `place` and `at` are the same, up to `room`; 0 where there are not more
+    /// than `known`.
+    std::size_t Common(std::size_t place, std::size_t at, std::size_t room,
+                       std::size_t known) const {
+        if (known < room && bytes_[place + known] != bytes_[at + known]) return 0;
+        std::size_t length = 0;
+        while (length < room && bytes_[place + length] == bytes_[at + length]) ++length;
+        return length;
+    }
+
+    std::string_view bytes_;
+    std::size_t longest_, entered_ = 0;
+    std::vector<std::size_t> newest_;          ///< by hash
+    std::array<std::size_t, Window> older_{};  ///< by place: the one before with the same hash
+};
+
+void Append_Header(std::string& stream, std::size_t size, Lz77Form form) {
+    if (form.tagged) stream += Tag;
+    const bool fits = size != 0 && size < std::size_t{1} << 24;
+    stream += static_cast<char>(form.type);
+    for (unsigned i = 0; i < 3; ++i) stream += static_cast<char>(fits ? size >> 8 * i : 0);
+    for (unsigned i = 0; !fits && i < 4; ++i) stream += static_cast<char>(size >> 8 * i);
+}
+
+}  // namespace
+
+std::optional<Lz77Form> Lz77_Form_Of(std::string_view bytes) {
+    const bool tagged = bytes.starts_with(Tag);
+    const std::string_view header = bytes.substr(tagged ? Tag.size() : 0);
+    if (header.size() < 4) return std::nullopt;
+    const auto type = static_cast<Lz77Form::Type>(header[0]);
+    if (type != Lz77Form::short_copies && type != Lz77Form::long_copies) return std::nullopt;
+    const bool holds_u8 = header.size() >= 9 && (Byte(header, 4) & 0xF0U) == 0 &&
+                          header.substr(5).starts_with(FirstOfU8);
+    if (!tagged && !holds_u8) return std::nullopt;
+    return Lz77Form{tagged, type};
+}
+
+std::optional<std::size_t> Lz77_Declared_Size(std::string_view stream) {
+    const auto header = Read_Header(stream);
+    if (!header) return std::nullopt;
+    return header->size;
+}
+
+Result<Lz77Contents> Lz77_Decompress(std::string_view bytes) {
+    const auto form = Lz77_Form_Of(bytes);
+    const auto header = Read_Header(bytes);
+    if (!form) return Broken("is of an unknown kind");
+    if (!header) return Broken("ends too early");
+    if (header->size > MostLz77Size) return Broken("says that it holds more than 32 MiB");
+    Lz77Contents contents;
+    constexpr std::size_t MostPerByte = 9;  // of short copies
+    contents.bytes.reserve(std::min(header->size, MostPerByte * bytes.size()));
+    const auto end = Read_Groups(form->type, bytes, header->end, header->size, contents.bytes);
+    if (!end) return end.Why();
+    contents.stream_size = *end;
+    return contents;
+}
+
+std::string Lz77_Compress(std::string_view bytes, Lz77Form form) {
+    std::string stream;
+    Append_Header(stream, bytes.size(), form);
+    MatchFinder finder(bytes, form.type == Lz77Form::short_copies ? LongestShort : LongestFour);
+    GroupWriter writer(stream);
+    std::size_t at = 0;
+    for (Match match = finder.Find(0); at < bytes.size();) {
+        const Match next = match.length < MatchFinder::GoodEnough ? finder.Find(at + 1) : Match();
+        if (match.length == 0 || next.length > match.length) {
+            writer.Literal(bytes[at++]);
+            match = next;
+        } else {
+            writer.Copy_From(form.type, match.length, match.distance);
+            at += match.length;
+            match = finder.Find(at);
+        }
+    }
+    return stream;
+}
+
+}  // namespace bannersmith

@@ -1,0 +1,225 @@
+#include "generate/channel.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+#include "container/md5.h"
+#include "container/part.h"
+#include "generate/animation.h"
+#include "generate/banners.h"
+#include "generate/layout_builder.h"
+#include "generate/texture.h"
+
+namespace bannersmith {
+
+namespace {
+
+constexpr std::size_t Alignment = 32;
+
+/// Collects nodes and names in the order of a walk through the folders.
+class U8Builder {
+ public:
+    explicit U8Builder(const std::vector<PackedFile>& files) : files_(files) {
+        Add_Node(true, "");
+        Add_Folder("", 0, 0);
+    }
+
+    std::string Archive() const {
+        const std::size_t table = nodes_.size() * 12 + names_.Data().size();
+        const std::size_t data = (0x20 + table + Alignment - 1) / Alignment * Alignment;
+        ByteWriter contents, out;
+        out.U32(0x55AA382D).U32(0x20).U32(Word(table)).U32(Word(data)).Zeros(16);
+        for (const Node& node : nodes_) {
+            const std::size_t place = data + contents.Align(Alignment).Data().size();
+            out.U32(Word(node.name | (node.is_folder ? 1U << 24 : 0)));
+            out.U32(Word(node.is_folder ? node.parent : place));
+            out.U32(Word(node.is_folder ? node.end : files_[node.file].bytes.size()));
+            if (!node.is_folder) contents.Bytes(files_[node.file].bytes);
+        }
+        out.Bytes(names_.Data()).Align(Alignment);
+        return out.Bytes(contents.Align(Alignment).Data()).Data();
+    }
+
+ private:
+    struct Node {
+        bool is_folder;
+        std::size_t name, parent, end, file;
+    };
+
+    static std::uint32_t Word(std::size_t number) { return static_cast<std::uint32_t>(number); }
+
+    std::size_t Add_Node(bool is_folder, std::string_view name, std::size_t parent = 0,
+                         std::size_t file = 0) {
+        nodes_.push_back({is_folder, names_.Data().size(), parent, 0, file});
+        names_.Bytes(name).Zeros(1);
+        return nodes_.size() - 1;
+    }
+
+    /// The files from `file` on whose paths begin with `folder`; returns the first that does not.
+    std::size_t Add_Folder(const std::string& folder, std::size_t node, std::size_t file) {
+        while (file < files_.size() && files_[file].path.starts_with(folder)) {
+            const std::string rest = files_[file].path.substr(folder.size());
+            const std::size_t slash = rest.find('/');
+            if (slash == rest.npos) {
+                Add_Node(false, rest, node, file++);
+            } else {
+                const std::size_t inner = Add_Node(true, rest.substr(0, slash), node);
+                file = Add_Folder(folder + rest.substr(0, slash + 1), inner, file);
+            }
+        }
+        nodes_[node].end = nodes_.size();
+        return file;
+    }
+
+    const std::vector<PackedFile>& files_;
+    std::vector<Node> nodes_;
+    ByteWriter names_;
+};
+
+Pixel Grey(double light) {
+    return {light, light, light, light};
+}
+
+/// A hill under a starry sky, the game's picture.
+Pixel Game_Picture(int x, int y, int width) {
+    const double across = 1.0 * x / width, down = 4.0 * y / (3 * width);
+    const double hill = 0.75 + 0.12 * std::sin(across * 2 * std::numbers::pi);
+    const bool star = (x * 7919 + y * 104729) % 997 == 0;
+    if (down > hill) return {0.1, 0.35 + 0.2 * (down - hill), 0.15, 1};
+    if (star) return {1, 1, 0.9, 1};
+    return {0.1 + 0.3 * down, 0.1 + 0.2 * down, 0.35 + 0.3 * down, 1};
+}
+
+std::string Texture(const std::string& name) {
+    using enum TextureFormat;
+    if (name == "VCPic") {
+        return Texture_File(rgb565, 256, 192, [](int x, int y) { return Game_Picture(x, y, 256); });
+    }
+    if (name == "IconVCPic") {
+        return Texture_File(rgb565, 128, 96, [](int x, int y) { return Game_Picture(x, y, 128); });
+    }
+    if (name == "LogoSample") {
+        return Texture_File(rgb5a3, 112, 32, [](int x, int y) {
+            const bool inside = (x / 4 + y / 4) % 3 != 0;
+            return Pixel{0.9, 0.4, 0.1 + x / 224.0, inside ? 1.0 : 0.0};
+        });
+    }
+    if (name == "my_VCLine_e") {
+        return Texture_File(ia4, 128, 64, [](int x, int y) {
+            return Pixel{0, x / 127.0, 0, y / 63.0};
+        });
+    }
+    if (name == "my_BackSample_a") {
+        return Texture_File(i4, 512, 64, [](int x, int y) {
+            const double distance = std::hypot(x % 64 - 32, y - 32);
+            return Grey(std::clamp(0.5 - std::abs(distance - 20) + 4, 0.0, 1.0));
+        });
+    }
+    const int width = name == "my_TVW_a" ? 128 : name == "my_Grad_b" ? 8 : 32;
+    const int height = name == "my_TVW_a" ? 128 : 32;
+    return Texture_File(i4, width, height,
+                        [=](int x, int y) { return Grey(1.0 * (y + x % 2) / height); });
+}
+
+void Add_Textures(std::vector<PackedFile>& files, const std::vector<std::string>& names) {
+    for (const std::string& name : names) {
+        files.push_back({"arc/timg/" + name + ".tpl", Texture(name)});
+    }
+}
+
+std::string Banner_Content() {
+    const std::vector<Curve> start = {
+        {"VCPic", false, "RLVC", 16, {{0, 0, 0}, {60, 0, 0}, {120, 255, 0}}},
+        {"VCPic", false, "RLPA", 0, {{0, 400, 0}, {120, 120, 0}}},
+    };
+    const std::vector<Curve> loop = {
+        {"VCPic", false, "RLVC", 16, {{0, 255, 0}, {3998, 255, 0}}},
+        {"VCPic", false, "RLPA", 1, {{0, 20, 0}, {2000, 24, 0}, {3998, 20, 0}}},
+        {"Back0", true, "RLTS", 0, {{0, 0, 0}, {3998, 4, 0}}},
+    };
+    std::string layout = Channel_Banner();
+    layout.resize(12000, '\0');  // the room that channels reserve
+    std::vector<PackedFile> files = {
+        {"arc/anim/banner_Loop.brlan", Animation_File(3999, true, loop)},
+        {"arc/anim/banner_Start.brlan", Animation_File(211, false, start)},
+        {"arc/blyt/banner.brlyt", layout},
+    };
+    Add_Textures(files, {"my_BackSample_a", "my_Beta16x16_a", "my_Grad_b", "my_Shade_a", "my_TVW_a",
+                         "my_VCLine_e", "VCPic"});
+    return U8_Archive(files);
+}
+
+std::string Icon_Content() {
+    const std::vector<Curve> curves = {
+        {"IconVCPic", false, "RLVC", 16, {{0, 255, 0}, {300, 128, 0}, {599, 255, 0}}}};
+    std::vector<PackedFile> files = {
+        {"arc/anim/icon.brlan", Animation_File(600, true, curves)},
+        {"arc/blyt/icon.brlyt", Channel_Icon()},
+    };
+    Add_Textures(files, {"Back_a", "IconVCPic", "LogoSample"});
+    return U8_Archive(files);
+}
+
+/// Three seconds of nothing.
+std::string Silence() {
+    constexpr unsigned InfoSize = 0xA0, Rate = 32000, Samples = 3 * Rate / 14 * 14;
+    constexpr std::size_t DataSize = 8 + Samples / 14 * 8;
+    ByteWriter info, file;
+    info.Bytes("INFO").U32(InfoSize).U8(0).U8(0).U8(1).U8(0).U16(Rate).U16(0).U32(0).U32(Samples);
+    info.U32(0x18).U32(0).U32(0x1C).U32(0).U32(0x28).U32(0).Zeros(InfoSize - 0x34);
+    file.Bytes("BNS ").U32(0xFEFF0100).U32(0x20 + InfoSize + DataSize).U16(0x20).U16(2);
+    file.U32(0x20).U32(InfoSize).U32(0x20 + InfoSize).U32(DataSize).Bytes(info.Data());
+    return file.Bytes("DATA").U32(DataSize).Zeros(DataSize - 8).Data();
+}
+
+/// The slots that are nobody's here stay empty.
+ChannelNames Sample_Names() {
+    ChannelNames names;
+    names[0][0] = u"\u661F\u5C4A\u3051\u4EBA\u306E\u65C5";
+    for (std::size_t language = 1; language < 7; ++language) {
+        names[language][0] = u"Starlight Courier";
+        names[language][1] = u" ";
+    }
+    names[2][0] = u"Der Sternenbote";
+    names[2][1] = u"Die Reise beginnt";
+    return names;
+}
+
+}  // namespace
+
+std::string Sample_Channel() {
+    const std::string banner = Banner_Content(), icon = Icon_Content(), sound = Silence();
+    return Channel_File("sample/0000000001", Sample_Names(),
+                        {icon.size(), banner.size(), sound.size()},
+                        U8_Archive({{"meta/banner.bin", Channel_Part(banner)},
+                                    {"meta/icon.bin", Channel_Part(icon)},
+                                    {"meta/sound.bin", Channel_Part(sound)}}));
+}
+
+std::string U8_Archive(const std::vector<PackedFile>& files) {
+    return U8Builder(files).Archive();
+}
+
+std::string Channel_Part(std::string_view content) {
+    ByteWriter payload, part;
+    payload.Bytes(Lz77_Compress(content, {})).Align(4);
+    part.Bytes("IMD5").U32(static_cast<std::uint32_t>(payload.Data().size())).Zeros(8);
+    return part.Bytes(Md5(payload.Data())).Bytes(payload.Data()).Data();
+}
+
+std::string Channel_File(std::string_view build_tag, const ChannelNames& names,
+                         const PartSizes& sizes, std::string_view archive) {
+    ByteWriter header;
+    header.Zeros(0x40).Bytes("IMET").U32(0x600).U32(3).Zeros(0x600 - 0x4C);
+    std::string block = header.Data();
+    for (std::size_t language = 0; language < names.size(); ++language) {
+        for (std::size_t line = 0; line < NameLines; ++line) {
+            block = With_Name(std::move(block), language, line, names[language][line]);
+        }
+    }
+    ByteWriter file;
+    return file.Name(build_tag, 64).Bytes(Sealed(block, sizes)).Bytes(archive).Data();
+}
+
+}  // namespace bannersmith
