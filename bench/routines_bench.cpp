@@ -42,7 +42,7 @@ void SaveSequence(benchmark::State& state) {
     const Banner banner = Banner::From_Bytes(Layout(state));
     for (auto _ : state) {
         const auto plan = banner.Plan_Save();
-        benchmark::DoNotOptimize(plan->back().bytes.data());
+        benchmark::DoNotOptimize(plan->files.back().bytes.data());
     }
 }
 

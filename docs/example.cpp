@@ -12,7 +12,7 @@ int main(int argc, char** argv) {
                           SetField{Field::title, u"GER", u"Kometenjagd"},
                           SetFieldEverywhere{Field::year, u"1994"}};
     for (int i = 1; i < argc; ++i) {
-        auto banner = Banner::Load(FolderSource(From_Utf8(argv[i])));
+        auto banner = Banner::Load(BannerSource(From_Utf8(argv[i])));
         if (!banner) return std::puts(One_Line(banner.Why()).c_str()), 1;
         for (const Edit& edit : edits) {
             if (const auto done = banner->Apply(edit); !done) return 1;

@@ -13,7 +13,7 @@ using namespace bannersmith;
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* bytes, std::size_t size) {
     static const std::string file = Banner_Without_Closing_Group();
     const std::u16string text = u"-" + From_Utf8({reinterpret_cast<const char*>(bytes), size});
-    Banner banner = Banner::From_Bytes(file, FolderSource(u"/nowhere/x"));
+    Banner banner = Banner::From_Bytes(file, BannerSource(u"/nowhere/x"));
     bool failed = false;
     for (const Edit& edit : ParseClo(text, u"/nowhere").edits) {
         const auto applied = banner.Apply(edit);
@@ -24,6 +24,6 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* bytes, std::size_t si
     const auto plan = banner.Plan_Save();
     const auto expected = plain::Batch(file, text);
     // The plain rules are told for bytes and for no more padding than a fuzzer should make.
-    if (plan && expected && plan->back().bytes != *expected) std::abort();
+    if (plan && expected && plan->Layout() != *expected) std::abort();
     return 0;
 }

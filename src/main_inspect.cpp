@@ -4,8 +4,10 @@
 #include <string>
 #include <vector>
 
+#include "banner/source.h"
 #include "base/message.h"
 #include "base/text.h"
+#include "inspect/extract.h"
 #include "inspect/report.h"
 #include "inspect/warnings.h"
 #include "layout/kind.h"
@@ -19,10 +21,15 @@ namespace {
 
 constexpr char Usage[] =
     "usage: bannersmith-inspect [--json] FILE...\n"
+    "       bannersmith-inspect --extract FOLDER FILE\n"
     "       bannersmith-inspect --help | --version\n"
     "\n"
-    "Shows each layout file's lengths, text boxes, material colours and groups, and\n"
-    "warns of everything that an edit would not rewrite cleanly. Changes nothing.\n"
+    "Shows each layout's lengths, text boxes, material colours and groups, for one in\n"
+    "an archive also its files and the channel's names, and warns of everything that\n"
+    "an edit would not rewrite cleanly. Changes nothing.\n"
+    "\n"
+    "  --json             write one JSON array for all files\n"
+    "  --extract FOLDER   write the files of an archive, unpacked, below FOLDER\n"
     "\n"
     "Exit status: 0 no warning; 1 a warning, or the output cannot be written; 2 a\n"
     "file that cannot be read or is no layout.\n";
@@ -50,22 +57,40 @@ class StandardOutput {
     bool written_ = true;
 };
 
+/// The layout of a file, which may be an archive.
+struct Opened {
+    std::string data;
+    std::optional<Archive> archive;
+};
+
+Result<Opened> Open(const std::u16string& file) {
+    auto data = Read_File(Layout_File_Of(file)).About(file);
+    if (!data) return data.Why();
+    if (Is_Layout(*data)) return Opened{std::move(*data), {}};
+    if (Is_Program(*data)) return Failure{file, "Is a program, not a layout file"};
+    if (!Archive::Begins_As_One(*data)) return Failure{file, "Not a layout file"};
+    auto archive = Archive::Read(std::move(*data)).About(file);
+    if (!archive) return archive.Why();
+    const std::string layout(archive->Layout());
+    if (!Is_Layout(layout)) return Failure{file, archive->Layout_Path() + ": Not a layout file"};
+    return Opened{layout, std::move(*archive)};
+}
+
 /// Writes the report of a file behind `before`. Returns the file's exit status.
 Result<int> Inspect(const std::u16string& file, bool json, const char* before,
                     StandardOutput& output) {
     try {
-        const auto data = Read_File(file);
-        if (!data) return data.Why();
-        if (!Is_Layout(*data)) {
-            const std::string_view kind = Not_To_Be_Edited(*data);
-            return Failure{file, std::string(kind.empty() ? "Not a layout file" : kind)};
-        }
-        FileReport report{To_Utf8(file), Read_Layout(*data), {}};
-        report.warnings = Find_Warnings(*data, report.info);
+        const auto opened = Open(file);
+        if (!opened) return opened.Why();
+        FileReport report{To_Utf8(file), {}, Read_Layout(opened->data), {}};
+        report.warnings = Find_Warnings(opened->data, report.info);
+        if (opened->archive) report.archive = Read_Archive_Info(*opened->archive);
         output.Write(before);
         const auto write = [&](std::string_view text) { output.Write(text); };
         json ? Write_Json(report, write) : Write_Text(report, write);
-        return report.warnings.empty() ? Clean : Warned;
+        const bool warned =
+            !report.warnings.empty() || (report.archive && !report.archive->warnings.empty());
+        return warned ? Warned : Clean;
     } catch (const std::bad_alloc&) {
         return Failure{file, "Not enough memory"};
     }
@@ -92,6 +117,16 @@ int Inspect_All(const std::vector<std::u16string>& files, bool json) {
     return Warned;
 }
 
+int Extract(const std::u16string& folder, const std::u16string& file) {
+    const auto opened = Open(file);
+    const auto extracted = !opened            ? Result<>(opened.Why())
+                           : !opened->archive ? Failure{file, "Is no archive"}
+                                              : Extract_Files(*opened->archive, folder);
+    if (extracted) return Clean;
+    Print("bannersmith-inspect: " + One_Line(extracted.Why()) + "\n", stderr);
+    return opened && opened->archive ? Warned : NotRead;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -100,6 +135,7 @@ int main(int argc, char** argv) {
     if (files.size() == 1 && files[0] == u"--version") {
         return Print("bannersmith-inspect " BANNERSMITH_VERSION "\n", stdout) ? 0 : 1;
     }
+    if (files.size() == 3 && files[0] == u"--extract") return Extract(files[1], files[2]);
     const bool json = std::erase(files, u"--json") > 0;
     if (files.empty()) return Print(Usage, stderr), 2;
     return Inspect_All(files, json);

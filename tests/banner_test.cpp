@@ -8,6 +8,7 @@
 
 #include "base/text.h"
 #include "generate/banners.h"
+#include "generate/channel.h"
 #include "generate/layout_builder.h"
 #include "inspect/report.h"
 #include "layout/file_length.h"
@@ -106,7 +107,7 @@ TEST(Banner, IsEditedAsThePlainRulesSay) {
         const std::string data = Any_File();
         const std::u16string line = Any_Line();
         SCOPED_TRACE("round " + std::to_string(round) + ": " + To_Utf8(line) + "\n" + Hex(data));
-        Banner banner = Banner::From_Bytes(data, FolderSource(folder.Text() + u"/a/b/c"));
+        Banner banner = Banner::From_Bytes(data, BannerSource(folder.Text() + u"/a/b/c"));
         const std::string loaded = banner.Bytes();
         for (const Edit& edit : ParseClo(line, folder.Text()).edits) {
             const std::string before = banner.Bytes();
@@ -120,13 +121,48 @@ TEST(Banner, IsEditedAsThePlainRulesSay) {
         const auto plan = banner.Plan_Save();
         const auto expected = loaded.size() < 12 ? std::nullopt : plain::Batch(data, line, scheme);
         ASSERT_EQ(static_cast<bool>(plan), expected.has_value());
-        if (plan) { ASSERT_EQ(Hex(plan->back().bytes), Hex(*expected)); }
+        if (plan) { ASSERT_EQ(Hex(std::string(plan->Layout())), Hex(*expected)); }
         while (banner.Undo()) continue;
         ASSERT_EQ(Hex(banner.Bytes()), Hex(loaded));
         if (!Is_Layout(data)) continue;
         const LayoutInfo layout = Read_Layout(data);
-        Write_Json({"any", layout, Find_Warnings(data, layout)}, [](std::string_view) {});
+        Write_Json({"any", {}, layout, Find_Warnings(data, layout)}, [](std::string_view) {});
     }
+}
+
+TEST(Banner, IsEditedInItsArchiveAsInAFolder) {
+    const TempFolder folder;
+    const std::string file = Sample_Channel();
+    folder.Write("arc/blyt/banner.brlyt", Archive::Read(file)->Layout());
+    folder.Write("arc/timg/my_BackX.tpl", "old");
+    folder.Write("00000000.app", file);
+    folder.Write("logo.tpl", "new logo");
+    for (const std::u16string path : {u"/arc/blyt/banner.brlyt", u"/00000000.app"}) {
+        Banner banner = *Banner::Load(BannerSource(folder.Text() + path));
+        const bool packed = banner.Source().Packed_In() != nullptr;
+        for (const Edit& edit : ParseClo(u"-TITLE One-YEAR 1999-FORCE ITA-PAD +4", u"/").edits) {
+            ASSERT_TRUE(banner.Apply(edit));
+        }
+        ASSERT_TRUE(banner.Apply(ReplaceLogo{folder.Text() + u"/logo.tpl"}));
+        EXPECT_EQ(static_cast<bool>(banner.Apply(SetChannelName{u"GER", 1, u"Neu"})), packed);
+        EXPECT_FALSE(banner.Apply(SetChannelName{u"GER", 0, std::u16string(21, u'x')}));
+        const auto plan = banner.Plan_Save();
+        EXPECT_EQ(plan->files.size(), packed ? 1U : 2U);
+        EXPECT_FALSE(banner.Was_Changed_Elsewhere());
+        ASSERT_TRUE(banner.Save(*plan));
+        EXPECT_TRUE(banner.Was_Changed_Elsewhere());
+    }
+    const Archive saved = *Archive::Read(folder.Read("00000000.app"));
+    EXPECT_EQ(saved.Warnings(), std::vector<std::string>());
+    EXPECT_EQ(Hex(saved.Layout()), Hex(folder.Read("arc/blyt/banner.brlyt")));
+    EXPECT_EQ(*saved.Find_File(*saved.Find_Texture("my_Back")), folder.Read("arc/timg/my_BackX.tpl"));
+    EXPECT_EQ((*saved.Names())[2], (std::array<std::u16string, 2>{u"Der Sternenbote", u"Neu"}));
+    Banner same = *Banner::Load(BannerSource(folder.Text() + u"/00000000.app"));
+    EXPECT_TRUE(same.Plan_Save()->files[0].bytes == folder.Read("00000000.app")) << "no edit, no change";
+    ASSERT_TRUE(same.Apply(SetChannelName{u"KOR", 0, u"x"}));
+    EXPECT_TRUE(same.Has_Unsaved_Changes());
+    same.Undo();
+    EXPECT_FALSE(same.Has_Unsaved_Changes());
 }
 
 /// What matters here is the run under sanitizers.
@@ -168,7 +204,7 @@ TEST(Banner, EightThreadsEditAndSaveEightEach) {
     };
     const auto work = [&](std::size_t thread) {
         for (int number = 0; number < 8; ++number) {
-            auto banner = Banner::Load(FolderSource(folder.Text() + u"/" + From_Utf8(path(thread, number))));
+            auto banner = Banner::Load(BannerSource(folder.Text() + u"/" + From_Utf8(path(thread, number))));
             ASSERT_TRUE(banner);
             for (const Edit& edit :
                  ParseClo(u"-TITLE One -YEAR 1999 -COLOR s -FORCE JPN -PAD 0", folder.Text()).edits) {
@@ -208,7 +244,7 @@ TEST(Banner, KeepsHistoryWithinItsBound) {
     Banner unremembered = Banner::From_Bytes(file, {}, 0);
     ASSERT_TRUE(unremembered.Apply(WriteBox{u"T_PF", u"other"}));
     EXPECT_FALSE(unremembered.Undo());
-    EXPECT_EQ(unremembered.Plan_Save()->back().bytes.size(), std::max(file.size(), unremembered.Bytes().size()));
+    EXPECT_EQ(unremembered.Plan_Save()->Layout().size(), std::max(file.size(), unremembered.Bytes().size()));
 }
 
 }  // namespace

@@ -35,7 +35,7 @@ std::vector<std::string> Boxes_To_Rewrite() {
 
 /// What `work` returns, or a lack of memory as a failure of `source`.
 template <typename Work>
-auto Within_Memory(const FolderSource& source, Work work) -> decltype(work()) {
+auto Within_Memory(const BannerSource& source, Work work) -> decltype(work()) {
     try {
         return work();
     } catch (const std::bad_alloc&) {
@@ -50,6 +50,7 @@ bool Banner::State::operator==(const State& other) const {
         return a.path == b.path && a.bytes == b.bytes;
     };
     return layout == other.layout && forced == other.forced && padding == other.padding &&
+           names == other.names &&
            std::equal(textures.begin(), textures.end(), other.textures.begin(),
                       other.textures.end(), same);
 }
@@ -60,7 +61,7 @@ std::size_t Banner::State::Size() const {
     return size;
 }
 
-Result<Banner> Banner::Load(FolderSource source, std::size_t history) {
+Result<Banner> Banner::Load(BannerSource source, std::size_t history) {
     return Within_Memory(source, [&]() -> Result<Banner> {
         auto bytes = source.Read();
         if (!bytes) return bytes.Why();
@@ -68,7 +69,7 @@ Result<Banner> Banner::Load(FolderSource source, std::size_t history) {
     });
 }
 
-Banner Banner::From_Bytes(std::string file, FolderSource source, std::size_t history) {
+Banner Banner::From_Bytes(std::string file, BannerSource source, std::size_t history) {
     Banner banner;
     banner.source_ = std::move(source);
     banner.on_disk_ = std::move(file);
@@ -128,12 +129,28 @@ struct Banner::Applying {
         return {};
     }
 
+    Result<> operator()(const SetChannelName& edit) const {
+        auto names = state.names ? state.names : banner.Names();
+        const auto language = std::find(NameLanguages.begin(), NameLanguages.end(), edit.code);
+        if (!names || language == NameLanguages.end() || edit.line >= NameLines) {
+            return Failure{banner.source_.Name(), "Has no such channel name"};
+        }
+        if (edit.text.size() > LongestNameLine) {
+            return Failure{u"Channel name " + edit.code, "Has " + std::to_string(edit.text.size()) +
+                                                             " characters, where 20 have room"};
+        }
+        const auto index = static_cast<std::size_t>(language - NameLanguages.begin());
+        (*names)[index][edit.line] = edit.text;
+        state.names = std::move(names);
+        return {};
+    }
+
     /// A logo may be the texture that an edit before this one has replaced.
     Result<std::string> Read_Logo(const std::u16string& file) const {
         const auto replaced =
             std::find_if(state.textures.rbegin(), state.textures.rend(),
                          [&](const NewContents& texture) { return Same_File(texture.path, file); });
-        if (replaced == state.textures.rend()) return Read_File(file);
+        if (replaced == state.textures.rend() || banner.source_.Packed_In()) return Read_File(file);
         return replaced->bytes;
     }
 };
@@ -185,8 +202,14 @@ bool Banner::Redo() {
     return Step(redo_, undo_);
 }
 
+std::optional<ChannelNames> Banner::Names() const {
+    if (state_.names || !source_.Packed_In()) return state_.names;
+    return source_.Packed_In()->Names();
+}
+
 bool Banner::Has_Unsaved_Changes() const {
-    return state_.layout != std::string_view(on_disk_).substr(0, loaded_size_);
+    return state_.layout != std::string_view(on_disk_).substr(0, loaded_size_) ||
+           (state_.names && state_.names != source_.Packed_In()->Names());
 }
 
 bool Banner::Was_Changed_Elsewhere() const {
@@ -207,14 +230,19 @@ Result<SavePlan> Banner::Plan_Save(std::span<const Edit> last) const {
                                      : Result<Padding>(Padding{false, on_disk_.size()});
         if (!padding) return padding.Why();
         Region_Force(state.layout, To_Utf8(state.forced));
-        SavePlan plan = std::move(state.textures);
-        plan.push_back({source_.Path(), AddPadding(std::move(state.layout), *padding)});
+        SavePlan plan;
+        plan.textures = state.textures.size();
+        state.layout = AddPadding(std::move(state.layout), *padding);
+        if (source_.Packed_In()) plan.packed_layout = state.layout;
+        auto files = source_.Plan(std::move(state.layout), std::move(state.textures), state.names);
+        if (!files) return files.Why();
+        plan.files = std::move(*files);
         return plan;
     });
 }
 
 Result<> Banner::Save(const SavePlan& plan, const FolderLock& lock, const Notice& notice) const {
-    return Replace_Files(plan, lock, notice);
+    return Replace_Files(plan.files, lock, notice);
 }
 
 }  // namespace bannersmith

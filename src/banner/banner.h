@@ -15,9 +15,19 @@
 
 namespace bannersmith {
 
-/// Which files get which bytes: the textures that are replaced, in the order of their edits, then
-/// the layout.
-using SavePlan = std::vector<NewContents>;
+/// What a save writes.
+struct SavePlan {
+    /// Which files get which bytes: the textures that are replaced, in the order of their edits,
+    /// then the layout; or the archive that has them all.
+    std::vector<NewContents> files;
+    std::string packed_layout;  ///< the layout in the archive; empty for a layout file
+    std::size_t textures = 0;   ///< how many are replaced
+
+    /// The layout with its padding.
+    std::string_view Layout() const {
+        return packed_layout.empty() ? std::string_view(files.back().bytes) : packed_layout;
+    }
+};
 
 /// One banner. Nothing of it is shared: different banners can be used by different threads. A lack
 /// of memory is a failure of the routine, unless it says otherwise.
@@ -31,10 +41,10 @@ class Banner {
 
     /// Reads the layout and cuts its padding. `history`: how many bytes of what was before may be
     /// kept for `Undo`; 0 keeps nothing. The failure has the name of the source.
-    static Result<Banner> Load(FolderSource source, std::size_t history = MostHistory);
+    static Result<Banner> Load(BannerSource source, std::size_t history = MostHistory);
 
     /// The same for bytes that were read already. Throws where memory lacks.
-    static Banner From_Bytes(std::string file, FolderSource source = {},
+    static Banner From_Bytes(std::string file, BannerSource source = {},
                              std::size_t history = MostHistory);
 
     /// The layout, without padding behind its end. Stays at its place while the object does.
@@ -45,11 +55,15 @@ class Banner {
     const std::u16string& Neutral() const { return neutral_; }
 
     /// Where it was loaded from.
-    const FolderSource& Source() const { return source_; }
+    const BannerSource& Source() const { return source_; }
     bool Is_Loaded() const { return !source_.Path().empty(); }
 
-    /// The file as it was loaded or saved last, with its padding.
+    /// The layout as it was loaded, with its padding.
     const std::string& On_Disk() const { return on_disk_; }
+
+    /// The lines that the console's menu shows; nothing for a banner that is in no archive with a
+    /// header for them.
+    std::optional<ChannelNames> Names() const;
 
     /// The one way to change a banner. What fails leaves it as it was. A text for a box that the
     /// layout lacks, and a colour without its material, are passed over.
@@ -60,7 +74,7 @@ class Banner {
     bool Undo();
     bool Redo();
 
-    /// Whether the layout differs from the one that was loaded or saved last.
+    /// Whether layout or names differ from what was loaded.
     bool Has_Unsaved_Changes() const;
 
     /// Whether another program wrote the file since it was loaded or saved last.
@@ -83,6 +97,7 @@ class Banner {
         std::vector<NewContents> textures;  ///< that the save replaces
         std::u16string forced;
         std::optional<std::u16string> padding;
+        std::optional<ChannelNames> names;  ///< where they were edited
 
         bool operator==(const State& other) const;
         std::size_t Size() const;
@@ -94,7 +109,7 @@ class Banner {
     void Shorten_History();
     bool Step(std::deque<State>& from, std::deque<State>& to);
 
-    FolderSource source_;
+    BannerSource source_;
     std::u16string neutral_;
     std::string on_disk_;
     std::size_t loaded_size_ = 0;  ///< of the layout in `on_disk_`

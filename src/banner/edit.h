@@ -1,6 +1,7 @@
 // One wish about a banner, as a value. Command lines, recipes and buttons are all read into these.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <variant>
 
@@ -49,8 +50,16 @@ struct SetPadding {
     std::u16string text;
 };
 
+/// A line of the name that the console's menu shows in a language, one of `NameLanguages`. Only an
+/// archive with an IMET header has names.
+struct SetChannelName {
+    std::u16string code;
+    std::size_t line;
+    std::u16string text;
+};
+
 /// Any of them.
 using Edit = std::variant<SetField, SetFieldEverywhere, WriteBox, ApplyScheme, ReplaceLogo,
-                          ForceRegion, SetPadding>;
+                          ForceRegion, SetPadding, SetChannelName>;
 
 }  // namespace bannersmith

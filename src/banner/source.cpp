@@ -24,21 +24,58 @@ std::u16string Texture_Folder(std::u16string_view layout_path) {
 
 }  // namespace
 
-Result<std::string> FolderSource::Read() const {
+std::u16string Layout_File_Of(const std::u16string& path) {
+    const std::u16string folder = path + (Ends_In_Separator(path) ? u"" : u"\\");
+    for (const char16_t* file :
+         {u"arc\\blyt\\banner.brlyt", u"arc\\blyt\\icon.brlyt", u"meta\\banner.bin",
+          u"meta\\icon.bin", u"meta\\banner.bin\\arc\\blyt\\banner.brlyt"}) {
+        if (Ordinary_File_Exists(folder + file)) return folder + file;
+    }
+    return path;
+}
+
+Result<std::string> BannerSource::Read() {
     auto bytes = Read_File(path_);
     if (!bytes) return std::move(bytes).About(name_);
-    const std::string_view reason = Not_To_Be_Edited(*bytes);
-    if (!reason.empty()) return Failure{name_, std::string(reason)};
-    return bytes;
+    archive_.reset();
+    if (Is_Layout(*bytes)) return bytes;
+    if (Is_Program(*bytes)) return Failure{name_, "Is a program, not a layout file"};
+    if (!Archive::Begins_As_One(*bytes)) return bytes;
+    auto archive = Archive::Read(std::move(*bytes)).About(name_);
+    if (!archive) return archive.Why();
+    if (!archive->Refusal().empty()) return Failure{name_, archive->Refusal()};
+    archive_ = std::move(*archive);
+    return std::string(archive_->Layout());
 }
 
-bool FolderSource::Holds_Other(std::string_view as_read) const {
+bool BannerSource::Holds_Other(std::string_view layout) const {
     const auto now = Read_File(path_);
-    return now && *now != as_read;
+    return now && *now != (archive_ ? archive_->Bytes() : layout);
 }
 
-Result<std::optional<std::u16string>> FolderSource::Find_Texture(
+Result<std::vector<NewContents>> BannerSource::Plan(
+    std::string layout, std::vector<NewContents> textures,
+    const std::optional<ChannelNames>& names) const {
+    if (!archive_) {
+        textures.push_back({path_, std::move(layout)});
+        return textures;
+    }
+    NewFiles files;
+    for (NewContents& texture : textures) {
+        files[To_Utf8(texture.path)] = std::move(texture.bytes);
+    }
+    files[archive_->Layout_Path()] = std::move(layout);
+    auto archive = archive_->With(files, names).About(name_);
+    if (!archive) return archive.Why();
+    return std::vector<NewContents>{{path_, std::move(*archive)}};
+}
+
+Result<std::optional<std::u16string>> BannerSource::Find_Texture(
     std::u16string_view beginning) const {
+    if (archive_) {
+        const auto packed = archive_->Find_Texture(To_Utf8(beginning));
+        return packed ? std::optional(From_Utf8(*packed)) : std::nullopt;
+    }
     if (With_Backslashes(path_).find(u'\\') == path_.npos) {
         return Failure{name_, "Names no folder to look for the logo texture beside"};
     }

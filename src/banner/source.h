@@ -4,40 +4,58 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/result.h"
+#include "container/archive.h"
+#include "system/replace_files.h"
 
 namespace bannersmith {
 
-/// A layout file, with its textures in the folder "timg" that lies beside the layout's folder.
-class FolderSource {
- public:
-    FolderSource() = default;
+/// The layout file that an unpacked channel's folder holds, or its part that has one: a folder with
+/// "arc" or "meta" in it. Any other path is returned as it is.
+std::u16string Layout_File_Of(const std::u16string& path);
 
-    /// `path` leads to the layout file, as the file routines take it; `name` is how failures call
-    /// it.
-    FolderSource(std::u16string path, std::u16string name)
+/// A layout file, with its textures in the folder "timg" that lies beside the layout's folder; or
+/// an archive that has them all.
+class BannerSource {
+ public:
+    BannerSource() = default;
+
+    /// `path` leads to the file, as the file routines take it; `name` is how failures call it.
+    BannerSource(std::u16string path, std::u16string name)
         : path_(std::move(path)), name_(std::move(name)) {}
-    explicit FolderSource(const std::u16string& path) : FolderSource(path, path) {}
+    explicit BannerSource(const std::u16string& path) : BannerSource(path, path) {}
 
     const std::u16string& Path() const { return path_; }
     const std::u16string& Name() const { return name_; }
 
-    /// The bytes of the layout file. What would be destroyed by an edit, an archive or a program,
-    /// is refused.
-    Result<std::string> Read() const;
+    /// The archive, once `Read` has found that the file is one; null before, and for a layout file.
+    const Archive* Packed_In() const { return archive_ ? &*archive_ : nullptr; }
 
-    /// Whether the file holds other bytes than `as_read`. One that is no longer there does not.
-    bool Holds_Other(std::string_view as_read) const;
+    /// The layout's bytes. A program of the system is refused, and so is an archive that is broken
+    /// on the way to the layout or whose checksums do not hold there.
+    Result<std::string> Read();
 
-    /// The path of the first texture whose name begins with `beginning`; nothing where there is no
-    /// such texture, no folder for it, or nothing that lies beside the layout's folder, which is so
-    /// in a root folder. Fails where that cannot be told, and for a layout whose path names no
-    /// folder.
+    /// Whether the file holds something else than when it was read; `layout`, what `Read` returned.
+    /// One that is no longer there does not.
+    bool Holds_Other(std::string_view layout) const;
+
+    /// The path, in the file system or in the archive, of the first texture whose name begins with
+    /// `beginning`; nothing where there is no such texture, no folder for it, or nothing that lies
+    /// beside the layout's folder, which is so in a root folder. Fails where that cannot be told,
+    /// and for a layout whose path names no folder.
     Result<std::optional<std::u16string>> Find_Texture(std::u16string_view beginning) const;
+
+    /// Which files get which bytes when the layout becomes `layout`, the textures that
+    /// `Find_Texture` told of become `textures`, and an archive's names `names`: the textures and
+    /// then the layout, or the one archive.
+    Result<std::vector<NewContents>> Plan(std::string layout, std::vector<NewContents> textures,
+                                          const std::optional<ChannelNames>& names) const;
 
  private:
     std::u16string path_, name_;
+    std::optional<Archive> archive_;
 };
 
 }  // namespace bannersmith

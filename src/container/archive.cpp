@@ -213,6 +213,30 @@ std::optional<std::string_view> Archive::Find_File(std::string_view path) const 
     return std::nullopt;
 }
 
+Result<> Archive::Visit_Files(const FileVisitor& visit) const {
+    Result<> all_unpacked;
+    for (const StoredPart& stored : parts_) {
+        const auto content =
+            stored.fault.empty() ? Unpack(stored.part) : Failure{u"", stored.fault};
+        if (!content) {
+            all_unpacked = In_Part(stored.path, content.Why().reason);
+            continue;
+        }
+        const std::string_view bytes = content->bytes;
+        const auto files = Begins_As_U8(bytes) ? Read_U8(bytes) : Failure();
+        if (!files) {
+            if (auto visited = visit(stored.path, bytes); !visited) return visited;
+            continue;
+        }
+        for (const U8Member& file : *files) {
+            auto visited =
+                visit(Joined(stored.path, file.path), bytes.substr(file.offset, file.size));
+            if (!visited) return visited;
+        }
+    }
+    return all_unpacked;
+}
+
 std::optional<ChannelNames> Archive::Names() const {
     if (!imet_) return std::nullopt;
     return Names_Of(std::string_view(*bytes_).substr(*imet_));

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -65,6 +66,14 @@ class Archive {
 
     /// The bytes of a file of the layout's part. Nothing where it has none of that path.
     std::optional<std::string_view> Find_File(std::string_view path) const;
+
+    /// Takes the path of a file and its bytes, which do not outlive the call.
+    using FileVisitor = std::function<Result<>(const std::string& path, std::string_view bytes)>;
+
+    /// Shows every file, unpacked, in the order of the archive: those of each part, or the content
+    /// of one that is no archive itself. Ends at the first failure. A part that cannot be unpacked
+    /// is passed over, and is the failure at the end.
+    Result<> Visit_Files(const FileVisitor& visit) const;
 
     /// All parts, in their order.
     const std::vector<StoredPart>& Parts() const { return parts_; }

@@ -103,12 +103,65 @@ std::string Shown(const std::string& name) {
     return Printable(From_Utf8(name));
 }
 
+std::string Texture_Text(const TextureInfo& texture) {
+    return "  " + std::string(texture.format) + " " + std::to_string(texture.width) + " x " +
+           std::to_string(texture.height);
+}
+
+/// Only the slots that have a text.
+void Write_Archive_Text(const ArchiveInfo& archive, const Output& output) {
+    constexpr std::size_t SizeWidth = 8;
+    output("  archive of " + std::to_string(archive.file_size) + " bytes\n");
+    for (const ArchiveFileInfo& file : archive.files) {
+        output("  file     " + Number(static_cast<unsigned>(file.size), SizeWidth) + "  " +
+               Shown(file.path) + (file.texture ? Texture_Text(*file.texture) : "") + "\n");
+    }
+    for (std::size_t i = 0; archive.names && i < archive.names->size(); ++i) {
+        const auto& [first, second] = (*archive.names)[i];
+        if (first.empty() && second.empty()) continue;
+        output("  name     " + To_Utf8(NameLanguages[i]) + "  " + Printable(first) +
+               (second.empty() ? "" : " / " + Printable(second)) + "\n");
+    }
+    for (const std::string& warning : archive.warnings) {
+        output("  warning: " + Shown(warning) + "\n");
+    }
+    output("  layout   " + Shown(archive.layout) + "\n");
+}
+
+std::string File_Json(const ArchiveFileInfo& file) {
+    std::string json =
+        "{" + Member("path", Quoted(file.path)) + ", " + Member("size", std::to_string(file.size));
+    if (file.texture) {
+        json += ", " + Member("format", Quoted(std::string(file.texture->format))) + ", " +
+                Member("width", std::to_string(file.texture->width)) + ", " +
+                Member("height", std::to_string(file.texture->height));
+    }
+    return json + "}";
+}
+
+void Write_Archive_Json(const ArchiveInfo& archive, const Output& output) {
+    output(", " + Member("archive", "{" + Member("layout", Quoted(archive.layout))));
+    Write_Array("files", archive.files, File_Json, output);
+    if (archive.names) {
+        Write_Array(
+            "names", *archive.names,
+            [](const auto& lines) {
+                return Array(lines, [](const std::u16string& line) { return Quoted(line); });
+            },
+            output);
+    }
+    Write_Array("warnings", archive.warnings, Quoted_Name, output);
+    output("}");
+}
+
 }  // namespace
 
 void Write_Text(const FileReport& report, const Output& output) {
     const LayoutInfo& info = report.info;
-    output(Shown(report.file) + "\n  header length " + std::to_string(info.header_length) +
-           ", file size " + std::to_string(info.file_size) + "\n");
+    output(Shown(report.file) + "\n");
+    if (report.archive) Write_Archive_Text(*report.archive, output);
+    output("  header length " + std::to_string(info.header_length) + ", file size " +
+           std::to_string(info.file_size) + "\n");
     for (const TextBoxInfo& box : info.boxes) {
         output("  text     " + Filled_Up(Shown(box.name), 16) + " buffer " +
                Number(box.buffer_length, 5) + " length " + Number(box.text_length, 5) + "  " +
@@ -132,6 +185,7 @@ void Write_Json(const FileReport& report, const Output& output) {
     output("{" + Member("file", Quoted(report.file)) + ", " +
            Member("file_size", std::to_string(info.file_size)) + ", " +
            Member("header_length", std::to_string(info.header_length)));
+    if (report.archive) Write_Archive_Json(*report.archive, output);
     Write_Array("text_boxes", info.boxes, Box_Json, output);
     Write_Array("materials", info.materials, Material_Json, output);
     Write_Array("groups", info.groups, Group_Json, output);

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "inspect/archive_info.h"
 #include "inspect/warnings.h"
 #include "layout/sections.h"
 
@@ -12,7 +14,8 @@ namespace bannersmith {
 
 /// What the inspect tool says about one file.
 struct FileReport {
-    std::string file;  ///< as the user named it, in UTF-8
+    std::string file;                    ///< as the user named it, in UTF-8
+    std::optional<ArchiveInfo> archive;  ///< what the layout is packed in
     LayoutInfo info;
     std::vector<Warning> warnings;
 };

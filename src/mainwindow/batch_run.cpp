@@ -65,8 +65,9 @@ Result<> BatchRun::Open(const std::u16string& configured) {
 
 /// Until the end of the run no other one changes the layout, so neither loses what the other wrote.
 Result<> BatchRun::Hold_Folder_Of(const std::u16string& layout) {
-    if (!Ordinary_File_Exists(layout)) return {};
-    return lock_.Take(layout);
+    const std::u16string file = Layout_File_Of(layout);
+    if (!Ordinary_File_Exists(file)) return {};
+    return lock_.Take(file);
 }
 
 void BatchRun::Take(const std::u16string& text) {
@@ -94,13 +95,13 @@ Result<> BatchRun::Save() {
         return Failure{text_, "Was changed by another program since it was loaded"};
     }
     if (auto saved = Save_Uninterrupted(banner, *plan, lock_, report_); !saved) return saved;
-    Tell_What_Was_Odd(plan->back().bytes);
+    Tell_What_Was_Odd(plan->Layout());
     configuration_.Store(text_);  // which may be what was just edited
     return {};
 }
 
 /// Nobody has seen what was edited, so it is told when it looks wrong.
-void BatchRun::Tell_What_Was_Odd(const std::string& saved) const {
+void BatchRun::Tell_What_Was_Odd(std::string_view saved) const {
     const std::string& loaded = opened_.banner.On_Disk();
     if (!Is_Layout(loaded)) {
         report_({text_, "Saved, but it does not begin as a layout file"});

@@ -12,6 +12,9 @@ namespace bannersmith {
 namespace {
 
 constexpr std::u16string_view CurrentLogo = u"Current Logo";
+constexpr std::u16string_view FileFilter =
+    u"Layouts and Banners (*.brlyt *.app *.bnr *.bin)|*.brlyt;*.app;*.bnr;*.bin|"
+    u"Brlyt Files (*.brlyt)|*.brlyt|All Files (*.*)|*.*";
 
 }  // namespace
 
@@ -57,8 +60,7 @@ std::u16string Form1::Layout_Path() const {
 }
 
 void Form1::cmdFileBrowse_Click() {
-    const std::u16string file =
-        desktop_.Open_File(u"Brlyt Files (*.brlyt)|*.brlyt|All Files (*.*)|*.*", Layout_Path());
+    const std::u16string file = desktop_.Open_File(std::u16string(FileFilter), Layout_Path());
     if (!file.empty()) Take_File(file);
 }
 

@@ -46,7 +46,7 @@ OpenedLayout Load_Brlyt(const std::u16string& BrlytPath, const std::u16string& t
 
 OpenedLayout Open_Layout(const std::u16string& program_folder, const std::u16string& text,
                          std::size_t history) {
-    const std::u16string BrlytPath = Resolve(program_folder, text);
+    const std::u16string BrlytPath = Layout_File_Of(Resolve(program_folder, text));
     if (!Ordinary_File_Exists(BrlytPath)) return {};
     OpenedLayout opened = Load_Brlyt(BrlytPath, text, history);
     Configuration(program_folder).Store(text);

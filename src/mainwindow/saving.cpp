@@ -22,7 +22,7 @@ void Form1::cmdSave_Click() {
     }
     desktop_.Message(u"File Successfully Saved!");
     txtSrc_Change();
-    const bool logo_unplaced = cmbLogo.Index() > 0 && saved->size() == 1;
+    const bool logo_unplaced = cmbLogo.Index() > 0 && saved->textures == 0;
     lblLastCommand.Set(logo_unplaced ? u"Saved; the banner has no logo texture to replace"
                                      : u"Saved");
 }

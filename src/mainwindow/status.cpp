@@ -107,7 +107,9 @@ void Form1::Tell_What_Is_Loaded() {
         return;
     }
     const std::u16string path = With_Backslashes(txtSrc.Text());
-    lblLoaded.Set(path.substr(path.rfind(u'\\') + 1) + u"  |  " +
+    const Archive* archive = opened_.banner.Source().Packed_In();
+    const std::u16string packed = archive ? u": " + From_Utf8(archive->Layout_Path()) : u"";
+    lblLoaded.Set(path.substr(path.rfind(u'\\') + 1) + packed + u"  |  " +
                   (Has_Unsaved_Changes() ? u"texts not saved" : u"texts as in the file") +
                   u"  |  " +
                   (Is_Layout(BrlytData) ? Languages_Present(BrlytData) : u"not a layout file") +

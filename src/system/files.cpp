@@ -123,4 +123,11 @@ Result<std::vector<std::u16string>> List_Files(const std::u16string& folder,
     return names;
 }
 
+Result<> Make_Folders_Of(const std::u16string& path) {
+    std::error_code error;
+    fs::create_directories(Native_Path(path).parent_path(), error);
+    if (error) return Failure{path, error.message()};
+    return {};
+}
+
 }  // namespace bannersmith

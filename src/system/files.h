@@ -39,6 +39,9 @@ Result<bool> Is_Folder(const std::u16string& path);
 Result<std::vector<std::u16string>> List_Files(const std::u16string& folder,
                                                std::string_view ending);
 
+/// Makes the folders that the path of a file leads through, as far as they are missing.
+Result<> Make_Folders_Of(const std::u16string& path);
+
 /// The bytes of a regular file.
 Result<std::string> Read_File(const std::u16string& path);
 

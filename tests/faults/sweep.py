@@ -22,6 +22,7 @@ import time
 BANNER = "samples/seven_languages/arc/blyt/banner.brlyt"
 TEXTURE = "samples/seven_languages/arc/timg/my_Back_logo.tpl"
 LOGO = "logos/Comet.tpl"
+CHANNEL = "samples/channel/00000000.app"
 CONFIG = "cfgs/vcinfopath.cfg"
 SCHEME, NEW_SCHEME = "schemes/Swept.vccs", "schemes/New.vccs"
 ERRORS = ("ENOSPC", "EIO", "EACCES", "EDQUOT", "EINTR")
@@ -38,6 +39,7 @@ SCENARIOS = {
     "layout": (["./bannersmith", "-TITLE", "Swept", "-YEAR", "2001"], b"", [BANNER], 0, ()),
     "logo": (["./bannersmith", "-LOGO", "Comet.tpl", "-TITLE", "Swept"], b"", [BANNER, TEXTURE], 0, ()),
     "logo on a card": (["./bannersmith", "-LOGO", "Comet.tpl", "-TITLE", "Swept"], b"", [BANNER, TEXTURE], 0, CARD),
+    "archive": (["./bannersmith", "-LOGO", "Comet.tpl", "-TITLE", "Swept"], b"", [CHANNEL], 0, ()),
     "configuration": (["./bannersmith", BANNER, "-PAD", "0"], b"", [BANNER, CONFIG], 0, ()),
     "new scheme": (["./operate"], SAVE_SCHEME % b"New", [NEW_SCHEME], 0, ()),
 }

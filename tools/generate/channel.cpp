@@ -116,8 +116,9 @@ std::string Texture(const std::string& name) {
             return Grey(std::clamp(0.5 - std::abs(distance - 20) + 4, 0.0, 1.0));
         });
     }
-    const int width = name == "my_TVW_a" ? 128 : name == "my_Grad_b" ? 8 : 32;
-    const int height = name == "my_TVW_a" ? 128 : 32;
+    const int small = name == "my_Beta16x16_a" || name == "Back_a" ? 16 : 32;
+    const int width = name == "my_TVW_a" ? 128 : name == "my_Grad_b" ? 8 : small;
+    const int height = name == "my_TVW_a" ? 128 : small;
     return Texture_File(i4, width, height,
                         [=](int x, int y) { return Grey(1.0 * (y + x % 2) / height); });
 }
