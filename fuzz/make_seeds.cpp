@@ -4,6 +4,7 @@
 
 #include "colors/scheme.h"
 #include "generate/banners.h"
+#include "generate/channel.h"
 #include "generate/layout_builder.h"
 
 using namespace bannersmith;
@@ -32,6 +33,11 @@ int main(int argc, char** argv) {
     Write(folder / "layout/twins", "\x03\x21\x02\x61" + boxes + boxes);
     Write(folder / "inspect/small", small);
     Write(folder / "inspect/banner", Banner_Without_Closing_Group());
+    const std::string archive = U8_Archive({{"arc/blyt/banner.brlyt", small}, {"arc/timg/my_Back.tpl", "x"}});
+    Write(folder / "archive/part", Channel_Part(archive));
+    Write(folder / "archive/bare", archive);
+    Write(folder / "archive/channel",
+          Channel_File("x", {}, {0, archive.size(), 0}, U8_Archive({{"meta/banner.bin", archive}})));
     Write(folder / "scheme/shipped", Format_Scheme(Shipped_Schemes()[1].scheme));
     Write(folder / "command_line/all",
           "TITLE A \"b\"-YEAR 1985-PLAY 4-ESRB E-SYSTEM X^Y-T_ENG t-Y_ENG 1-E_ENG e-H_T_PF raw-PAD +4-FORCE jpn-3");

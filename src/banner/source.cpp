@@ -44,6 +44,9 @@ Result<std::string> BannerSource::Read() {
     auto archive = Archive::Read(std::move(*bytes)).About(name_);
     if (!archive) return archive.Why();
     if (!archive->Refusal().empty()) return Failure{name_, archive->Refusal()};
+    if (!Is_Layout(archive->Layout())) {
+        return Failure{name_, archive->Layout_Path() + ": Not a layout file"};
+    }
     archive_ = std::move(*archive);
     return std::string(archive_->Layout());
 }

@@ -36,7 +36,7 @@ std::uint32_t Read_Little(std::string_view bytes, std::size_t at) {
 void Add_Block(State& state, std::string_view block) {
     std::array<std::uint32_t, 16> words{};
     for (std::size_t i = 0; i < words.size(); ++i) words[i] = Read_Little(block, 4 * i);
-    auto [a, b, c, d] = state;
+    std::uint32_t a = state[0], b = state[1], c = state[2], d = state[3];
     const auto step = [&](std::size_t i, std::uint32_t mixed, std::size_t word) {
         const std::uint32_t sum = a + mixed + Sines[i] + words[word % 16];
         a = d;
