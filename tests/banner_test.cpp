@@ -148,6 +148,7 @@ TEST(Banner, IsEditedInItsArchiveAsInAFolder) {
         EXPECT_FALSE(banner.Apply(SetChannelName{u"GER", 0, std::u16string(21, u'x')}));
         const auto plan = banner.Plan_Save();
         EXPECT_EQ(plan->files.size(), packed ? 1U : 2U);
+        EXPECT_EQ(plan->odd_logo, packed ? "logo is no texture" : "");
         EXPECT_FALSE(banner.Was_Changed_Elsewhere());
         ASSERT_TRUE(banner.Save(*plan));
         EXPECT_TRUE(banner.Was_Changed_Elsewhere());

@@ -13,6 +13,7 @@
 #include "layout/format.h"
 #include "layout/text_box.h"
 #include "system/files.h"
+#include "texture/tpl.h"
 
 namespace bannersmith {
 
@@ -31,6 +32,22 @@ std::vector<std::string> Boxes_To_Rewrite() {
     }
     names.push_back(To_Utf8(SystemBox));
     return names;
+}
+
+std::string Described(const TextureInfo& texture) {
+    return std::string(texture.format) + " " + std::to_string(texture.width) + " x " +
+           std::to_string(texture.height);
+}
+
+/// What `SavePlan::odd_logo` says. What is no texture now was not one to begin with.
+std::string Odd_Logo(const BannerSource& source, const NewContents& logo) {
+    const auto bytes = source.Texture(logo.path);
+    const auto old = bytes ? Describe_Texture(*bytes) : std::nullopt;
+    const auto fresh = Describe_Texture(logo.bytes);
+    if (!old) return {};
+    if (!fresh) return "logo is no texture";
+    if (Described(*old) == Described(*fresh)) return {};
+    return "logo is " + Described(*fresh) + " in place of " + Described(*old);
 }
 
 /// What `work` returns, or a lack of memory as a failure of `source`.
@@ -232,6 +249,7 @@ Result<SavePlan> Banner::Plan_Save(std::span<const Edit> last) const {
         Region_Force(state.layout, To_Utf8(state.forced));
         SavePlan plan;
         plan.textures = state.textures.size();
+        if (!state.textures.empty()) plan.odd_logo = Odd_Logo(source_, state.textures.back());
         state.layout = AddPadding(std::move(state.layout), *padding);
         if (source_.Packed_In()) plan.packed_layout = state.layout;
         auto files = source_.Plan(std::move(state.layout), std::move(state.textures), state.names);

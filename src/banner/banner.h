@@ -22,6 +22,9 @@ struct SavePlan {
     std::vector<NewContents> files;
     std::string packed_layout;  ///< the layout in the archive; empty for a layout file
     std::size_t textures = 0;   ///< how many are replaced
+    /// How the last of them differs from the one that it replaces, which the console may draw
+    /// wrongly then: "logo is I4 256 x 64 in place of I4 512 x 64". Empty where it does not.
+    std::string odd_logo;
 
     /// The layout with its padding.
     std::string_view Layout() const {

@@ -56,6 +56,15 @@ bool BannerSource::Holds_Other(std::string_view layout) const {
     return now && *now != (archive_ ? archive_->Bytes() : layout);
 }
 
+std::optional<std::string> BannerSource::Texture(const std::u16string& path) const {
+    if (archive_) {
+        const auto packed = archive_->Find_File(To_Utf8(path));
+        return packed ? std::optional(std::string(*packed)) : std::nullopt;
+    }
+    auto bytes = Read_File(path);
+    return bytes ? std::optional(std::move(*bytes)) : std::nullopt;
+}
+
 Result<std::vector<NewContents>> BannerSource::Plan(
     std::string layout, std::vector<NewContents> textures,
     const std::optional<ChannelNames>& names) const {

@@ -47,6 +47,9 @@ class BannerSource {
     /// and for a layout whose path names no folder.
     Result<std::optional<std::u16string>> Find_Texture(std::u16string_view beginning) const;
 
+    /// The bytes of a texture that `Find_Texture` told of; nothing where they cannot be read.
+    std::optional<std::string> Texture(const std::u16string& path) const;
+
     /// Which files get which bytes when the layout becomes `layout`, the textures that
     /// `Find_Texture` told of become `textures`, and an archive's names `names`: the textures and
     /// then the layout, or the one archive.

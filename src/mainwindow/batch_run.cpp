@@ -95,6 +95,7 @@ Result<> BatchRun::Save() {
         return Failure{text_, "Was changed by another program since it was loaded"};
     }
     if (auto saved = Save_Uninterrupted(banner, *plan, lock_, report_); !saved) return saved;
+    if (!plan->odd_logo.empty()) report_({text_, "Saved, but the " + plan->odd_logo});
     Tell_What_Was_Odd(plan->Layout());
     configuration_.Store(text_);  // which may be what was just edited
     return {};

@@ -1,6 +1,7 @@
 // The save command of the main window.
 #include <utility>
 
+#include "base/text.h"
 #include "layout/file_length.h"
 #include "layout/format.h"
 #include "layout/kind.h"
@@ -23,8 +24,10 @@ void Form1::cmdSave_Click() {
     desktop_.Message(u"File Successfully Saved!");
     txtSrc_Change();
     const bool logo_unplaced = cmbLogo.Index() > 0 && saved->textures == 0;
+    const std::u16string odd =
+        saved->odd_logo.empty() ? u"" : u"; the " + From_Utf8(saved->odd_logo);
     lblLastCommand.Set(logo_unplaced ? u"Saved; the banner has no logo texture to replace"
-                                     : u"Saved");
+                                     : u"Saved" + odd);
 }
 
 /// Everything that can be refused is refused before anything is asked.
