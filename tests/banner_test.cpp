@@ -248,4 +248,78 @@ TEST(Banner, KeepsHistoryWithinItsBound) {
     EXPECT_EQ(unremembered.Plan_Save()->Layout().size(), std::max(file.size(), unremembered.Bytes().size()));
 }
 
+std::string Warnings(const std::string& data) {
+    std::string found;
+    for (const Warning& warning : Find_Warnings(data, Read_Layout(data))) found += warning.text + "|";
+    return found;
+}
+
+TEST(Inspect, WarnsOfWhatAnEditWouldNotRewriteCleanly) {
+    using namespace std::string_literals;
+    const auto stored = [](unsigned buffer, unsigned length, const std::u16string& text) {
+        return Text_Box_Section({"A", Encode_Text(text), buffer, length, 0, {}});
+    };
+    const auto box = [](const char* name, const char16_t* text) {
+        return Text_Box_Section(Clean_Text_Box(name, text, 0));
+    };
+    const std::pair<std::string, const char*> rows[] = {
+        {stored(40, 6, u"Hi\0\0"s), ""},
+        {stored(6, 6, u"a\0\0\0"s), ""},
+        {stored(4, 4, u"a\0"s), ""},
+        {stored(6, 5, u"Hi\0\0"s), "text box A: odd text length 5|"},
+        {stored(34, 34, u"Hi\0\0"s), "text box A: text length 34 with 8 bytes stored|"},
+        {stored(6, 6, u"Hi\0\0\0\0\0\0"s),
+         "text box A: an edit would take the text to begin at another place than the record says|"},
+        {stored(0, 0, u""), "text box A: an edit would take the text to begin at another place than the record says|"},
+        {stored(4, 6, u"Hi\0\0"s), "text box A: buffer length 4 below text length 6|"},
+        {stored(8, 8, u"a\0b\0"s), "text box A: zero code units inside the text|"},
+        {box("point", u"a") + box("point_o", u"b"), ""},
+        {box("A", u"a") + box("A", u"bbb"), "text box A: another record, or none, is read under this name|"},
+        {box("PFLine", u"a"), "no material PFLine: its colors are written into text box PFLine|"},
+        {Pane_Section("Shade", {}), "no material Shade: its colors are written into the bytes at 0x1C|"},
+        {Pane_Section("Shade", {}) + Material_Section({{"Shade"}}),
+         "material Shade: the first place with this name is another one|"},
+        {Material_Section({{"PFLine"}, {"Line"}}), ""},
+        {Section("mat1", ""), ""},
+        {Section("mat1", "\0\1\0\0\0\0\0\x10"s + std::string(36, 'x')), ""},
+        {Section("mat1", "\0\1\0\0\0\0\0\x14"s + std::string(36, 'x')), "material 0 lies outside its section|"},
+        {Section("mat1", "\0\1\0\0\0\0\xFF\0"s), "material 0 lies outside its section|"},
+        {"abcd\0\0\0\x64"s, "the last section does not end with the layout|"},
+        {"abcd\0\0\0\4"s, "section at 0x10 has size 4|"},
+        {"txt1\0\0\0\x10"s, "text box at 0x10: no room for its fields|"}};
+    for (const auto& [sections, warnings] : rows) {
+        EXPECT_EQ(Warnings(Layout_File({sections, Empty_Section("gre1")})), warnings) << Hex(sections);
+    }
+    for (const std::string& sample :
+         {Neutral_Banner(), Banner_Without_Closing_Group(), German_Japanese_Banner(), Seven_Language_Banner()}) {
+        EXPECT_EQ(Warnings(sample + std::string(4, '\0')), "");
+        EXPECT_EQ(Warnings(sample + '\1'), "bytes other than zero behind the header length|");
+        EXPECT_TRUE(Banner::From_Bytes(sample).Plan_Save()->files.back().bytes == sample) << "as an edit leaves it";
+    }
+    EXPECT_EQ(Warnings(Layout_File({stored(4, 4, u"a\0"s), Empty_Section("gre1")}).substr(0, 136)),
+              "header length 144 is larger than the file|");
+}
+
+TEST(Inspect, ReportsAsTextAndAsJson) {
+    const std::string data =
+        Layout_File({Material_Section({{"Shade", {1, 2, 3, 4}, {5, 6, 7, -8}}}),
+                     Text_Box_Section(Clean_Text_Box("A\x1b\x7f\xc2\x9b", u"\"\n\u3042\xD800\u0085", 0)),
+                     Group_Section("ENG", {"A", "B"}), Group_Section("R\\", {})});
+    const FileReport report{"odd\x1b", {}, Read_Layout(data), {{"first"}, {"second"}}};
+    std::string text, json;
+    Write_Text(report, [&](std::string_view part) { text += part; });
+    Write_Json(report, [&](std::string_view part) { json += part; });
+    EXPECT_EQ(text,
+              "odd\\u001b\n  header length 312, file size 312\n"
+              "  text     A\\u001b\\u007f\\u009b buffer    12 length    12  \"^あ\xEF\xBF\xBD\\u0085\n"
+              "  material Shade              1   2   3   4     5   6   7  -8\n"
+              "  group    ENG              A B\n  group    R\\\n  warning: first\n  warning: second\n");
+    EXPECT_EQ(json, R"({"file": "odd\u001b", "file_size": 312, "header_length": 312, "text_boxes": [{)"
+                    R"("name": "A\u001b\u007f\u009b", "text": "\"^\u3042\ud800\u0085", )"
+                    R"("buffer_length": 12, "text_length": 12}], "materials": [{)"
+                    R"("name": "Shade", "first": [1, 2, 3, 4], "second": [5, 6, 7, -8]}], )"
+                    R"("groups": [{"name": "ENG", "members": ["A", "B"]}, {"name": "R\\", "members": []}], )"
+                    R"("warnings": ["first", "second"]})");
+}
+
 }  // namespace

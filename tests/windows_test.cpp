@@ -8,7 +8,9 @@
 #include "base/text.h"
 #include "generate/banners.h"
 #include "generate/layout_builder.h"
+#include "layout/file_length.h"
 #include "layout/text_box.h"
+#include "mainwindow/batch_run.h"
 #include "mainwindow/form1.h"
 #include "support.h"
 
@@ -631,4 +633,170 @@ TEST_F(Colors, AreDrawnWithTheTextsOfTheMainWindow) {
         << "a name that is not measured gets more room";
 }
 
+TEST_F(Colors, AreSavedOverASchemeInOtherLetters) {
+    std::filesystem::rename(home.Path() / "schemes/Aurora.vccs", home.Path() / "schemes/Aurora.VCCS");
+    Open();
+    desktop.answer = u"Aurora";
+    Window().cmdSaveScheme_Click();
+    EXPECT_TRUE(home.Read("schemes/Aurora.VCCS").starts_with(" 53  214 "));
+    EXPECT_EQ(home.Read("schemes/Aurora.vccs") + Entries(main.cmbFileList), "(none)Current Brlyt|Aurora|Cherry Cola|");
+}
+
+TEST_F(Windows, SaveOverWhatOthersWroteOnlyWhenToldTo) {
+    desktop.answer = u"yes";
+    Start({u"T_VCTitle_ENG One"});
+    home.Write("b/arc/blyt/x", "other");
+    main.cmdSave_Click();
+    EXPECT_TRUE(Said().ends_with("Save over it?>[File Successfully Saved!]"));
+    std::filesystem::remove(home.Path() / "b/arc/blyt/x");
+    main.cmdSave_Click();
+    EXPECT_EQ(Said(), "[File Successfully Saved!]") << "nothing is lost where no file is";
+    EXPECT_EQ(Box("T_VCTitle_ENG"), "One");
+    home.Write("x\r", Boxes({u"T_PF P"}));
+    main.txtSrc.Set(u"\\x\r");
+    EXPECT_EQ(Box("T_PF") + home.Read("cfgs/vcinfopath.cfg"), "P\\b/arc/blyt/x\r\n") << "a line has no such path";
+}
+
+std::size_t allocations_left = 0;  ///< until one fails that has room for a layout; none does at 0
+
+class BatchRuns : public Windows {
+ protected:
+    /// What is told, and the status.
+    std::string Run(const std::u16string& line) {
+        const Process process{home.Text(), Replace_All(line, u"HOME", home.Text())};
+        const int status = BatchRun(process, [this](const Failure& told) { desktop.Report(told); }).Run();
+        return Said() + std::to_string(status);
+    }
+};
+
+TEST_F(BatchRuns, TakePathsAndLogosAsTheyAreTyped) {
+    const std::string layout = home.Read("b/arc/blyt/x");
+    const char* const textures[] = {"b/arc/timg/my_Bac.tpl",    "b/arc/timg/my_BackA.txt", "b/arc/timg/my_Back_x.tpl",
+                                    "b/arc/timg/my_Back_y.tpl", "b/arc/timg/my_backA.tpl", "p/2/timg/my_Back.tpl",
+                                    "timg/my_Back.tpl"};
+    for (const char* name : {"x", "x-y", "x-y z", "C:/x", "q/x", "p/blyt/l2/blyt/l"}) home.Write(name, layout);
+    std::filesystem::create_hard_link(home.Path() / "x-y", home.Path() / "b/linked");
+    home.Write("other.tpl", "other");
+    const auto before = std::filesystem::current_path();
+    std::filesystem::current_path(home.Path());
+    struct Row {
+        std::u16string line;
+        std::string told, stored = "\\b/arc/blyt/x/", textures = "-------", config = "\\b/arc/blyt/x\r\n";
+    };
+    for (const Row& row :
+         {Row{u" ", "0"},
+          {u"  b/arc/blyt/x  -YEAR 1", "0", "HOME\\b/arc/blyt/x/"},
+          {u"\\b\\arc/blyt/x -YEAR 1", "0", "HOME\\b\\arc/blyt/x/"},
+          {u"HOME/b/arc/blyt/x", "0", "HOME/b/arc/blyt/x/"},
+          {u"C:\\none", "{C:\\none: No such file or directory}2"},
+          {u"none -LOGO Comet.tpl", "{HOME\\none: No such file or directory}2"},
+          {u"b -LOGO Comet.tpl", "{HOME\\b: Is a directory}2"},
+          {u"-PAD 0", "0", "\\b/arc/blyt/x/", "-------", "\\b/arc/blyt/x"},
+          {u"-PAD 0", "{HOME\\cfgs\\vcinfopath.cfg: Names no layout file}2", "/\\x", "-------", "\r\n\\x"},
+          {u"-PAD 0", "{\\none: No such file or directory}2", "\\none/x", "-------", "\\none\r\nx"},
+          {u"x-y -PAD +4 -TITLE x", "{HOME\\x-y: Is not edited, because a hyphen ends the path on a command line}0",
+           "HOME\\x/"},
+          {u"x-y z -PAD 0", "{HOME\\x-y z: Is not edited, because a hyphen ends the path on a command line}0",
+           "HOME\\x/"},
+          {u"x -PAD 0 -TITLE x-y", "0", "HOME\\x/"},
+          {u"\\b/linked", "{HOME\\b/linked: Saved, but its other names (hard links) keep the old contents}0",
+           "HOME\\b/linked/"},
+          {u"-LOGO Comet.tpl -PAD x",
+           "{Padding \"x\": Not a whole number up to 268435456, with or without + in front of it}1"},
+          {u"-LOGO Comet.tpl -LOGO \\other.tpl -COLOR none -COLOR none",
+           "{HOME\\schemes\\none.vccs: No such file or directory}1"},
+          {u"-TITLE x -LOGO none.tpl", "{HOME\\logos\\none.tpl: No such file or directory}1"},
+          {u"-LOGO C:\\None.tpl", "{C:\\None.tpl: No such file or directory}1"},
+          {u"-LOGO \\other.tpl", "0", "\\b/arc/blyt/x/", "--other----"},
+          {u"-LOGO HOME/logos/Comet.tpl", "0", "\\b/arc/blyt/x/", "--comet----"},
+          {u"HOME\\b\\arc\\blyt\\x -LOGO Comet.tpl", "0", "HOME\\b\\arc\\blyt\\x/", "--comet----"},
+          {u"p/blyt/l2/blyt/l -LOGO Comet.tpl", "0", "HOME\\p/blyt/l2/blyt/l/", "-----comet-"},
+          {u"C:\\x -LOGO Comet.tpl", "0", "C:\\x/"},
+          {u"-LOGO Comet.tpl", "0", "q/x/", "------comet", "q/x"},
+          {u"-LOGO Comet.tpl", "{x: Names no folder to look for the logo texture beside}1", "x/", "-------", "x\r\n"},
+          {u"x -LOGO None.tpl", "0", "HOME\\x/"}}) {
+        home.Write("cfgs/vcinfopath.cfg", row.config);
+        for (const char* name : textures) home.Write(name, "-");
+        home.Write("b/arc/blyt/x", layout);
+        SCOPED_TRACE(Shown(row.line));
+        EXPECT_EQ(Run(row.line), row.told);
+        std::string now;
+        for (const char* name : textures) now += home.Read(name);
+        EXPECT_EQ(now, row.textures);
+        EXPECT_EQ(Shown(Replace_All(From_Utf8(home.Read("cfgs/vcinfopath.cfg")), home.Text(), u"HOME")), row.stored);
+        if (!row.told.ends_with('0')) { EXPECT_TRUE(home.Read("b/arc/blyt/x") == layout); }
+    }
+    std::filesystem::current_path(before);
+}
+
+TEST_F(BatchRuns, TellWhatWasOdd) {
+    const std::string header = "RLYT\xFE\xFF\0\x08\0\0\0\x10\0\x10\0\0"s;
+    const std::string no_layout = "{\\b/arc/blyt/x: Saved, but it does not begin as a layout file}0";
+    const std::string warned = "{\\b/arc/blyt/x: Saved, but bannersmith-inspect warns of what was written: ";
+    struct Row {
+        std::string file;
+        const char16_t* line;
+        std::string told;
+    };
+    for (const Row& row : {Row{header.substr(0, 11), u"-PAD 0", "{\\b/arc/blyt/x: Too short to be a layout}2"},
+                           {header.substr(0, 12), u"-PAD 0", no_layout},
+                           {header.substr(0, 15), u"-PAD 0", no_layout},
+                           {header, u"-PAD 0", "0"},
+                           {Boxes({u"T_VCTitle_ENG One"}), u"-TITLE Two", "0"},
+                           {Boxes({u"T_VCTitle_ENG One"}), u"-COLOR Aurora",
+                            warned + "no material T_VCTitle_ENG: its colors are written into text box T_VCTitle_ENG}0"},
+                           {Boxes({u"B 1111", u"B_ENG x"}), u"-H_B_NONE fresh",
+                            warned + "text box B: a text for it is written into B_ENG}0"},
+                           {Boxes({u"B 1111", u"B_ENG x"}), u"-H_B fresh", "0"}}) {
+        home.Write("b/arc/blyt/x", row.file);
+        EXPECT_EQ(Run(row.line), row.told);
+    }
+}
+
+/// One allocation after the other fails, until there is none left that could.
+TEST_F(BatchRuns, LoseNothingWithoutMemory) {
+    const std::string old = Seven_Language_Banner(), changed = Set_Text(old, "T_VCTitle_ENG", u"Long name"),
+                      fresh = Set_File_Len(changed);
+    const std::size_t files = home.Names().size();
+    bool lacked = true, told = false;
+    for (std::size_t allocation = 1; lacked; ++allocation) {
+        home.Write("b/arc/blyt/x", old);
+        home.Write("b/arc/timg/my_Back_x.tpl", "old");
+        std::string reason;
+        BatchRun run({home.Text(), u"-T_ENG Long name -LOGO Comet.tpl -PAD 0"},
+                     [&](const Failure& failure) { reason = failure.reason; });
+        allocations_left = allocation;
+        const int status = run.Run();
+        lacked = std::exchange(allocations_left, 0) == 0;
+        const std::string now = home.Read("b/arc/blyt/x") + home.Read("b/arc/timg/my_Back_x.tpl");
+        EXPECT_TRUE(now == (status == BatchRun::Done ? fresh + "comet" : old + "old")) << allocation;
+        EXPECT_EQ(reason, status == BatchRun::Done ? "" : "Not enough memory") << allocation;
+        EXPECT_EQ(home.Names().size(), files) << allocation;
+    }
+    home.Write("b/arc/blyt/x", old);
+    lacked = true;
+    for (std::size_t allocation = 1; lacked; ++allocation) {
+        Form1 window({home.Text(), u""}, desktop);
+        allocations_left = allocation;
+        try {
+            window.txtSrc.Set(u"\\b/arc/blyt/x");
+            window.info.txtName.Set(u"Long name");
+            window.cmdSet_Click(0);
+        } catch (const std::bad_alloc&) {}
+        lacked = std::exchange(allocations_left, 0) == 0;
+        told = told || window.lblLoaded.Caption() == u"No layout loaded: Not enough memory";
+        EXPECT_TRUE(window.BrlytData.empty() || window.BrlytData == old || window.BrlytData == changed) << allocation;
+    }
+    EXPECT_TRUE(told);
+}
+
 }  // namespace
+
+void* operator new(std::size_t size) {
+    const bool fails = size > 4096 && allocations_left > 0 && --allocations_left == 0;
+    void* const place = fails ? nullptr : std::malloc(size);
+    if (place == nullptr) throw std::bad_alloc();
+    return place;
+}
+[[gnu::noinline]] void operator delete(void* place) noexcept { std::free(place); }
+[[gnu::noinline]] void operator delete(void* place, std::size_t) noexcept { std::free(place); }

@@ -14,7 +14,7 @@ import sys
 import tempfile
 
 USER_PAGES = ["docs/manual.md", "docs/messages.md"]
-TOOLS = ["operate", "make-layout"]  # of this project; a released folder is tried without them
+TOOLS = []  # of this project; a released folder is tried without them
 PROGRAMS = ["bannersmith", "bannersmith-window", "bannersmith-inspect"]
 # A text of three words or more (four without a capital), or one that ends in "!", is a message; what holds a line
 # break or a | is none.

@@ -27,16 +27,15 @@ SAMPLES = "samples/seven_languages/arc/"
 BANNER, TEXTURE = SAMPLES + "blyt/banner.brlyt", SAMPLES + "timg/my_Back_logo.tpl"
 CONFIG, SCHEME, NEW_SCHEME = "cfgs/vcinfopath.cfg", "schemes/Midnight.vccs", "schemes/New.vccs"
 FILES = (BANNER, TEXTURE, CONFIG, SCHEME, NEW_SCHEME)
-SAVE_SCHEME = b"set txtSrc none\nclick cmdEditColor\nanswer %s\nclick colors.cmdSaveScheme\n"
 
-# What is run one after the other, what it reads, and its status.
+# What is run one after the other, and its status.
 RUNS = (
-    (["./bannersmith", BANNER, "-LOGO", "Comet.tpl", "-TITLE", "The first"], b"", 0),
-    (["./bannersmith", "-LOGO", "Waves.tpl", "-TITLE", "The second", "-PAD", "40000"], b"", 0),
-    (["./bannersmith", "-LOGO", "Comet.tpl", "-COLOR", "Nothing"], b"", 1),
-    (["./bannersmith", "-TITLE", "The third", "-PAD", "0"], b"", 0),
-    (["./operate"], SAVE_SCHEME % b"New", 0),
-    (["./operate"], SAVE_SCHEME % b"Midnight", 0),
+    (["./bannersmith", BANNER, "-LOGO", "Comet.tpl", "-TITLE", "The first"], 0),
+    (["./bannersmith", "-LOGO", "Waves.tpl", "-TITLE", "The second", "-PAD", "40000"], 0),
+    (["./bannersmith", "-LOGO", "Comet.tpl", "-COLOR", "Nothing"], 1),
+    (["./bannersmith", "-TITLE", "The third", "-PAD", "0"], 0),
+    (["./save-scheme", "New"], 0),
+    (["./save-scheme", "Midnight"], 0),
 )
 
 
@@ -94,7 +93,7 @@ def record(work, program_folder, tools_folder):
     mount("vfat", devices[0], folder)
     shutil.copytree(program_folder, folder, dirs_exist_ok=True, copy_function=shutil.copyfile,
                     ignore=shutil.ignore_patterns("bannersmith-*"))
-    shutil.copyfile(os.path.join(tools_folder, "operate"), os.path.join(folder, "operate"))
+    shutil.copyfile(os.path.join(tools_folder, "save-scheme"), os.path.join(folder, "save-scheme"))
     unmount(folder)
     with open(card, "rb") as file:
         before = file.read()
@@ -103,8 +102,8 @@ def record(work, program_folder, tools_folder):
     run("dmsetup", "create", "card", "--table", "0 %d log-writes %s %s" % (sectors, *devices))
     mount("vfat", "/dev/dm-0", folder)
     states = [contents(folder)]
-    for command, typed, status in RUNS:
-        done = subprocess.run(command, cwd=folder, input=typed, capture_output=True)
+    for command, status in RUNS:
+        done = subprocess.run(command, cwd=folder, capture_output=True)
         assert done.returncode == status, (command, done)
         run("dmsetup", "message", "card", "0", "mark", "ended")
         states.append(contents(folder))

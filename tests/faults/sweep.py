@@ -3,14 +3,15 @@
 and makes each call fail, and looks at what is on disk afterwards; also with two runs at once, and with what a killed run
 leaves behind.
 
-PROGRAM-FOLDER: where bannersmith and the samples are. TOOLS-FOLDER: where operate is, which saves a scheme as a person
-does. Needs strace, whose fault injection does the work.
+PROGRAM-FOLDER: where bannersmith and the samples are. TOOLS-FOLDER: where save-scheme is. Needs strace, whose fault
+injection does the work.
 """
 import collections
 import concurrent.futures
 import fcntl
 import itertools
 import os
+import pathlib
 import re
 import shutil
 import signal
@@ -21,40 +22,32 @@ import time
 
 BANNER = "samples/seven_languages/arc/blyt/banner.brlyt"
 TEXTURE = "samples/seven_languages/arc/timg/my_Back_logo.tpl"
-LOGO = "logos/Comet.tpl"
 CHANNEL = "samples/channel/00000000.app"
 CONFIG = "cfgs/vcinfopath.cfg"
-SCHEME, NEW_SCHEME = "schemes/Swept.vccs", "schemes/New.vccs"
 ERRORS = ("ENOSPC", "EIO", "EACCES", "EDQUOT", "EINTR")
 SIGNALS = ("INT", "TERM", "HUP", "QUIT")
-CALLS = "%file,%desc"
+STRACE = ("strace", "-qq", "-o")
 # As on a card: no second names, no trade of places, no modes.
 CARD = ("link,linkat:error=EPERM", "renameat2:error=EINVAL", "fchmod:error=EPERM")
 
-# A layout that cannot be read would leave other colours to save.
-SAVE_SCHEME = b"set txtSrc none\nclick cmdEditColor\nanswer %s\nclick colors.cmdSaveScheme\n"
-
-# What is run in a copy of the folder, what it reads, the files that it replaces, its status, and what fails all along.
+# What is run in a copy of the folder, the files that it replaces, and what fails all along.
 SCENARIOS = {
-    "layout": (["./bannersmith", "-TITLE", "Swept", "-YEAR", "2001"], b"", [BANNER], 0, ()),
-    "logo": (["./bannersmith", "-LOGO", "Comet.tpl", "-TITLE", "Swept"], b"", [BANNER, TEXTURE], 0, ()),
-    "logo on a card": (["./bannersmith", "-LOGO", "Comet.tpl", "-TITLE", "Swept"], b"", [BANNER, TEXTURE], 0, CARD),
-    "archive": (["./bannersmith", "-LOGO", "Comet.tpl", "-TITLE", "Swept"], b"", [CHANNEL], 0, ()),
-    "configuration": (["./bannersmith", BANNER, "-PAD", "0"], b"", [BANNER, CONFIG], 0, ()),
-    "new scheme": (["./operate"], SAVE_SCHEME % b"New", [NEW_SCHEME], 0, ()),
+    "layout": (["./bannersmith", "-TITLE", "Swept", "-YEAR", "2001"], [BANNER], ()),
+    "logo": (["./bannersmith", "-LOGO", "Comet.tpl", "-TITLE", "Swept"], [BANNER, TEXTURE], ()),
+    "logo on a card": (["./bannersmith", "-LOGO", "Comet.tpl", "-TITLE", "Swept"], [BANNER, TEXTURE], CARD),
+    "archive": (["./bannersmith", CHANNEL, "-LOGO", "Comet.tpl", "-TITLE", "Swept"], [CHANNEL, CONFIG], ()),
+    "configuration": (["./bannersmith", BANNER, "-TITLE", "Swept"], [BANNER, CONFIG], ()),
+    "new scheme": (["./save-scheme", "New"], ["schemes/New.vccs"], ()),
 }
 
 
-def read(path):
-    """The file's bytes, None where there is none."""
-    if not os.path.exists(path):
-        return None
-    with open(path, "rb") as file:
-        return file.read()
+def contents(folder, files):
+    """Each file's bytes, None where there is none."""
+    return {file: (folder / file).read_bytes() if (folder / file).exists() else None for file in files}
 
 
 def files_of(folder):
-    return {os.path.relpath(os.path.join(at, name), folder) for at, _, names in os.walk(folder) for name in names}
+    return {str(path.relative_to(folder)) for path in folder.rglob("*") if path.is_file()}
 
 
 def copy_file(source, target):
@@ -63,31 +56,30 @@ def copy_file(source, target):
     (os.link if os.access(source, os.X_OK) else shutil.copy2)(source, target)
 
 
+def run(folder, *command, wrapper=(), check=False):
+    return subprocess.run([*wrapper, *command], cwd=folder, capture_output=True, timeout=60, check=check)
+
+
 class Scenario:
     def __init__(self, name, base, work):
-        self.name, (command, self.input, self.replaced, status, conditions) = name, SCENARIOS[name]
+        self.name, (command, self.replaced, conditions) = name, SCENARIOS[name]
         self.conditions = [word for condition in conditions for word in ("-e", "inject=" + condition)]
         self.command, self.failing = command, {name for each in conditions for name in each.split(":")[0].split(",")}
         self.base, self.work = base, work
-        self.old = {file: read(os.path.join(base, file)) for file in self.replaced}
-        folder = self.copy("clean")
-        trace = os.path.join(work, name + ".trace")
-        done = subprocess.run(["strace", "-qq", "-o", trace, "-e", "trace=" + CALLS, *self.conditions, *command], cwd=folder,
-                              input=self.input, capture_output=True)
-        assert done.returncode == status, done
-        self.new = {file: read(os.path.join(folder, file)) for file in self.replaced}
-        self.clean = folder
-        order = re.findall(r"^(fsync|renameat2|rename|unlink)\(", read(trace).decode("latin-1"), re.M)
+        self.old, self.clean = contents(base, self.replaced), self.copy("clean")
+        trace = work / (name + ".trace")
+        run(self.clean, *command, wrapper=(*STRACE, trace, "-e", "trace=%file,%desc", *self.conditions), check=True)
+        self.new, traced = contents(self.clean, self.replaced), trace.read_text("latin-1")
+        assert all(self.new[file] != self.old[file] for file in self.replaced), self.new.keys()
+        order = re.findall(r"^(fsync|renameat2|rename|unlink)\(", traced, re.M)
         if name == "layout":  # the file, its place, its folder, the file again; only then the old one goes
             assert order == ["fsync", "renameat2", "fsync", "fsync", "unlink"], order
         # The first call starts the program; the telling of what failed cannot be told when it fails itself.
-        self.calls = re.findall(r"^(\w+)\((?!2, \"banner)", read(trace).decode("latin-1"), re.M)[1:]
-        shutil.rmtree(folder)
+        self.calls = re.findall(r"^(\w+)\((?!2, \"banner)", traced, re.M)[1:]
+        shutil.rmtree(self.clean)
 
     def copy(self, label):
-        folder = os.path.join(self.work, self.name + "_" + label)
-        shutil.copytree(self.base, folder, copy_function=copy_file)
-        return folder
+        return shutil.copytree(self.base, self.work / (self.name + "_" + label), copy_function=copy_file)
 
     def faults(self):
         """Each call by its name and its ordinal among those of the name, killed once and failing in each way."""
@@ -109,17 +101,16 @@ class Scenario:
         fault = "inject=%s:%s:when=%d" % (call, effect, ordinal)
         if call in self.failing:
             fault = "inject=%s:%s" % (call, effect)  # each of them, as no call can be told to fail and to be killed
-        done = subprocess.run(["strace", "-qq", "-o", "/dev/null", *self.conditions, "-e", fault, *self.command], cwd=folder,
-                              input=self.input, capture_output=True, timeout=60)
+        done = run(folder, *self.command, wrapper=(*STRACE, "/dev/null", *self.conditions, "-e", fault))
         wrong = list(self.judge(folder, before, done, call, effect))
         shutil.rmtree(folder)
         return ["%s, %s: %s" % (self.name, label, what) for what in wrong]
 
     def judge(self, folder, before, done, call, effect):
         errors = done.stderr.decode()
-        now = {file: read(os.path.join(folder, file)) for file in self.replaced}
+        now = contents(folder, self.replaced)
         # The configuration holds the folder's path.
-        new = {file: contents.replace(self.clean.encode(), folder.encode()) for file, contents in self.new.items()}
+        new = {file: old.replace(bytes(self.clean), bytes(folder)) for file, old in self.new.items()}
         for file in self.replaced:
             if now[file] not in (self.old[file], new[file]):
                 yield file + " is neither the old nor the new one"
@@ -147,132 +138,85 @@ class Scenario:
             yield "says done, but it is not safe from a power failure"
 
 
-def run(base, *command, wrapper=(), **more):
-    return subprocess.run([*wrapper, "./bannersmith", *command], cwd=base, capture_output=True, timeout=60, **more)
-
-
 def two_at_once(base):
     """Neither of two runs loses what the other wrote, whichever is first, nor takes its files away."""
     old = files_of(base)
     for number in range(150):
-        name = "%d" % number
-        commands = (["-T_ENG", "one" + name, "-LOGO", "Comet.tpl"], ["-T_GER", "two" + name],
+        commands = (["-T_ENG", "one%d" % number, "-LOGO", "Comet.tpl"], ["-T_GER", "two%d" % number],
                     ["-T_FRA", "none", "-LOGO", "Waves.tpl", "-PAD", "much"])
         runs = [subprocess.Popen(["./bannersmith", *command], cwd=base, stderr=subprocess.DEVNULL) for command in commands]
         statuses = [each.wait() for each in runs]
-        layout = read(os.path.join(base, BANNER))
-        kept = [text + name in layout.decode("utf-16-be", "replace") for text in ("one", "two")]
+        layout = (base / BANNER).read_bytes().decode("utf-16-be", "replace")
+        kept = ["%s%d" % (text, number) in layout for text in ("one", "two")]
         if statuses != [0, 0, 1] or not all(kept) or files_of(base) != old:
             yield "two runs at once: %s, %s, %s" % (statuses, kept, sorted(files_of(base) ^ old))
-        if read(os.path.join(base, TEXTURE)) != read(os.path.join(base, LOGO)):
+        if (base / TEXTURE).read_bytes() != (base / "logos/Comet.tpl").read_bytes():
             yield "two runs at once: another texture"
 
 
 def held_elsewhere(base):
-    """A folder that stays held is told in time; a file that another program changes is not written over."""
-    folder, layout = os.path.dirname(os.path.join(base, BANNER)), os.path.join(base, BANNER)
-    holder = os.open(folder, os.O_RDONLY)
+    """A folder that stays held is told in time."""
+    before, start = contents(base, [BANNER]), time.monotonic()
+    holder = os.open((base / BANNER).parent, os.O_RDONLY)
     fcntl.flock(holder, fcntl.LOCK_EX)
-    old, start = read(layout), time.monotonic()
-    done = run(base, "-TITLE", "Held")
+    done = run(base, "./bannersmith", "-TITLE", "Held")
     os.close(holder)
-    if done.returncode != 1 or b"Another run of Bannersmith" not in done.stderr or read(layout) != old:
+    if done.returncode != 1 or b"Another run of Bannersmith" not in done.stderr or contents(base, [BANNER]) != before:
         yield "held: status %d, %r" % (done.returncode, done.stderr)
     if not 5 < time.monotonic() - start < 20:
         yield "held: %d seconds" % (time.monotonic() - start)
+
+
+def changed_elsewhere(base):
+    """A file that another program changes is not written over."""
     # Between load and save the configuration is looked at; that is the second time.
-    trace = os.path.join(base, "trace")
-    run(base, "-PAD", "0", wrapper=("strace", "-qq", "-o", trace, "-e", "trace=openat"))
-    opened = [number for number, line in enumerate(open(trace, encoding="utf-8"), 1) if CONFIG in line]
-    os.remove(trace)
-    slow = ("strace", "-qq", "-o", "/dev/null", "-e", "inject=openat:delay_enter=1s:when=%d" % opened[1])
+    trace, layout = base / "trace", base / BANNER
+    run(base, "./bannersmith", "-PAD", "0", wrapper=(*STRACE, trace, "-e", "trace=openat"))
+    opened = [number for number, line in enumerate(trace.read_text().splitlines(), 1) if CONFIG in line]
+    trace.unlink()
+    slow = (*STRACE, "/dev/null", "-e", "inject=openat:delay_enter=1s:when=%d" % opened[1])
     changing = subprocess.Popen([*slow, "./bannersmith", "-TITLE", "Slow"], cwd=base, stderr=subprocess.PIPE)
     time.sleep(0.5)
-    with open(layout, "ab") as file:
-        file.write(b"more")
-    changed = read(layout)
+    layout.write_bytes(layout.read_bytes() + b"more")
+    changed = layout.read_bytes()
     _, errors = changing.communicate()
-    if changing.returncode != 1 or b"changed by another program" not in errors or read(layout) != changed:
+    if changing.returncode != 1 or b"changed by another program" not in errors or layout.read_bytes() != changed:
         yield "changed: status %d, %r" % (changing.returncode, errors)
-    with open(layout, "wb") as file:
-        file.write(old)
 
 
 def litter(base):
     """What a killed run leaves goes with the next save in its folder; what a user was told of stays."""
-    folder, old = os.path.dirname(os.path.join(base, BANNER)), files_of(base)
-    ours = [os.path.join(folder, name) for name in (".bannersmith-1-0", ".bannersmith-aB3xY9", ".bannersmith-old-1-0")]
-    for path in ours:
-        with open(path, "wb") as file:
-            file.write(b"left")
-    done = run(base, "-PAD", "0")
-    left = files_of(base) - old
-    if done.returncode != 0 or left != {os.path.relpath(ours[2], base)}:
-        yield "litter: status %d, %s" % (done.returncode, sorted(left))
-    os.remove(ours[2])
+    folder, old = (base / BANNER).parent, files_of(base)
+    for name in (".bannersmith-1-0", ".bannersmith-aB3xY9", ".bannersmith-old-1-0"):
+        (folder / name).write_text("left")
+    done = run(base, "./bannersmith", "-PAD", "0")
+    left = [os.path.basename(name) for name in files_of(base) - old]
+    if done.returncode != 0 or left != [".bannersmith-old-1-0"]:
+        yield "litter: status %d, %s" % (done.returncode, left)
 
 
 def closed_pipe(base):
     """A message that nobody reads."""
-    banner, texture = (read(os.path.join(base, file)) for file in (BANNER, TEXTURE))
+    before = contents(base, [BANNER, TEXTURE])
     reader, writer = os.pipe()
     os.close(reader)
     done = subprocess.run(["./bannersmith", "-LOGO", "Waves.tpl", "-PAD", "much"], cwd=base, stderr=writer)
     os.close(writer)
-    now = [read(os.path.join(base, file)) for file in (BANNER, TEXTURE)]
-    if done.returncode not in (1, -signal.SIGPIPE) or now != [banner, texture]:
+    if done.returncode not in (1, -signal.SIGPIPE) or contents(base, [BANNER, TEXTURE]) != before:
         yield "closed pipe: status %d" % done.returncode
-
-
-def without_memory(base):
-    """A layout for which memory lacks is told and left alone."""
-    layout = os.path.join(base, "huge.brlyt")
-    with open(layout, "wb") as file:
-        file.write(b"RLYT")
-        file.truncate(60 << 20)
-    for memory, status in ((100000, 2), (170000, 1)):  # too little to load it, and to edit it
-        command = "ulimit -v %d; ./bannersmith huge.brlyt -TITLE x" % memory
-        done = subprocess.run(command, shell=True, cwd=base, capture_output=True)
-        if done.returncode != status or not done.stderr.endswith(b"huge.brlyt: Not enough memory\n"):
-            yield "without memory: status %d, %r" % (done.returncode, done.stderr)
-    with open(os.path.join(base, CONFIG), "wb") as file:
-        file.write(b"\\huge.brlyt\r\n")
-    done = subprocess.run("ulimit -v 100000; ./operate", shell=True, cwd=base, input=b"show lblLoaded\nclick cmdSave\n",
-                          capture_output=True)
-    if b"lblLoaded: No layout loaded: Not enough memory\n" != done.stdout or b"huge.brlyt: Not enough" not in done.stderr:
-        yield "a window without memory: status %d, %r, %r" % (done.returncode, done.stdout, done.stderr)
-    described = b"box T_VCTitle_ENG One\nfill 40000000\nsection gre1\n"
-    with open(os.path.join(base, "large.brlyt"), "wb") as file:
-        subprocess.run(["./make-layout"], cwd=base, input=described, stdout=file, check=True)
-    texts = set()
-    for memory in range(100000, 300000, 10000):
-        done = subprocess.run("ulimit -v %d; ./operate" % memory, shell=True, cwd=base, capture_output=True, input=
-                              b"set txtSrc large.brlyt\nset txtName Two\nshow lblLoaded\nclick cmdSetAll 0\n"
-                              b"read T_VCTitle_ENG\n")
-        loaded, text = done.stdout.decode().splitlines()
-        if "No layout" not in loaded:
-            texts.add(text.partition(": ")[2])
-    if texts != {"One", "Two"}:
-        yield "Set without memory: %s" % texts
-    if os.path.getsize(layout) != 60 << 20 or read(layout).count(0) != (60 << 20) - 4:
-        yield "without memory: the layout was changed"
 
 
 def main():
     program_folder, tools_folder = sys.argv[1:]
-    with tempfile.TemporaryDirectory() as work:
-        base = os.path.join(work, "base")
+    with tempfile.TemporaryDirectory() as folder:
+        work, base = pathlib.Path(folder), pathlib.Path(folder, "base")
         shutil.copytree(program_folder, base, ignore=shutil.ignore_patterns("bannersmith-*"))
-        for tool in ("operate", "make-layout"):
-            shutil.copy(os.path.join(tools_folder, tool), base)
-        with open(os.path.join(base, CONFIG), "wb") as file:
-            file.write(("\\" + BANNER.replace("/", "\\") + "\r\n").encode())
-        with open(os.path.join(base, SCHEME), "wb") as file:
-            file.write(b" 0  0  0  0  0  0 \r\n" * 19)
+        shutil.copy(os.path.join(tools_folder, "save-scheme"), base)
+        (base / CONFIG).write_bytes(b"\\%s\r\n" % BANNER.replace("/", "\\").encode())
         runs = [(s, fault) for s in (Scenario(name, base, work) for name in SCENARIOS) for fault in s.faults()]
         with concurrent.futures.ThreadPoolExecutor(os.cpu_count() * 2) as pool:
             wrong = [what for found in pool.map(lambda run: run[0].run(run[1]), runs) for what in found]
-        for test in (two_at_once, held_elsewhere, litter, closed_pipe, without_memory):
+        for test in (two_at_once, held_elsewhere, changed_elsewhere, litter, closed_pipe):
             wrong += test(base)
     kinds = collections.Counter(fault[2].split("=")[0] for _, fault in runs)
     print("%d signals, half of them kills, and %d failures" % (kinds["signal"], kinds["error"]))
