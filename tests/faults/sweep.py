@@ -134,7 +134,7 @@ class Scenario:
         if done.returncode > 0 and not re.search(r"^bannersmith: .+: .+$", errors, re.M):
             yield "no message: status %d, %r" % (done.returncode, errors)
         # Of the configuration, which nobody asked to have written, nothing is told.
-        if done.returncode == 0 and call == "fsync" and effect != "error=EINTR" and self.name != "configuration":
+        if done.returncode == 0 and call == "fsync" and effect != "error=EINTR" and CONFIG not in self.replaced:
             yield "says done, but it is not safe from a power failure"
 
 
