@@ -733,24 +733,39 @@ TEST_F(BatchRuns, TellWhatWasOdd) {
     const std::string header = "RLYT\xFE\xFF\0\x08\0\0\0\x10\0\x10\0\0"s;
     const std::string no_layout = "{\\b/arc/blyt/x: Saved, but it does not begin as a layout file}0";
     const std::string warned = "{\\b/arc/blyt/x: Saved, but bannersmith-inspect warns of what was written: ";
-    struct Row {
-        std::string file;
-        const char16_t* line;
-        std::string told;
-    };
-    for (const Row& row : {Row{header.substr(0, 11), u"-PAD 0", "{\\b/arc/blyt/x: Too short to be a layout}2"},
-                           {header.substr(0, 12), u"-PAD 0", no_layout},
-                           {header.substr(0, 15), u"-PAD 0", no_layout},
-                           {header, u"-PAD 0", "0"},
-                           {Boxes({u"T_VCTitle_ENG One"}), u"-TITLE Two", "0"},
-                           {Boxes({u"T_VCTitle_ENG One"}), u"-COLOR Aurora",
-                            warned + "no material T_VCTitle_ENG: its colors are written into text box T_VCTitle_ENG}0"},
-                           {Boxes({u"B 1111", u"B_ENG x"}), u"-H_B_NONE fresh",
-                            warned + "text box B: a text for it is written into B_ENG}0"},
-                           {Boxes({u"B 1111", u"B_ENG x"}), u"-H_B fresh", "0"}}) {
-        home.Write("b/arc/blyt/x", row.file);
-        EXPECT_EQ(Run(row.line), row.told);
+    const std::tuple<std::string, const char16_t*, std::string> rows[] = {
+        {header.substr(0, 11), u"-PAD 0", "{\\b/arc/blyt/x: Too short to be a layout}2"},
+        {header.substr(0, 12), u"-PAD 0", no_layout},
+        {header.substr(0, 15), u"-PAD 0", no_layout},
+        {header, u"-PAD 0", "0"},
+        {Boxes({u"T_VCTitle_ENG One"}), u"-TITLE Two", "0"},
+        {Boxes({u"T_VCTitle_ENG One"}), u"-COLOR Aurora",
+         warned + "no material T_VCTitle_ENG: its colors are written into text box T_VCTitle_ENG}0"},
+        {Boxes({u"B 1111", u"B_ENG x"}), u"-H_B_NONE new",
+         warned + "text box B: a text for it is written into B_ENG}0"},
+        {Boxes({u"B 1111", u"B_ENG x"}), u"-H_B new", "0"}};
+    for (const auto& [file, line, told] : rows) {
+        home.Write("b/arc/blyt/x", file);
+        EXPECT_EQ(Run(line), told);
     }
+}
+
+TEST_F(BatchRuns, LeaveWhatOthersWroteAndNothingElse) {
+    const auto left = [&](const char* name) { return "b/arc/blyt/.bannersmith-"s + name; };
+    for (const char* name : {"1-0", "aB3xY9", "old-1-0"}) home.Write(left(name), "left");
+    EXPECT_EQ(Run(u"-PAD 0"), "0");
+    EXPECT_EQ(home.Read(left("1-0")) + home.Read(left("aB3xY9")) + home.Read(left("old-1-0")), "(none)(none)left");
+    // The hyphen is told between load and save.
+    home.Write("b/arc/blyt/x-y", "");
+    home.Write("cfgs/vcinfopath.cfg", To_Utf8(home.Text()) + "\\b/arc/blyt/x");
+    std::string told;
+    const auto change = [&](const Failure& failure) {
+        if (told.empty()) home.Write("b/arc/blyt/x", "other");
+        told += failure.reason;
+    };
+    EXPECT_EQ(BatchRun({home.Text(), u"b/arc/blyt/x-y -TITLE One"}, change).Run(), BatchRun::Failed);
+    EXPECT_TRUE(told.ends_with("Was changed by another program since it was loaded")) << told;
+    EXPECT_EQ(home.Read("b/arc/blyt/x"), "other");
 }
 
 /// One allocation after the other fails, until there is none left that could.
@@ -772,10 +787,8 @@ TEST_F(BatchRuns, LoseNothingWithoutMemory) {
         EXPECT_TRUE(now == (status == BatchRun::Done ? fresh + "comet" : old + "old")) << allocation;
         EXPECT_EQ(reason, status == BatchRun::Done ? "" : "Not enough memory") << allocation;
         EXPECT_EQ(home.Names().size(), files) << allocation;
-    }
-    home.Write("b/arc/blyt/x", old);
-    lacked = true;
-    for (std::size_t allocation = 1; lacked; ++allocation) {
+
+        home.Write("b/arc/blyt/x", old);
         Form1 window({home.Text(), u""}, desktop);
         allocations_left = allocation;
         try {
@@ -783,7 +796,7 @@ TEST_F(BatchRuns, LoseNothingWithoutMemory) {
             window.info.txtName.Set(u"Long name");
             window.cmdSet_Click(0);
         } catch (const std::bad_alloc&) {}
-        lacked = std::exchange(allocations_left, 0) == 0;
+        lacked = std::exchange(allocations_left, 0) == 0 || lacked;
         told = told || window.lblLoaded.Caption() == u"No layout loaded: Not enough memory";
         EXPECT_TRUE(window.BrlytData.empty() || window.BrlytData == old || window.BrlytData == changed) << allocation;
     }

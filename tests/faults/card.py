@@ -7,8 +7,11 @@ an ordinary program (Debian's user-mode-linux, with this system's files as its o
 with 77, which counts as skipped.
 """
 import collections
+import contextlib
 import ctypes
 import os
+import pathlib
+import shlex
 import shutil
 import struct
 import subprocess
@@ -18,10 +21,10 @@ import traceback
 
 MODULES = ("drivers/block/loop", "drivers/md/dm-mod", "drivers/md/dm-log-writes", "fs/nls/nls_cp437", "fs/nls/nls_ascii",
            "fs/nls/nls_utf8", "fs/fat/fat", "fs/fat/vfat")
-NEEDED = ("linux.uml", "dmsetup", "mkfs.vfat", "fsck.vfat", "losetup")
-FLUSH, MARK = 1, 8
-SECTOR = 512
-LIBC = ctypes.CDLL(None, use_errno=True)
+NEEDED = ("linux.uml", "dmsetup", "mkfs.vfat", "fsck.vfat", "losetup", "insmod")
+MARK, SECTOR = 8, 512
+VFAT = "iocharset=ascii"
+LIBC = ctypes.CDLL(None)
 
 SAMPLES = "samples/seven_languages/arc/"
 BANNER, TEXTURE = SAMPLES + "blyt/banner.brlyt", SAMPLES + "timg/my_Back_logo.tpl"
@@ -39,31 +42,21 @@ RUNS = (
 )
 
 
-def run(*command, **more):
-    return subprocess.run(command, check=True, capture_output=True, **more).stdout.decode()
+def run(*command):
+    return subprocess.run(command, check=True, capture_output=True).stdout.decode()
 
 
-def mount(kind, what, where, read_only=False):
-    options = b"iocharset=ascii" if kind == "vfat" else b""
-    os.makedirs(where, exist_ok=True)
-    if LIBC.mount(what.encode(), where.encode(), kind.encode(), int(read_only), options) != 0:
-        raise OSError(ctypes.get_errno(), "mount " + where)
-
-
-def unmount(where):
-    if LIBC.umount(where.encode()) != 0:
-        raise OSError(ctypes.get_errno(), "umount " + where)
+def mount(kind, what, where, options="rw"):
+    where.mkdir(exist_ok=True)
+    run("mount", "-t", kind, "-o", options, what, where)
 
 
 def contents(folder):
     """Each file's bytes, None where there is none or it cannot be read whole."""
-    found = {}
+    found = dict.fromkeys(FILES)
     for name in FILES:
-        try:
-            with open(os.path.join(folder, name), "rb") as file:
-                found[name] = file.read()
-        except OSError:
-            found[name] = None
+        with contextlib.suppress(OSError):
+            found[name] = (folder / name).read_bytes()
     return found
 
 
@@ -73,44 +66,38 @@ def log_entries(log):
     assert magic == 0x6A736677736872 and size == SECTOR, "no log"
     at = SECTOR
     for _ in range(count):
-        sector, sectors, flags, length = struct.unpack_from("<QQQQ", log, at)
-        if flags & MARK:
-            yield sector, flags, log[at + 32:at + 32 + length]
-            at += SECTOR
-        else:
-            yield sector, flags, log[at + SECTOR:at + SECTOR + sectors * SECTOR]
-            at += SECTOR + sectors * SECTOR
+        sector, sectors, flags, _ = struct.unpack_from("<QQQQ", log, at)
+        end = at + SECTOR + (0 if flags & MARK else sectors * SECTOR)
+        yield sector, flags, log[at + SECTOR:end]
+        at = end
 
 
 def record(work, program_folder, tools_folder):
     """Makes the runs on a card; returns the card before them, what it received, and the files after each run."""
-    card, log, folder = (os.path.join(work, name) for name in ("card.img", "log.img", "card"))
-    for path, size in ((card, 40 << 20), (log, 100 << 20)):
-        with open(path, "wb") as file:
-            file.truncate(size)
+    card, log, folder = work / "card.img", work / "log.img", work / "card"
+    run("truncate", "-s", "40M", card)
+    run("truncate", "-s", "100M", log)
     run("mkfs.vfat", "-F", "32", "-s", "1", card)
     devices = [run("losetup", "-f", "--show", path).strip() for path in (card, log)]
-    mount("vfat", devices[0], folder)
+    mount("vfat", devices[0], folder, VFAT)
     shutil.copytree(program_folder, folder, dirs_exist_ok=True, copy_function=shutil.copyfile,
                     ignore=shutil.ignore_patterns("bannersmith-*"))
-    shutil.copyfile(os.path.join(tools_folder, "save-scheme"), os.path.join(folder, "save-scheme"))
-    unmount(folder)
-    with open(card, "rb") as file:
-        before = file.read()
+    shutil.copyfile(tools_folder + "/save-scheme", folder / "save-scheme")
+    run("umount", folder)
+    before = card.read_bytes()
 
     sectors = len(before) // SECTOR
     run("dmsetup", "create", "card", "--table", "0 %d log-writes %s %s" % (sectors, *devices))
-    mount("vfat", "/dev/dm-0", folder)
+    mount("vfat", "/dev/dm-0", folder, VFAT)
     states = [contents(folder)]
     for command, status in RUNS:
         done = subprocess.run(command, cwd=folder, capture_output=True)
         assert done.returncode == status, (command, done)
         run("dmsetup", "message", "card", "0", "mark", "ended")
         states.append(contents(folder))
-    unmount(folder)
+    run("umount", folder)
     run("dmsetup", "remove", "card")
-    with open(log, "rb") as file:
-        return before, list(log_entries(file.read())), states
+    return before, list(log_entries(log.read_bytes())), states
 
 
 def judge(found, states, ended):
@@ -125,7 +112,7 @@ def judge(found, states, ended):
 
 def check(work, card, entries, states):
     """Looks at the card after each write, until the last run has ended."""
-    path, folder = os.path.join(work, "pulled.img"), os.path.join(work, "pulled")
+    path, folder = work / "pulled.img", work / "pulled"
     prefixes, ended, wrong = 0, 0, collections.Counter()
     with open(path, "wb", buffering=0) as image:
         image.write(card)
@@ -138,11 +125,9 @@ def check(work, card, entries, states):
                 os.pwrite(image.fileno(), data, sector * SECTOR)
             prefixes += 1
             checked = subprocess.run(["fsck.vfat", "-n", path], capture_output=True).stdout.decode()
-            device = run("losetup", "-f", "--show", "-r", path).strip()
-            mount("vfat", device, folder, read_only=True)
+            mount("vfat", path, folder, VFAT + ",loop,ro")
             found = list(judge(contents(folder), states, ended))
-            unmount(folder)
-            run("losetup", "-d", device)
+            run("umount", folder)
             found += [what for what in ("share clusters", "ontains a free cluster") if what in checked]
             wrong += collections.Counter("in run %d: %s" % (ended + 1, what) for what in found)
     print("%d writes to the card; wrong after a write:" % prefixes, dict(wrong) or "nothing")
@@ -152,15 +137,13 @@ def check(work, card, entries, states):
 def inside(program_folder, tools_folder, work):
     """The first process of the Linux that has the card."""
     os.environ["PATH"] = "/usr/sbin:/usr/bin:/sbin:/bin"
-    for kind, where in (("proc", "/proc"), ("sysfs", "/sys"), ("tmpfs", work + "/memory")):
+    memory = pathlib.Path(work, "memory")
+    for kind, where in (("proc", pathlib.Path("/proc")), ("sysfs", pathlib.Path("/sys")), ("tmpfs", memory)):
         mount(kind, kind, where)
-    for module in MODULES:
-        path = "/usr/lib/uml/modules/%s/kernel/%s.ko" % (os.uname().release, module)
-        with open(path, "rb") as file:
-            LIBC.syscall(313, file.fileno(), b"", 0)  # finit_module; mounting tells what could not be loaded
-    card, entries, states = record(work + "/memory", program_folder, tools_folder)
-    if check(work + "/memory", card, entries, states):
-        open(work + "/passed", "w").close()
+    for module in MODULES:  # mounting tells what could not be loaded
+        subprocess.run(["insmod", "/usr/lib/uml/modules/%s/kernel/%s.ko" % (os.uname().release, module)], check=False)
+    if check(memory, *record(memory, program_folder, tools_folder)):
+        pathlib.Path(work, "passed").touch()
 
 
 def main():
@@ -176,16 +159,15 @@ def main():
     if missing:
         print("SKIPPED: no card without " + ", ".join(missing))
         return 77
-    with tempfile.TemporaryDirectory(dir=os.path.dirname(os.path.abspath(sys.argv[2]))) as work:
-        programs, tools = (shutil.copytree(path, os.path.join(work, name)) for path, name in zip(sys.argv[1:], "pt"))
-        start = os.path.join(work, "start")
-        with open(start, "w", encoding="utf-8") as file:
-            file.write('#!/bin/sh\nexec %s "%s" --inside "%s" "%s" "%s"\n'
-                       % (sys.executable, os.path.abspath(__file__), programs, tools, work))
-        os.chmod(start, 0o755)
-        subprocess.run(["linux.uml", "mem=512M", "root=/dev/root", "rootfstype=hostfs", "rw", "init=" + start, "quiet",
+    folders = [os.path.abspath(folder) for folder in sys.argv[1:]]
+    with tempfile.TemporaryDirectory(dir=folders[1]) as work:
+        start, passed = pathlib.Path(work, "start"), pathlib.Path(work, "passed")
+        command = [sys.executable, os.path.abspath(__file__), "--inside", *folders, work]
+        start.write_text("#!/bin/sh\nexec " + shlex.join(command))
+        start.chmod(0o755)
+        subprocess.run(["linux.uml", "mem=512M", "root=/dev/root", "rootfstype=hostfs", "rw", "init=%s" % start, "quiet",
                         "con0=fd:0,fd:1", "con=null"], stdin=subprocess.DEVNULL, timeout=280, check=False)
-        return 0 if os.path.exists(os.path.join(work, "passed")) else 1
+        return 0 if passed.exists() else 1
 
 
 if __name__ == "__main__":

@@ -1,7 +1,6 @@
 #!/usr/bin/env python3
 """sweep.py PROGRAM-FOLDER TOOLS-FOLDER: kills the program before each of its file calls, interrupts it there by a signal
-and makes each call fail, and looks at what is on disk afterwards; also with two runs at once, and with what a killed run
-leaves behind.
+and makes each call fail, and looks at what is on disk afterwards; also with two runs at once.
 
 PROGRAM-FOLDER: where bannersmith and the samples are. TOOLS-FOLDER: where save-scheme is. Needs strace, whose fault
 injection does the work.
@@ -167,34 +166,6 @@ def held_elsewhere(base):
         yield "held: %d seconds" % (time.monotonic() - start)
 
 
-def changed_elsewhere(base):
-    """A file that another program changes is not written over."""
-    # Between load and save the configuration is looked at; that is the second time.
-    trace, layout = base / "trace", base / BANNER
-    run(base, "./bannersmith", "-PAD", "0", wrapper=(*STRACE, trace, "-e", "trace=openat"))
-    opened = [number for number, line in enumerate(trace.read_text().splitlines(), 1) if CONFIG in line]
-    trace.unlink()
-    slow = (*STRACE, "/dev/null", "-e", "inject=openat:delay_enter=1s:when=%d" % opened[1])
-    changing = subprocess.Popen([*slow, "./bannersmith", "-TITLE", "Slow"], cwd=base, stderr=subprocess.PIPE)
-    time.sleep(0.5)
-    layout.write_bytes(layout.read_bytes() + b"more")
-    changed = layout.read_bytes()
-    _, errors = changing.communicate()
-    if changing.returncode != 1 or b"changed by another program" not in errors or layout.read_bytes() != changed:
-        yield "changed: status %d, %r" % (changing.returncode, errors)
-
-
-def litter(base):
-    """What a killed run leaves goes with the next save in its folder; what a user was told of stays."""
-    folder, old = (base / BANNER).parent, files_of(base)
-    for name in (".bannersmith-1-0", ".bannersmith-aB3xY9", ".bannersmith-old-1-0"):
-        (folder / name).write_text("left")
-    done = run(base, "./bannersmith", "-PAD", "0")
-    left = [os.path.basename(name) for name in files_of(base) - old]
-    if done.returncode != 0 or left != [".bannersmith-old-1-0"]:
-        yield "litter: status %d, %s" % (done.returncode, left)
-
-
 def closed_pipe(base):
     """A message that nobody reads."""
     before = contents(base, [BANNER, TEXTURE])
@@ -216,7 +187,7 @@ def main():
         runs = [(s, fault) for s in (Scenario(name, base, work) for name in SCENARIOS) for fault in s.faults()]
         with concurrent.futures.ThreadPoolExecutor(os.cpu_count() * 2) as pool:
             wrong = [what for found in pool.map(lambda run: run[0].run(run[1]), runs) for what in found]
-        for test in (two_at_once, held_elsewhere, changed_elsewhere, litter, closed_pipe):
+        for test in (two_at_once, held_elsewhere, closed_pipe):
             wrong += test(base)
     kinds = collections.Counter(fault[2].split("=")[0] for _, fault in runs)
     print("%d signals, half of them kills, and %d failures" % (kinds["signal"], kinds["error"]))
