@@ -806,7 +806,7 @@ TEST_F(BatchRuns, LoseNothingWithoutMemory) {
 }  // namespace
 
 void* operator new(std::size_t size) {
-    const bool fails = size > 4096 && allocations_left > 0 && --allocations_left == 0;
+    const bool fails = size > 1024 && allocations_left > 0 && --allocations_left == 0;
     void* const place = fails ? nullptr : std::malloc(size);
     if (place == nullptr) throw std::bad_alloc();
     return place;

@@ -94,20 +94,27 @@ Result<> BatchRun::Save() {
     if (banner.Was_Changed_Elsewhere()) {
         return Failure{text_, "Was changed by another program since it was loaded"};
     }
+    const std::vector<std::string> odd = What_Is_Odd(*plan);  // may lack memory, so not afterwards
     if (auto saved = Save_Uninterrupted(banner, *plan, lock_, report_); !saved) return saved;
-    if (!plan->odd_logo.empty()) report_({text_, "Saved, but the " + plan->odd_logo});
-    Tell_What_Was_Odd(plan->Layout());
+    for (const std::string& what : odd) report_({text_, "Saved, but " + what});
     configuration_.Store(text_);  // which may be what was just edited
     return {};
 }
 
 /// Nobody has seen what was edited, so it is told when it looks wrong.
-void BatchRun::Tell_What_Was_Odd(std::string_view saved) const {
+std::vector<std::string> BatchRun::What_Is_Odd(const SavePlan& plan) const {
+    std::vector<std::string> odd;
+    if (!plan.odd_logo.empty()) odd.push_back("the " + plan.odd_logo);
+    const std::string warning = Is_Layout(opened_.banner.On_Disk())
+                                    ? Warning_Of(plan.Layout())
+                                    : "it does not begin as a layout file";
+    if (!warning.empty()) odd.push_back(warning);
+    return odd;
+}
+
+/// The first warning of what the edits have touched, as the saved layout has it; empty for none.
+std::string BatchRun::Warning_Of(std::string_view saved) const {
     const std::string& loaded = opened_.banner.On_Disk();
-    if (!Is_Layout(loaded)) {
-        report_({text_, "Saved, but it does not begin as a layout file"});
-        return;
-    }
     const LayoutInfo before = Read_Layout(loaded);
     const bool colored =
         std::any_of(command_.edits.begin(), command_.edits.end(),
@@ -123,9 +130,8 @@ void BatchRun::Tell_What_Was_Odd(std::string_view saved) const {
         });
     }
     warnings.insert(warnings.end(), of_texts.begin(), of_texts.end());
-    if (warnings.empty()) return;
-    report_({text_,
-             "Saved, but bannersmith-inspect warns of what was written: " + warnings.front().text});
+    if (warnings.empty()) return {};
+    return "bannersmith-inspect warns of what was written: " + warnings.front().text;
 }
 
 }  // namespace bannersmith

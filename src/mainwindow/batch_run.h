@@ -28,7 +28,8 @@ class BatchRun {
     void Take(const std::u16string& text);
     void Tell_Of_Cut_Path() const;
     Result<> Save();
-    void Tell_What_Was_Odd(std::string_view saved) const;
+    std::vector<std::string> What_Is_Odd(const SavePlan& plan) const;
+    std::string Warning_Of(std::string_view saved) const;
     int Fail(int status, const Failure& failure) const;
 
     Process process_;
