@@ -25,11 +25,17 @@ std::u16string Texture_Folder(std::u16string_view layout_path) {
 }  // namespace
 
 std::u16string Layout_File_Of(const std::u16string& path) {
+    if (!Is_Folder(path).Value_Or(false)) return path;
     const std::u16string folder = path + (Ends_In_Separator(path) ? u"" : u"\\");
-    for (const char16_t* file :
-         {u"arc\\blyt\\banner.brlyt", u"arc\\blyt\\icon.brlyt", u"meta\\banner.bin",
-          u"meta\\icon.bin", u"meta\\banner.bin\\arc\\blyt\\banner.brlyt"}) {
-        if (Ordinary_File_Exists(folder + file)) return folder + file;
+    for (const char16_t* inner : {u"arc\\blyt\\", u"meta\\banner.bin\\arc\\blyt\\"}) {
+        const auto layouts = List_Files(folder + inner, ".brlyt");
+        if (layouts && layouts->size() == 1) return folder + inner + layouts->front();
+        for (const char16_t* name : {u"banner.brlyt", u"icon.brlyt"}) {
+            if (Ordinary_File_Exists(folder + inner + name)) return folder + inner + name;
+        }
+    }
+    for (const char16_t* part : {u"meta\\banner.bin", u"meta\\icon.bin"}) {
+        if (Ordinary_File_Exists(folder + part)) return folder + part;
     }
     return path;
 }

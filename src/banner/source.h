@@ -13,7 +13,8 @@
 namespace bannersmith {
 
 /// The layout file that an unpacked channel's folder holds, or its part that has one: a folder with
-/// "arc" or "meta" in it. Any other path is returned as it is.
+/// "arc" (in it "blyt" with banner.brlyt, or the only layout, or icon.brlyt) or "meta" in it. Any
+/// other path is returned as it is.
 std::u16string Layout_File_Of(const std::u16string& path);
 
 /// A layout file, with its textures in the folder "timg" that lies beside the layout's folder; or

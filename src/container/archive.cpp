@@ -100,11 +100,13 @@ Result<> Archive::Read_Parts() {
 }
 
 std::optional<std::size_t> Archive::Find_Part(std::string_view name) const {
-    const auto found = std::find_if(parts_.begin(), parts_.end(), [&](const StoredPart& stored) {
-        return Small(Name_Of(stored.path)) == name;
-    });
-    if (found == parts_.end()) return std::nullopt;
-    return static_cast<std::size_t>(found - parts_.begin());
+    std::optional<std::size_t> found;
+    for (std::size_t i = parts_.size(); i-- > 0;) {
+        const std::string path = Small(parts_[i].path);
+        if (path == "meta/" + std::string(name)) return i;
+        if (Name_Of(path) == name) found = i;
+    }
+    return found;
 }
 
 Result<> Archive::Open_Layout_Part() {

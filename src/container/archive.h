@@ -47,7 +47,8 @@ class Archive {
     /// Whether `bytes` begin as such a file, or as one of its shells.
     static bool Begins_As_One(std::string_view bytes);
 
-    /// Reads the file and opens the part that has the layout: banner.bin, or else icon.bin, with
+    /// Reads the file and opens the part that has the layout: banner.bin, in "meta" first, or else
+    /// icon.bin, with
     /// arc/blyt/banner.brlyt, or else the only layout, or else icon.brlyt. Fails, without a
     /// subject, where the way to the layout is broken. A checksum that does not hold is no such
     /// failure.
