@@ -14,7 +14,6 @@ import sys
 import tempfile
 
 USER_PAGES = ["docs/manual.md", "docs/messages.md"]
-TOOLS = []  # of this project; a released folder is tried without them
 PROGRAMS = ["bannersmith", "bannersmith-window", "bannersmith-inspect"]
 # A text of three words or more (four without a capital), or one that ends in "!", is a message; what holds a line
 # break or a | is none.
@@ -127,10 +126,6 @@ def main():
             shutil.rmtree(folder, ignore_errors=True)
             for each in folders:
                 shutil.copytree(each, folder, dirs_exist_ok=True)
-            lacks = [tool for tool in TOOLS if "./" + tool in text and not os.path.exists(os.path.join(folder, tool))]
-            if lacks:
-                print("%s is not run: it needs %s" % (page, ", ".join(lacks)))
-                continue
             check("\n```console\n" in text, "%s has no example" % page)
             now = examples(page, text, folder, write)
             if write:
