@@ -12,7 +12,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* bytes, std::size_t si
     if (!archive && archive.Why().reason.empty()) std::abort();
     if (!archive) return 0;
     const auto look = [](const std::string&, std::string_view content) {
-        static_cast<void>(Describe_Texture(content));
+        static_cast<void>(Decode_Texture(content));
         return Result<>();
     };
     static_cast<void>(archive->Visit_Files(look));

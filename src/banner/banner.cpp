@@ -34,11 +34,6 @@ std::vector<std::string> Boxes_To_Rewrite() {
     return names;
 }
 
-std::string Described(const TextureInfo& texture) {
-    return std::string(texture.format) + " " + std::to_string(texture.width) + " x " +
-           std::to_string(texture.height);
-}
-
 /// What `SavePlan::odd_logo` says. What is no texture now was not one to begin with.
 std::string Odd_Logo(const BannerSource& source, const NewContents& logo) {
     const auto bytes = source.Texture(logo.path);
@@ -46,8 +41,8 @@ std::string Odd_Logo(const BannerSource& source, const NewContents& logo) {
     const auto fresh = Describe_Texture(logo.bytes);
     if (!old) return {};
     if (!fresh) return "logo is no texture";
-    if (Described(*old) == Described(*fresh)) return {};
-    return "logo is " + Described(*fresh) + " in place of " + Described(*old);
+    if (*old == *fresh) return {};
+    return "logo is " + fresh->Text() + " in place of " + old->Text();
 }
 
 /// What `work` returns, or a lack of memory as a failure of `source`.

@@ -103,18 +103,13 @@ std::string Shown(const std::string& name) {
     return Printable(From_Utf8(name));
 }
 
-std::string Texture_Text(const TextureInfo& texture) {
-    return "  " + std::string(texture.format) + " " + std::to_string(texture.width) + " x " +
-           std::to_string(texture.height);
-}
-
 /// Only the slots that have a text.
 void Write_Archive_Text(const ArchiveInfo& archive, const Output& output) {
     constexpr std::size_t SizeWidth = 8;
     output("  archive of " + std::to_string(archive.file_size) + " bytes\n");
     for (const ArchiveFileInfo& file : archive.files) {
         output("  file     " + Number(static_cast<unsigned>(file.size), SizeWidth) + "  " +
-               Shown(file.path) + (file.texture ? Texture_Text(*file.texture) : "") + "\n");
+               Shown(file.path) + (file.texture ? "  " + file.texture->Text() : "") + "\n");
     }
     for (std::size_t i = 0; archive.names && i < archive.names->size(); ++i) {
         const auto& [first, second] = (*archive.names)[i];
@@ -132,7 +127,7 @@ std::string File_Json(const ArchiveFileInfo& file) {
     std::string json =
         "{" + Member("path", Quoted(file.path)) + ", " + Member("size", std::to_string(file.size));
     if (file.texture) {
-        json += ", " + Member("format", Quoted(std::string(file.texture->format))) + ", " +
+        json += ", " + Member("format", Quoted(std::string(file.texture->format->name))) + ", " +
                 Member("width", std::to_string(file.texture->width)) + ", " +
                 Member("height", std::to_string(file.texture->height));
     }

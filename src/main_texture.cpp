@@ -1,0 +1,197 @@
+// bannersmith-texture: turns textures into pictures and pictures into textures.
+#include <CLI/App.hpp>
+#include <CLI/Config.hpp>
+#include <CLI/Formatter.hpp>
+#include <algorithm>
+#include <cstdio>
+#include <map>
+#include <new>
+#include <string>
+#include <vector>
+
+#include "base/message.h"
+#include "base/text.h"
+#include "system/files.h"
+#include "system/process.h"
+#include "system/replace_files.h"
+#include "texture/fitting.h"
+
+using namespace bannersmith;
+
+namespace {
+
+constexpr char Usage[] =
+    "usage: bannersmith-texture IN.tpl OUT.png\n"
+    "       bannersmith-texture IN.png OUT.tpl (--like OLD.tpl | --format F)\n"
+    "                           [--size WxH] [--fit FIT] [--dither DITHER]\n"
+    "       bannersmith-texture --info FILE...\n"
+    "       bannersmith-texture --help | --version\n"
+    "\n"
+    "Makes a picture of a texture, or a texture of a picture (PNG, JPEG, or another\n"
+    "texture). What OUT becomes is told by its name.\n"
+    "\n"
+    "  --like OLD.tpl   size, format and everything else as in that texture\n"
+    "  --format F       I4, I8, IA4, IA8, RGB565, RGB5A3 or RGBA8\n"
+    "  --size WxH       texels; without it the size that the picture has\n"
+    "  --fit FIT        where the sides differ: crop (the default) fills the texture,\n"
+    "                   border leaves room at two sides, stretch distorts\n"
+    "  --dither DITHER  none, ordered, or diffusion; without it none for up to 256\n"
+    "                   colours, otherwise diffusion\n"
+    "  --info           tells format and size of textures and pictures\n"
+    "\n"
+    "Exit status: 0 done; 1 the output cannot be written; 2 wrong usage, or a file\n"
+    "that cannot be read, is neither texture nor picture, or cannot become one.\n";
+
+constexpr int Done = 0, NotWritten = 1, NotRead = 2;
+
+struct Options {
+    std::vector<std::string> files;
+    std::string like, format, size;
+    Fitting fitting;
+    bool info = false;
+};
+
+void Tell(const Failure& failure) {
+    Print("bannersmith-texture: " + One_Line(failure) + "\n", stderr);
+}
+
+/// The bytes of a file, and what they show.
+struct Opened {
+    std::string bytes;
+    Picture picture;
+};
+
+Result<Opened> Open(const std::string& name) {
+    const std::u16string file = From_Utf8(name);
+    auto bytes = Read_File(file).About(file);
+    if (!bytes) return bytes.Why();
+    auto picture = Is_Picture(*bytes)         ? Read_Picture(*bytes)
+                   : Describe_Texture(*bytes) ? Decode_Texture(*bytes)
+                                              : Failure{u"", "Is neither texture nor picture"};
+    if (!picture) return std::move(picture).About(file).Why();
+    return Opened{std::move(*bytes), std::move(*picture)};
+}
+
+/// "256x192".
+std::optional<std::pair<std::size_t, std::size_t>> Read_Size(const std::string& text) {
+    unsigned width = 0, height = 0;
+    int end = 0;
+    if (text.size() > 9 || std::sscanf(text.c_str(), "%u%*1[xX]%u%n", &width, &height, &end) != 2 ||
+        static_cast<std::size_t>(end) != text.size()) {
+        return std::nullopt;
+    }
+    return std::pair(std::size_t{width}, std::size_t{height});
+}
+
+Result<std::string> Make(const Options& options, const Picture& picture) {
+    if (!options.like.empty()) {
+        const std::u16string file = From_Utf8(options.like);
+        const auto old = Read_File(file).About(file);
+        if (!old) return old.Why();
+        return Make_Texture_Like(*old, picture, options.fitting).About(file);
+    }
+    TextureInfo wanted{Find_Texel_Format(options.format), picture.width, picture.height};
+    if (const auto size = Read_Size(options.size)) std::tie(wanted.width, wanted.height) = *size;
+    return Make_Texture(picture, wanted, options.fitting).About(From_Utf8(options.files[0]));
+}
+
+bool Ends_In(const std::string& name, std::u16string_view ending) {
+    return Capitals(From_Utf8(name)).ends_with(ending);
+}
+
+int Convert(const Options& options) {
+    const auto opened = Open(options.files[0]);
+    if (!opened) return Tell(opened.Why()), NotRead;
+    const auto made = Ends_In(options.files[1], u".PNG")
+                          ? Result<std::string>(Write_Png(opened->picture))
+                          : Make(options, opened->picture);
+    if (!made) return Tell(made.Why()), NotRead;
+    const auto written = Replace_File(From_Utf8(options.files[1]), *made);
+    if (!written) return Tell(written.Why()), NotWritten;
+    return Done;
+}
+
+std::string Described(const Opened& opened) {
+    if (const auto texture = Describe_Texture(opened.bytes)) return texture->Text();
+    return "picture " + std::to_string(opened.picture.width) + " x " +
+           std::to_string(opened.picture.height);
+}
+
+int Describe(const std::vector<std::string>& files) {
+    int status = Done;
+    for (const std::string& file : files) {
+        const auto opened = Open(file);
+        if (!opened) {
+            Tell(opened.Why());
+            status = NotRead;
+        } else if (!Print(Printable(From_Utf8(file)) + ": " + Described(*opened) + "\n", stdout)) {
+            Tell({u"standard output", "Cannot be written"});
+            return std::max(status, NotWritten);
+        }
+    }
+    return status;
+}
+
+/// Why the options fit nothing that the program does; empty where they do.
+std::string Misused(const Options& options) {
+    const bool shapes = !options.format.empty() || !options.size.empty();
+    if (options.info) return options.files.empty() ? "--info needs a file" : "";
+    if (options.files.size() != 2) return "Two files are needed, IN and OUT";
+    const bool to_picture = Ends_In(options.files[1], u".PNG");
+    if (!to_picture && !Ends_In(options.files[1], u".TPL")) return "OUT ends in .png or .tpl";
+    if (to_picture) return shapes || !options.like.empty() ? "OUT is no texture" : "";
+    if (options.like.empty() == options.format.empty())
+        return "One of --like and --format is needed";
+    if (!options.like.empty() && shapes) return "--like gives the size, too";
+    if (options.like.empty() && !Find_Texel_Format(options.format)) return "No such format";
+    if (!options.size.empty() && !Read_Size(options.size)) return "A size is written like 256x192";
+    return "";
+}
+
+/// Reads the command line. What is wrong with it is thrown as the parser's error.
+Options Read_Options(const std::vector<std::u16string>& arguments) {
+    Options options;
+    std::string fit = "crop", dither;
+    const std::map<std::string, Fit> fits{
+        {"crop", Fit::Crop}, {"border", Fit::Border}, {"stretch", Fit::Stretch}};
+    const std::map<std::string, Dither> dithers{
+        {"none", Dither::None}, {"ordered", Dither::Ordered}, {"diffusion", Dither::Diffusion}};
+    CLI::App parser;
+    parser.set_help_flag();
+    parser.add_option("files", options.files);
+    parser.add_option("--like", options.like);
+    parser.add_option("--format", options.format);
+    parser.add_option("--size", options.size);
+    parser.add_option("--fit", fit)->check(CLI::IsMember(fits));
+    parser.add_option("--dither", dither)->check(CLI::IsMember(dithers));
+    parser.add_flag("--info", options.info);
+    std::vector<std::string> backwards;
+    for (const std::u16string& argument : arguments) backwards.push_back(To_Utf8(argument));
+    std::reverse(backwards.begin(), backwards.end());
+    parser.parse(std::move(backwards));
+    options.fitting.fit = fits.at(fit);
+    if (!dither.empty()) options.fitting.dither = dithers.at(dither);
+    if (const std::string why = Misused(options); !why.empty()) throw CLI::ValidationError(why);
+    return options;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const std::vector<std::u16string> arguments = Arguments(argc, argv);
+    if (arguments == std::vector<std::u16string>{u"--help"}) {
+        return Print(Usage, stdout) ? Done : NotWritten;
+    }
+    if (arguments == std::vector<std::u16string>{u"--version"}) {
+        return Print("bannersmith-texture " BANNERSMITH_VERSION "\n", stdout) ? Done : NotWritten;
+    }
+    try {
+        const Options options = Read_Options(arguments);
+        return options.info ? Describe(options.files) : Convert(options);
+    } catch (const CLI::Error& error) {
+        Print("bannersmith-texture: " + std::string(error.what()) + "\n" + Usage, stderr);
+    } catch (const std::bad_alloc&) {
+        Tell({u"", "Not enough memory"});
+    }
+    return NotRead;
+}
