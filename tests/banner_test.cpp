@@ -148,7 +148,7 @@ TEST(Banner, IsEditedInItsArchiveAsInAFolder) {
         EXPECT_FALSE(banner.Apply(SetChannelName{u"GER", 0, std::u16string(21, u'x')}));
         const auto plan = banner.Plan_Save();
         EXPECT_EQ(plan->files.size(), packed ? 1U : 2U);
-        EXPECT_EQ(plan->odd_logo, packed ? "logo is no texture" : "");
+        EXPECT_EQ(plan->about_logo, packed ? "but the logo is no texture" : "");
         EXPECT_FALSE(banner.Was_Changed_Elsewhere());
         ASSERT_TRUE(banner.Save(*plan));
         EXPECT_TRUE(banner.Was_Changed_Elsewhere());
@@ -164,6 +164,46 @@ TEST(Banner, IsEditedInItsArchiveAsInAFolder) {
     EXPECT_TRUE(same.Has_Unsaved_Changes());
     same.Undo();
     EXPECT_FALSE(same.Has_Unsaved_Changes());
+}
+
+/// In the archive, and in the folders that it is unpacked into.
+TEST(Banner, TakesPicturesForLogoAndGame) {
+    const TempFolder folder;
+    const Archive channel = *Archive::Read(Sample_Channel());
+    folder.Write("00000000.app", channel.Bytes());
+    ASSERT_TRUE(channel.Visit_Files([&](const std::string& path, std::string_view bytes) {
+        return folder.Write("out/" + path, bytes), Result<>();
+    }));
+    folder.Write("red.png", Write_Png({4, 3, std::string(48, '\xFF')}));
+    for (const std::u16string path :
+         {u"/00000000.app", u"/out/meta/banner.bin/arc/blyt/banner.brlyt", u"/out/meta/icon.bin/arc/blyt/icon.brlyt"}) {
+        SCOPED_TRACE(To_Utf8(path));
+        Banner banner = *Banner::Load(BannerSource(folder.Text() + path));
+        const Picture before = *banner.Game_Picture();
+        ASSERT_TRUE(banner.Apply(ReplacePicture{folder.Text() + u"/red.png"}));
+        EXPECT_TRUE(banner.Has_Unsaved_Changes());
+        EXPECT_EQ(banner.Game_Picture()->texels, std::string(before.texels.size(), '\xFF'));
+        EXPECT_TRUE(banner.Undo() && *banner.Game_Picture() == before && banner.Redo());
+        EXPECT_FALSE(banner.Apply(ReplacePicture{folder.Text() + path}));
+        ASSERT_TRUE(banner.Apply(ReplaceLogo{folder.Text() + u"/red.png"}));
+        const auto plan = banner.Plan_Save();
+        EXPECT_EQ(plan->about_logo, path.ends_with(u"icon.brlyt") ? "" : "the logo as I4 512 x 64");
+        ASSERT_TRUE(banner.Save(*plan));
+        const Banner again = *Banner::Load(BannerSource(folder.Text() + path));
+        EXPECT_EQ(again.Game_Picture()->texels, std::string(before.texels.size(), '\xFF'));
+        folder.Write("out/meta/banner.bin/arc/timg/VCPic.tpl",
+                     *channel.Find_File("meta/banner.bin/arc/timg/VCPic.tpl"));
+    }
+    const Archive saved = *Archive::Read(folder.Read("00000000.app"));
+    EXPECT_EQ(saved.Warnings(), std::vector<std::string>());
+    for (const std::string path : {"meta/banner.bin/arc/timg/my_BackSample_a.tpl", "meta/banner.bin/arc/timg/VCPic.tpl",
+                                   "meta/icon.bin/arc/timg/IconVCPic.tpl"}) {
+        const std::string bytes = *saved.Find_File(path);
+        EXPECT_TRUE(path.find("/VCPic") != path.npos || bytes == folder.Read("out/" + path)) << path;
+        EXPECT_EQ(bytes.size(), channel.Find_File(path)->size());
+        EXPECT_NE(bytes, *channel.Find_File(path));
+    }
+    EXPECT_FALSE(Banner::From_Bytes(Neutral_Banner()).Game_Picture());
 }
 
 /// What matters here is the run under sanitizers.

@@ -4,6 +4,7 @@
 #include <new>
 #include <utility>
 
+#include "banner/pictures.h"
 #include "banner/region_force.h"
 #include "base/text.h"
 #include "colors/materials.h"
@@ -13,7 +14,6 @@
 #include "layout/format.h"
 #include "layout/text_box.h"
 #include "system/files.h"
-#include "texture/tpl.h"
 
 namespace bannersmith {
 
@@ -32,17 +32,6 @@ std::vector<std::string> Boxes_To_Rewrite() {
     }
     names.push_back(To_Utf8(SystemBox));
     return names;
-}
-
-/// What `SavePlan::odd_logo` says. What is no texture now was not one to begin with.
-std::string Odd_Logo(const BannerSource& source, const NewContents& logo) {
-    const auto bytes = source.Texture(logo.path);
-    const auto old = bytes ? Describe_Texture(*bytes) : std::nullopt;
-    const auto fresh = Describe_Texture(logo.bytes);
-    if (!old) return {};
-    if (!fresh) return "logo is no texture";
-    if (*old == *fresh) return {};
-    return "logo is " + fresh->Text() + " in place of " + old->Text();
 }
 
 /// What `work` returns, or a lack of memory as a failure of `source`.
@@ -71,6 +60,12 @@ std::size_t Banner::State::Size() const {
     std::size_t size = layout.size();
     for (const NewContents& texture : textures) size += texture.bytes.size();
     return size;
+}
+
+/// A later one takes the place of an earlier one.
+void Banner::State::Replace_Texture(const std::u16string& path, std::string bytes) {
+    std::erase_if(textures, [&](const NewContents& texture) { return texture.path == path; });
+    textures.push_back({path, std::move(bytes)});
 }
 
 Result<Banner> Banner::Load(BannerSource source, std::size_t history) {
@@ -127,7 +122,30 @@ struct Banner::Applying {
         if (!*texture) return {};
         auto logo = Read_Logo(edit.file);
         if (!logo) return logo.Why();
-        state.textures.push_back({**texture, std::move(*logo)});
+        const bool is_picture = Is_Picture(*logo);
+        if (is_picture) {
+            const auto picture = Read_Picture(*logo).About(edit.file);
+            if (!picture) return picture.Why();
+            logo = Made_Like(**texture, *picture, {.fit = Fit::Border});  // nothing of it is cut
+            if (!logo) return logo.Why();
+        }
+        const std::string old = banner.source_.Texture(**texture).Value_Or("");
+        state.has_logo = true;
+        state.about_logo = About_Logo(old, *logo, is_picture);
+        state.Replace_Texture(**texture, std::move(*logo));
+        return {};
+    }
+
+    Result<> operator()(const ReplacePicture& edit) const {
+        const auto places = banner.Find_Game_Pictures();
+        if (!places) return places.Why();
+        const auto picture = Read_Picture_File(edit.file);
+        if (!picture) return picture.Why();
+        for (const std::u16string& place : *places) {
+            auto made = Made_Like(place, *picture, edit.fitting);
+            if (!made) return made.Why();
+            state.Replace_Texture(place, std::move(*made));
+        }
         return {};
     }
 
@@ -157,6 +175,14 @@ struct Banner::Applying {
         return {};
     }
 
+    /// A texture as the banner's own at that place.
+    Result<std::string> Made_Like(const std::u16string& place, const Picture& picture,
+                                  const Fitting& fitting) const {
+        const auto old = banner.source_.Texture(place);
+        if (!old) return old.Why();
+        return Make_Texture_Like(*old, picture, fitting).About(place);
+    }
+
     /// A logo may be the texture that an edit before this one has replaced.
     Result<std::string> Read_Logo(const std::u16string& file) const {
         const auto replaced =
@@ -169,6 +195,31 @@ struct Banner::Applying {
 
 Result<> Banner::Apply_To(State& state, const Edit& edit) const {
     return std::visit(Applying{*this, state}, edit);
+}
+
+Result<std::string> Banner::Texture_Now(const State& state, const std::u16string& path) const {
+    const auto edited =
+        std::find_if(state.textures.begin(), state.textures.end(),
+                     [&](const NewContents& texture) { return texture.path == path; });
+    if (edited == state.textures.end()) return source_.Texture(path);
+    return edited->bytes;
+}
+
+/// At least one.
+Result<std::vector<std::u16string>> Banner::Find_Game_Pictures() const {
+    auto found = source_.Find_Game_Pictures();
+    if (found && found->empty()) return Failure{source_.Name(), "Has no picture of the game"};
+    return found;
+}
+
+Result<Picture> Banner::Game_Picture() const {
+    return Within_Memory(source_, [&]() -> Result<Picture> {
+        const auto places = Find_Game_Pictures();
+        if (!places) return places.Why();
+        const auto texture = Texture_Now(state_, places->front());
+        if (!texture) return texture.Why();
+        return Decode_Texture(*texture).About(places->front());
+    });
 }
 
 Result<> Banner::Apply(const Edit& edit) {
@@ -221,6 +272,7 @@ std::optional<ChannelNames> Banner::Names() const {
 
 bool Banner::Has_Unsaved_Changes() const {
     return state_.layout != std::string_view(on_disk_).substr(0, loaded_size_) ||
+           !state_.textures.empty() ||
            (state_.names && state_.names != source_.Packed_In()->Names());
 }
 
@@ -243,8 +295,8 @@ Result<SavePlan> Banner::Plan_Save(std::span<const Edit> last) const {
         if (!padding) return padding.Why();
         Region_Force(state.layout, To_Utf8(state.forced));
         SavePlan plan;
-        plan.textures = state.textures.size();
-        if (!state.textures.empty()) plan.odd_logo = Odd_Logo(source_, state.textures.back());
+        plan.has_logo = state.has_logo;
+        plan.about_logo = state.about_logo;
         state.layout = AddPadding(std::move(state.layout), *padding);
         if (source_.Packed_In()) plan.packed_layout = state.layout;
         auto files = source_.Plan(std::move(state.layout), std::move(state.textures), state.names);

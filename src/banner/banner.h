@@ -21,10 +21,8 @@ struct SavePlan {
     /// then the layout; or the archive that has them all.
     std::vector<NewContents> files;
     std::string packed_layout;  ///< the layout in the archive; empty for a layout file
-    std::size_t textures = 0;   ///< how many are replaced
-    /// How the last of them differs from the one that it replaces, which the console may draw
-    /// wrongly then: "logo is I4 256 x 64 in place of I4 512 x 64". Empty where it does not.
-    std::string odd_logo;
+    bool has_logo = false;      ///< whether the logo is replaced
+    std::string about_logo;     ///< what to say of it, see `About_Logo`
 
     /// The layout with its padding.
     std::string_view Layout() const {
@@ -68,6 +66,10 @@ class Banner {
     /// header for them.
     std::optional<ChannelNames> Names() const;
 
+    /// The picture of the game as it is now, edits included: the banner's, or the icon's. The
+    /// failure has the name of the source or of the texture.
+    Result<Picture> Game_Picture() const;
+
     /// The one way to change a banner. What fails leaves it as it was. A text for a box that the
     /// layout lacks, and a colour without its material, are passed over.
     Result<> Apply(const Edit& edit);
@@ -77,7 +79,7 @@ class Banner {
     bool Undo();
     bool Redo();
 
-    /// Whether layout or names differ from what was loaded.
+    /// Whether layout, textures or names differ from what was loaded.
     bool Has_Unsaved_Changes() const;
 
     /// Whether another program wrote the file since it was loaded or saved last.
@@ -98,16 +100,21 @@ class Banner {
     struct State {
         std::string layout;
         std::vector<NewContents> textures;  ///< that the save replaces
+        bool has_logo = false;              ///< whether one of them is the logo
+        std::string about_logo;
         std::u16string forced;
         std::optional<std::u16string> padding;
         std::optional<ChannelNames> names;  ///< where they were edited
 
         bool operator==(const State& other) const;
         std::size_t Size() const;
+        void Replace_Texture(const std::u16string& path, std::string bytes);
     };
 
     struct Applying;
     Result<> Apply_To(State& state, const Edit& edit) const;
+    Result<std::string> Texture_Now(const State& state, const std::u16string& path) const;
+    Result<std::vector<std::u16string>> Find_Game_Pictures() const;
     void Remember_And_Take(std::deque<State>& history, State next);
     void Shorten_History();
     bool Step(std::deque<State>& from, std::deque<State>& to);

@@ -6,6 +6,7 @@
 #include <variant>
 
 #include "gameinfo/boxes.h"
+#include "texture/fitting.h"
 
 namespace bannersmith {
 
@@ -33,10 +34,17 @@ struct ApplyScheme {
     std::u16string file;
 };
 
-/// A texture file in the place of the banner's logo texture, the first one whose name begins with
-/// "my_Back". A banner without it is left alone.
+/// A texture file, or a picture that becomes a texture, in the place of the banner's logo texture,
+/// the first one whose name begins with "my_Back". A banner without it is left alone.
 struct ReplaceLogo {
     std::u16string file;
+};
+
+/// A picture, or the one that a texture file shows, in the place of the game's: the textures whose
+/// names begin with "VCPic", and in the channel's icon with "IconVCPic". They keep size and format.
+struct ReplacePicture {
+    std::u16string file;
+    Fitting fitting = {};
 };
 
 /// A language code whose items the save makes of those that the banner has; "NONE" for none.
@@ -60,6 +68,6 @@ struct SetChannelName {
 
 /// Any of them.
 using Edit = std::variant<SetField, SetFieldEverywhere, WriteBox, ApplyScheme, ReplaceLogo,
-                          ForceRegion, SetPadding, SetChannelName>;
+                          ReplacePicture, ForceRegion, SetPadding, SetChannelName>;
 
 }  // namespace bannersmith

@@ -22,6 +22,38 @@ std::u16string Texture_Folder(std::u16string_view layout_path) {
     return rest + u"timg\\";
 }
 
+/// The first texture beside the layout file whose name begins so, see `BannerSource`.
+Result<std::optional<std::u16string>> Find_Beside(const std::u16string& layout_path,
+                                                  std::u16string_view beginning) {
+    const std::u16string folder = Texture_Folder(layout_path);
+    if (folder.empty()) return std::optional<std::u16string>();
+    const auto is_there = Is_Folder(folder);
+    if (!is_there) return is_there.Why();
+    if (!*is_there) return std::optional<std::u16string>();
+    const auto textures = List_Files(folder, ".tpl");
+    if (!textures) return textures.Why();
+    for (const std::u16string& name : *textures) {
+        if (name.starts_with(beginning)) return std::optional(folder + name);
+    }
+    return std::optional<std::u16string>();
+}
+
+/// Where the layout would lie in the other part of an unpacked channel: of
+/// "meta\banner.bin\arc\blyt\x" it is "meta\icon.bin\arc\blyt\x", and the other way round. Empty
+/// for a layout that lies nowhere like that.
+std::u16string In_Other_Part(std::u16string_view layout_path) {
+    const std::u16string path = With_Backslashes(layout_path);
+    std::size_t end = path.size();
+    for (int i = 0; i < 3 && end != path.npos; ++i)
+        end = end == 0 ? path.npos : path.rfind(u'\\', end - 1);
+    if (end == path.npos || end == 0) return {};
+    const std::size_t begin = path.rfind(u'\\', end - 1) + 1;  // of the folder that holds "arc"
+    const std::u16string part = path.substr(begin, end - begin);
+    std::u16string other = Replace_All(part, u"banner", u"icon");
+    if (other == part) other = Replace_All(part, u"icon", u"banner");
+    return other == part ? std::u16string() : path.substr(0, begin) + other + path.substr(end);
+}
+
 }  // namespace
 
 std::u16string Layout_File_Of(const std::u16string& path) {
@@ -62,13 +94,11 @@ bool BannerSource::Holds_Other(std::string_view layout) const {
     return now && *now != (archive_ ? archive_->Bytes() : layout);
 }
 
-std::optional<std::string> BannerSource::Texture(const std::u16string& path) const {
-    if (archive_) {
-        const auto packed = archive_->Find_File(To_Utf8(path));
-        return packed ? std::optional(std::string(*packed)) : std::nullopt;
-    }
-    auto bytes = Read_File(path);
-    return bytes ? std::optional(std::move(*bytes)) : std::nullopt;
+Result<std::string> BannerSource::Texture(const std::u16string& path) const {
+    if (!archive_) return Read_File(path);
+    auto packed = archive_->Find_File(To_Utf8(path));
+    if (!packed) return Failure{path, "Cannot be read"};
+    return std::move(*packed);
 }
 
 Result<std::vector<NewContents>> BannerSource::Plan(
@@ -97,17 +127,24 @@ Result<std::optional<std::u16string>> BannerSource::Find_Texture(
     if (With_Backslashes(path_).find(u'\\') == path_.npos) {
         return Failure{name_, "Names no folder to look for the logo texture beside"};
     }
-    const std::u16string folder = Texture_Folder(path_);
-    if (folder.empty()) return std::optional<std::u16string>();
-    const auto is_there = Is_Folder(folder);
-    if (!is_there) return is_there.Why();
-    if (!*is_there) return std::optional<std::u16string>();
-    const auto textures = List_Files(folder, ".tpl");
-    if (!textures) return textures.Why();
-    for (const std::u16string& name : *textures) {
-        if (name.starts_with(beginning)) return std::optional(folder + name);
+    return Find_Beside(path_, beginning);
+}
+
+Result<std::vector<std::u16string>> BannerSource::Find_Game_Pictures() const {
+    std::vector<std::u16string> found;
+    for (const std::u16string_view beginning : {u"VCPic", u"IconVCPic"}) {
+        if (archive_) {
+            const auto packed = archive_->Find_Texture_Anywhere(To_Utf8(beginning));
+            if (packed) found.push_back(From_Utf8(*packed));
+            continue;
+        }
+        for (const std::u16string& layout : {path_, In_Other_Part(path_)}) {
+            const auto texture = Find_Beside(layout, beginning);
+            if (!texture) return texture.Why();
+            if (*texture) found.push_back(**texture);
+        }
     }
-    return std::optional<std::u16string>();
+    return found;
 }
 
 }  // namespace bannersmith

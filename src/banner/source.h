@@ -48,8 +48,14 @@ class BannerSource {
     /// and for a layout whose path names no folder.
     Result<std::optional<std::u16string>> Find_Texture(std::u16string_view beginning) const;
 
-    /// The bytes of a texture that `Find_Texture` told of; nothing where they cannot be read.
-    std::optional<std::string> Texture(const std::u16string& path) const;
+    /// The paths of the textures that show the game: of the first whose name begins with "VCPic"
+    /// and the first with "IconVCPic", in the banner and in the channel's icon. The icon is the
+    /// other part of the archive or, for a layout file, in the unpacked channel, where the folder
+    /// that holds "arc" is called as this one, with "icon" in place of "banner".
+    Result<std::vector<std::u16string>> Find_Game_Pictures() const;
+
+    /// The bytes of a texture that these routines told of. The failure has its path.
+    Result<std::string> Texture(const std::u16string& path) const;
 
     /// Which files get which bytes when the layout becomes `layout`, the textures that
     /// `Find_Texture` told of become `textures`, and an archive's names `names`: the textures and

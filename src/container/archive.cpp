@@ -37,6 +37,17 @@ Failure In_Part(const std::string& part, const std::string& reason) {
     return {u"", part.empty() ? reason : part + ": " + reason};
 }
 
+/// The first texture of that folder, named in small letters, whose name begins so and that has any
+/// bytes; null for none.
+const U8Member* Find_Texture_In(const std::vector<U8Member>& files, std::string_view folder,
+                                std::string_view beginning) {
+    const auto found = std::find_if(files.begin(), files.end(), [&](const U8Member& file) {
+        return Small(Folder_Of(file.path)) == folder && Small(file.path).ends_with(".tpl") &&
+               file.size > 0 && Name_Of(file.path).starts_with(beginning);
+    });
+    return found == files.end() ? nullptr : &*found;
+}
+
 std::string Warn(const std::string& part, const std::string& reason) {
     return In_Part(part, reason).reason;
 }
@@ -198,19 +209,37 @@ std::string Archive::Path_Of(std::size_t file) const {
 std::optional<std::string> Archive::Find_Texture(std::string_view beginning) const {
     const std::string_view blyt = Folder_Of(opened_.files[layout_].path);
     const std::string_view arc = Folder_Of(blyt.substr(0, blyt.size() - !blyt.empty()));
-    const std::string timg = Small(arc) + "timg/";
-    for (std::size_t i = 0; i < opened_.files.size(); ++i) {
-        const U8Member& file = opened_.files[i];
-        const bool is_texture = Small(Folder_Of(file.path)) == timg &&
-                                Small(file.path).ends_with(".tpl") && file.size > 0;
-        if (is_texture && Name_Of(file.path).starts_with(beginning)) return Path_Of(i);
+    const auto* found = Find_Texture_In(opened_.files, Small(arc) + "timg/", beginning);
+    if (found == nullptr) return std::nullopt;
+    return Joined(parts_[layout_part_].path, found->path);
+}
+
+std::optional<std::string> Archive::Find_Texture_Anywhere(std::string_view beginning) const {
+    if (auto found = Find_Texture(beginning)) return found;
+    for (const StoredPart& stored : parts_) {
+        const auto opened = Opened(stored);
+        const auto* found =
+            opened ? Find_Texture_In(opened->files, "arc/timg/", beginning) : nullptr;
+        if (found != nullptr) return Joined(stored.path, found->path);
     }
     return std::nullopt;
 }
 
-std::optional<std::string_view> Archive::Find_File(std::string_view path) const {
-    for (std::size_t i = 0; i < opened_.files.size(); ++i) {
-        if (Path_Of(i) == path) return File_Bytes(i);
+std::optional<OpenedPart> Archive::Opened(const StoredPart& stored) const {
+    if (&stored == &parts_[layout_part_]) return opened_;
+    auto opened = Open_Part(stored);
+    return opened ? std::optional(std::move(*opened)) : std::nullopt;
+}
+
+std::optional<std::string> Archive::Find_File(std::string_view path) const {
+    for (const StoredPart& stored : parts_) {
+        const std::string folder = Joined(stored.path, "");
+        const auto opened = path.starts_with(folder) ? Opened(stored) : std::nullopt;
+        if (!opened) continue;
+        for (const U8Member& file : opened->files) {
+            if (folder + file.path != path) continue;
+            return opened->content.bytes.substr(file.offset, file.size);
+        }
     }
     return std::nullopt;
 }

@@ -65,8 +65,11 @@ class Archive {
     /// with any bytes.
     std::optional<std::string> Find_Texture(std::string_view beginning) const;
 
-    /// The bytes of a file of the layout's part. Nothing where it has none of that path.
-    std::optional<std::string_view> Find_File(std::string_view path) const;
+    /// The same, or else in the folder arc/timg of any part.
+    std::optional<std::string> Find_Texture_Anywhere(std::string_view beginning) const;
+
+    /// The bytes of a file. Nothing where there is none of that path that can be read.
+    std::optional<std::string> Find_File(std::string_view path) const;
 
     /// Takes the path of a file and its bytes, which do not outlive the call.
     using FileVisitor = std::function<Result<>(const std::string& path, std::string_view bytes)>;
@@ -107,6 +110,7 @@ class Archive {
     std::string_view Outer() const { return std::string_view(*bytes_).substr(outer_at_); }
     std::string_view File_Bytes(std::size_t file) const;
     std::string Path_Of(std::size_t file) const;
+    std::optional<OpenedPart> Opened(const StoredPart& stored) const;
     std::optional<std::size_t> Find_Part(std::string_view name) const;
     PartSizes Real_Sizes(const NewMembers& changed) const;
     Result<NewMembers> Pack_Parts(const NewFiles& files) const;

@@ -96,7 +96,7 @@ Result<> BatchRun::Save() {
     }
     const std::vector<std::string> odd = What_Is_Odd(*plan);  // may lack memory, so not afterwards
     if (auto saved = Save_Uninterrupted(banner, *plan, lock_, report_); !saved) return saved;
-    for (const std::string& what : odd) report_({text_, "Saved, but " + what});
+    for (const std::string& what : odd) report_({text_, "Saved, " + what});
     configuration_.Store(text_);  // which may be what was just edited
     return {};
 }
@@ -104,11 +104,11 @@ Result<> BatchRun::Save() {
 /// Nobody has seen what was edited, so it is told when it looks wrong.
 std::vector<std::string> BatchRun::What_Is_Odd(const SavePlan& plan) const {
     std::vector<std::string> odd;
-    if (!plan.odd_logo.empty()) odd.push_back("the " + plan.odd_logo);
+    if (!plan.about_logo.empty()) odd.push_back(plan.about_logo);
     const std::string warning = Is_Layout(opened_.banner.On_Disk())
                                     ? Warning_Of(plan.Layout())
                                     : "it does not begin as a layout file";
-    if (!warning.empty()) odd.push_back(warning);
+    if (!warning.empty()) odd.push_back("but " + warning);
     return odd;
 }
 

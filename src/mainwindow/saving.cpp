@@ -23,11 +23,11 @@ void Form1::cmdSave_Click() {
     }
     desktop_.Message(u"File Successfully Saved!");
     txtSrc_Change();
-    const bool logo_unplaced = cmbLogo.Index() > 0 && saved->textures == 0;
-    const std::u16string odd =
-        saved->odd_logo.empty() ? u"" : u"; the " + From_Utf8(saved->odd_logo);
+    const bool logo_unplaced = cmbLogo.Index() > 0 && !saved->has_logo;
+    const std::u16string about =
+        saved->about_logo.empty() ? u"" : u", " + From_Utf8(saved->about_logo);
     lblLastCommand.Set(logo_unplaced ? u"Saved; the banner has no logo texture to replace"
-                                     : u"Saved" + odd);
+                                     : u"Saved" + about);
 }
 
 /// Everything that can be refused is refused before anything is asked.

@@ -110,8 +110,9 @@ Picture Dither_For(const TexelFormat& format, Picture picture, Dither dither) {
             Texel texel;
             std::copy_n(place, TexelSize, texel.begin());
             texel = Seen_As(format, texel);
+            const bool is_short = format.name == "RGB5A3" && Takes_Short_Code(texel);
             for (std::size_t i = 0; i < 3; ++i) {
-                const unsigned most = Has_Short_Steps(format, texel) ? 15 : format.most[i];
+                const unsigned most = is_short ? 15 : format.most[i];
                 double wanted = texel[i];
                 if (dither == Dither::Ordered) wanted += Pattern(x, y) * 255 / most;
                 if (dither == Dither::Diffusion) wanted += row[x + 1][i];

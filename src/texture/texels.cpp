@@ -94,9 +94,9 @@ Texel Read_Rgb5A3(std::string_view block, std::size_t index, const Palette&) {
 }
 
 void Write_Rgb5A3(std::span<char> block, std::size_t index, Texel texel) {
-    const bool opaque = texel[3] == 255;
-    const unsigned bits = opaque ? 5 : 4, most = opaque ? 31 : 15;
-    const unsigned alpha = opaque ? 0x8000 : Reduce(texel[3], 7) << 12;
+    const bool is_short = Takes_Short_Code(texel);
+    const unsigned bits = is_short ? 4 : 5, most = is_short ? 15 : 31;
+    const unsigned alpha = is_short ? Reduce(texel[3], 7) << 12 : 0x8000;
     Store_U16(block, 2 * index,
               alpha | Reduce(texel[0], most) << 2 * bits | Reduce(texel[1], most) << bits |
                   Reduce(texel[2], most));
@@ -238,6 +238,15 @@ Texel Seen_As(const TexelFormat& format, Texel texel) {
             if (format.name == "RGB5A3" && alpha >= LeastOpaque) texel[3] = 255;
             return texel;
     }
+}
+
+bool Takes_Short_Code(Texel seen) {
+    const auto has_all = [&](unsigned most) {
+        return std::all_of(seen.begin(), seen.begin() + 3, [&](std::uint8_t value) {
+            return Expand(Reduce(value, most), most) == value;
+        });
+    };
+    return seen[3] != 255 || (has_all(15) && !has_all(31));
 }
 
 std::uint8_t Expand(unsigned stored, unsigned most) {

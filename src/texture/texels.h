@@ -67,10 +67,9 @@ constexpr std::uint8_t LeastOpaque = 224;
 /// no alpha is put before black. For RGB5A3 an alpha of 224 and more is opaque.
 Texel Seen_As(const TexelFormat& format, Texel texel);
 
-/// Whether such a texel is stored with alpha, in steps of their own, in RGB5A3.
-constexpr bool Has_Short_Steps(const TexelFormat& format, Texel seen) {
-    return format.name == "RGB5A3" && seen[3] != 255;
-}
+/// Whether RGB5A3 stores such a texel in its short code, of four bits a colour and an alpha: one
+/// that is not opaque, and an opaque one that this code alone has exactly.
+bool Takes_Short_Code(Texel seen);
 
 /// The value, 0 to 255, that is seen where `stored`, 0 to `most`, is drawn, its bits repeated; and
 /// the number whose drawn value is nearest to `value`. `most` is 7, 15, 31, 63 or 255.

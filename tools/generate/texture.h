@@ -1,5 +1,4 @@
-// Builds textures (".tpl") as the console reads them: one image, blocks of pixels left to right and
-// top to bottom.
+// Textures (".tpl") of what a function draws.
 #pragma once
 
 #include <functional>
@@ -15,7 +14,7 @@ struct Pixel {
     double red = 0, green = 0, blue = 0, alpha = 1;
 };
 
-/// A whole texture file of `width` x `height` pixels, both multiples of 8; `pixel(x, y)` gives
+/// A whole texture file of `width` x `height` pixels; `pixel(x, y)` gives
 /// each.
 std::string Texture_File(TextureFormat format, int width, int height,
                          const std::function<Pixel(int x, int y)>& pixel);

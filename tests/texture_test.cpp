@@ -1,0 +1,230 @@
+// Textures and pictures: what is decoded and encoded, fitted and dithered, and what is refused.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <random>
+
+#include "base/numbers.h"
+#include "support.h"
+#include "texture/fitting.h"
+
+using namespace bannersmith;
+
+namespace {
+
+using namespace std::string_literals;
+
+std::mt19937 random_numbers(3);
+
+std::string Random_Bytes(std::size_t size) {
+    std::string bytes(size, '\0');
+    for (char& byte : bytes) byte = static_cast<char>(random_numbers());
+    return bytes;
+}
+
+Picture Random_Picture(std::size_t width, std::size_t height) {
+    return {width, height, Random_Bytes(TexelSize * width * height)};
+}
+
+const TexelFormat& Named(const char* name) { return *Find_Texel_Format(std::string_view(name)); }
+
+Texel At(const Picture& picture, std::size_t x, std::size_t y) {
+    Texel texel;
+    std::copy_n(picture.texels.begin() + static_cast<std::ptrdiff_t>(TexelSize * (y * picture.width + x)), 4,
+                texel.begin());
+    return texel;
+}
+
+double Mean(const Picture& picture, std::size_t channel) {
+    double sum = 0;
+    for (std::size_t at = channel; at < picture.texels.size(); at += 4) {
+        sum += static_cast<unsigned char>(picture.texels[at]);
+    }
+    return sum / static_cast<double>(picture.texels.size() / 4);
+}
+
+/// A texture of one block behind a header, with a palette of two entries at its end.
+std::string One_Block(std::uint32_t format, const std::string& block, std::uint32_t palette_format) {
+    const TexelFormat& texels = *Find_Texel_Format(format);
+    std::string file(0x40, '\0');
+    Write_U32(file, 0, 0x0020AF30);
+    Write_U32(file, 4, 1);
+    Write_U32(file, 8, 12);
+    Write_U32(file, 12, 0x14);
+    Write_U32(file, 16, 0x60);
+    Write_U16(file, 0x14, static_cast<std::uint16_t>(texels.block_height));
+    Write_U16(file, 0x16, static_cast<std::uint16_t>(texels.block_width));
+    Write_U32(file, 0x18, format);
+    Write_U32(file, 0x1C, 0x70);
+    file.resize(0x70);
+    Write_U16(file, 0x60, 2);
+    Write_U32(file, 0x64, palette_format);
+    Write_U32(file, 0x68, static_cast<std::uint32_t>(0x70 + block.size()));
+    return file + block + "\x80\x40\x7C\x1F"s;
+}
+
+}  // namespace
+
+/// Each texel was worked out by hand from the bits.
+TEST(Texture, ReadsEveryFormat) {
+    const auto filled = [](std::string block, std::size_t size = 32) {
+        block.resize(size);
+        return block;
+    };
+    const std::string halves = "\xF8\x1F" + std::string(30, '\0') + "\x7F\x80" + std::string(30, '\0');
+    const std::string mixed = filled("\xFF\xFF\0\0\xE4\0\0\0"s + std::string(8, '\0') + "\0\0\xFF\xFF\xE4"s);
+    const struct {
+        std::uint32_t format;
+        std::string block;
+        std::size_t x, y;
+        Texel texel;
+        std::uint32_t palette = 0;
+    } rows[] = {
+        {0, filled("\x5A"), 0, 0, {0x55, 0x55, 0x55, 0x55}},
+        {0, filled("\0\0\0\0\x5A"s), 1, 1, {0xAA, 0xAA, 0xAA, 0xAA}},
+        {1, filled(std::string(9, '\x81')), 0, 1, {0x81, 0x81, 0x81, 0x81}},
+        {2, filled("\x5A"), 0, 0, {0xAA, 0xAA, 0xAA, 0x55}},
+        {3, filled("\x12\x34"), 0, 0, {0x34, 0x34, 0x34, 0x12}},
+        {4, filled("\xF8\x1F"), 0, 0, {255, 0, 255, 255}},
+        {4, filled("\x8A\x51"), 0, 0, {0x8C, 0x49, 0x8C, 255}},
+        {5, filled("\xC2\x31"), 0, 0, {0x84, 0x8C, 0x8C, 255}},
+        {5, filled("\x3A\x5F"), 0, 0, {0xAA, 0x55, 0xFF, 0x6D}},
+        {6, halves, 0, 0, {0x1F, 0x7F, 0x80, 0xF8}},
+        {8, filled("\x01"), 0, 0, {0x40, 0x40, 0x40, 0x80}},
+        {8, filled("\x02"), 1, 0, {0, 0, 0, 0}},
+        {9, filled("\x01"), 0, 0, {0x7B, 0x82, 0xFF, 255}, 1},
+        {10, filled("\xC0\x01"), 0, 0, {0xCC, 0x11, 0xFF, 0xFF}, 2},
+        {14, mixed, 0, 0, {95, 95, 95, 255}},
+        {14, mixed, 1, 0, {159, 159, 159, 255}},
+        {14, mixed, 2, 0, {0, 0, 0, 255}},
+        {14, mixed, 4, 1, {0, 0, 0, 255}},
+        {14, mixed, 0, 4, {127, 127, 127, 0}},
+        {14, mixed, 1, 4, {127, 127, 127, 255}},
+        {14, mixed, 2, 4, {255, 255, 255, 255}},
+    };
+    for (const auto& row : rows) {
+        const std::string file = One_Block(row.format, row.block, row.palette);
+        const auto picture = Decode_Texture(file);
+        ASSERT_TRUE(picture) << picture.Why().reason;
+        EXPECT_EQ(At(*picture, row.x, row.y), row.texel) << Find_Texel_Format(row.format)->name;
+    }
+}
+
+/// A texture becomes itself again, and a picture the nearest one that there is: the sum of what a
+/// stored number and its drawn value know of each other.
+TEST(Texture, KeepsWhatAFormatCanKeep) {
+    for (const TexelFormat& format : Texel_Formats()) {
+        if (format.write == nullptr) {
+            EXPECT_FALSE(Make_Texture(Random_Picture(8, 8), {&format, 8, 8}));
+            continue;
+        }
+        SCOPED_TRACE(format.name);
+        for (const auto& [width, height] : {std::pair{16, 8}, {112, 17}, {1, 1}, {233, 167}}) {
+            const auto w = static_cast<std::size_t>(width), h = static_cast<std::size_t>(height);
+            std::string texture = *Make_Texture(Random_Picture(w, h), {&format, w, h}, {.dither = Dither::None});
+            const std::string header = texture.substr(0, 0x40);
+            texture = header + Random_Bytes(texture.size() - 0x40);
+            const Picture seen = *Decode_Texture(texture);
+            const std::string again = *Make_Texture_Like(texture, seen);
+            EXPECT_EQ(*Decode_Texture(again), seen);
+            EXPECT_EQ(again.substr(0, 0x40), header);
+            EXPECT_TRUE(again == texture || w * h % 64 != 0 || format.name == "RGB5A3");
+            EXPECT_EQ(*Read_Picture(Write_Png(seen)), seen);
+            for (const Dither dither : {Dither::Ordered, Dither::Diffusion}) {
+                EXPECT_EQ(Dither_For(format, seen, Dither::None), seen);
+                const Picture dithered = Dither_For(format, Random_Picture(w, h), dither);
+                EXPECT_EQ(Dither_For(format, dithered, Dither::None), dithered) << "colours that it has";
+            }
+        }
+    }
+    for (const unsigned most : {7U, 15U, 31U, 63U, 255U}) {
+        for (unsigned value = 0; value < 256; ++value) {
+            const int chosen = std::abs(Expand(Reduce(value, most), most) - static_cast<int>(value));
+            for (unsigned other = 0; other <= most; ++other) {
+                EXPECT_LE(chosen, std::abs(Expand(other, most) - static_cast<int>(value))) << most << " " << value;
+            }
+        }
+    }
+}
+
+TEST(Texture, SeesTransparencyAndGreyAsTheFormatDoes) {
+    const struct {
+        const char* format;
+        Texel texel, seen;
+    } rows[] = {
+        {"I4", {255, 255, 255, 51}, {51, 51, 51, 51}},    {"I8", {255, 0, 0, 255}, {76, 76, 76, 76}},
+        {"IA8", {0, 255, 0, 99}, {150, 150, 150, 99}},    {"RGB565", {255, 255, 0, 0}, {0, 0, 0, 255}},
+        {"RGB5A3", {255, 0, 66, 224}, {255, 0, 66, 255}}, {"RGB5A3", {8, 9, 255, 223}, {0, 17, 255, 219}},
+        {"RGBA8", {10, 20, 30, 40}, {10, 20, 30, 40}},    {"I4", {0, 0, 255, 255}, {34, 34, 34, 34}},
+    };
+    for (const auto& row : rows) {
+        Picture picture{1, 1, std::string(row.texel.begin(), row.texel.end())};
+        const auto texture = Make_Texture(picture, {&Named(row.format), 1, 1});
+        EXPECT_EQ(At(*Decode_Texture(*texture), 0, 0), row.seen) << row.format;
+    }
+}
+
+/// A picture half red, half transparent, with a green line at its foot.
+TEST(Fitting, CutsFramesAndStretchesWithoutBleeding) {
+    Picture picture{40, 20, {}};
+    for (int i = 0; i < 40 * 20; ++i) {
+        picture.texels += i >= 40 * 14 ? "\0\xFF\0\xFF"s : i % 40 < 20 ? "\xFF\0\0\xFF"s : "\0\0\xFF\0"s;
+    }
+    const Texel red{255, 0, 0, 255}, green{0, 255, 0, 255}, nothing{0, 0, 0, 0};
+    const Picture cut = Fit_To(picture, 80, 80, Fit::Crop), framed = Fit_To(picture, 80, 80, Fit::Border);
+    const Picture stretched = Fit_To(picture, 80, 10, Fit::Stretch);
+    EXPECT_EQ(At(cut, 0, 0), red);
+    EXPECT_EQ(At(cut, 30, 40), red);
+    EXPECT_EQ(At(cut, 50, 40)[3], 0);
+    EXPECT_EQ(At(cut, 79, 79), green);
+    EXPECT_EQ(At(framed, 0, 19), nothing);
+    EXPECT_EQ(At(framed, 0, 20), red);
+    EXPECT_EQ(At(framed, 79, 59), green);
+    EXPECT_EQ(At(framed, 79, 60), nothing);
+    EXPECT_EQ(At(stretched, 20, 5), red);
+    EXPECT_EQ(At(stretched, 79, 9), green);
+    const Texel edge = At(stretched, 40, 4);
+    EXPECT_TRUE(edge[3] > 0 && edge[3] < 255 && edge[2] < 3) << "hidden blue: " << int{edge[2]};
+    EXPECT_EQ(Fit_To(picture, 40, 20, Fit::Crop), picture);
+}
+
+TEST(Fitting, DithersOnlyWhatHasManyColors) {
+    Picture sky{64, 64, {}}, drawing{64, 64, {}};
+    for (int i = 0; i < 64 * 64; ++i) {
+        sky.texels += {static_cast<char>(100 + i % 3), static_cast<char>(i / 64), static_cast<char>(i % 64), '\xFF'};
+        drawing.texels += "\x65\x13\x22\xFF";
+    }
+    const TextureInfo wanted{&Named("RGB565"), 64, 64};
+    const auto made = [&](const Picture& picture, std::optional<Dither> dither) {
+        return *Decode_Texture(*Make_Texture(picture, wanted, {.dither = dither}));
+    };
+    EXPECT_EQ(made(sky, {}), made(sky, Dither::Diffusion));
+    EXPECT_EQ(made(drawing, {}), made(drawing, Dither::None));
+    EXPECT_FALSE(made(sky, Dither::Ordered) == made(sky, Dither::Diffusion));
+    for (const Dither dither : {Dither::Ordered, Dither::Diffusion}) {
+        for (std::size_t i = 0; i < 3; ++i) {
+            EXPECT_NEAR(Mean(made(drawing, dither), i), Mean(drawing, i), 0.6);
+            EXPECT_NEAR(Mean(made(sky, dither), i), Mean(sky, i), 0.6);
+        }
+    }
+    EXPECT_GT(std::abs(Mean(made(drawing, Dither::None), 0) - Mean(drawing, 0)), 1);
+}
+
+TEST(Texture, RefusesWhatIsBroken) {
+    const std::string texture = *Make_Texture(Random_Picture(16, 16), {&Named("RGB565"), 16, 16});
+    const std::string png = Write_Png(Random_Picture(30, 20));
+    for (std::size_t size = 0; size < texture.size(); size += 3) EXPECT_FALSE(Decode_Texture(texture.substr(0, size)));
+    for (std::size_t size = 0; size + 12 < png.size(); size += 7) EXPECT_FALSE(Read_Picture(png.substr(0, size)));
+    for (const auto& [at, value] : {std::pair{0x14, 0}, {0x14, 1025}, {0x16, 0}, {4, 0}, {0x1A, 7}, {0x18, 1}}) {
+        std::string broken = texture + std::string(0x10000, '\0');
+        Write_U16(broken, static_cast<std::size_t>(at), static_cast<std::uint16_t>(value));
+        if (at == 4) Write_U16(broken, 6, 0);
+        EXPECT_FALSE(Decode_Texture(broken)) << at;
+    }
+    std::string levels = texture;
+    levels[0x36] = 1;
+    EXPECT_FALSE(Make_Texture_Like(levels, Random_Picture(3, 3)));
+    EXPECT_FALSE(Make_Texture(Random_Picture(3, 3), {&Named("I4"), 1025, 1}));
+    EXPECT_FALSE(Decode_Texture(One_Block(9, std::string(32, '\0'), 3)));
+    EXPECT_EQ(Read_Picture("GIF89a").Why().reason, "Is neither a PNG nor a JPEG picture");
+}
