@@ -6,6 +6,7 @@
 #include "generate/banners.h"
 #include "generate/channel.h"
 #include "generate/layout_builder.h"
+#include "generate/texture.h"
 
 using namespace bannersmith;
 
@@ -38,6 +39,12 @@ int main(int argc, char** argv) {
     Write(folder / "archive/bare", archive);
     Write(folder / "archive/channel",
           Channel_File("x", {}, {0, archive.size(), 0}, U8_Archive({{"meta/banner.bin", archive}})));
+    const Picture picture{9, 7, std::string(9 * 7 * TexelSize, 'x')};
+    Write(folder / "texture/png", Write_Png(picture));
+    Write(folder / "texture/jpeg", Jpeg_File(picture));
+    Write(folder / "texture/rgb5a3", Texture_File(TextureFormat::rgb5a3, 9, 7, [](int x, int y) {
+              return Pixel{0.1 * x, 0.1 * y, 0, 0.1 * x};
+          }));
     Write(folder / "scheme/shipped", Format_Scheme(Shipped_Schemes()[1].scheme));
     Write(folder / "command_line/all",
           "TITLE A \"b\"-YEAR 1985-PLAY 4-ESRB E-SYSTEM X^Y-T_ENG t-Y_ENG 1-E_ENG e-H_T_PF raw-PAD +4-FORCE jpn-3");

@@ -1,6 +1,9 @@
 #include "texture/picture.h"
 
+#include <algorithm>
 #include <memory>
+
+#include "base/numbers.h"
 
 #define STBI_ONLY_PNG
 #define STBI_ONLY_JPEG
@@ -27,10 +30,52 @@ constexpr std::string_view PngSignature = "\x89PNG\r\n\x1A\n"sv, JpegSignature =
 /// Of compressed bytes no format makes more texels than this; a header that says so lies.
 constexpr std::size_t MostTexelsPerByte = 4096;
 
-/// Whether the end of a JPEG's last scan is there. The library paints what is missing grey.
-bool Is_Cut_Off(std::string_view jpeg) {
-    const std::size_t scan = jpeg.rfind("\xFF\xDA"sv), end = jpeg.rfind("\xFF\xD9"sv);
-    return scan == jpeg.npos || end == jpeg.npos || end < scan;
+/// Whether a segment is made of Huffman tables, each of at most 256 codes. The library does not
+/// ask.
+bool Are_Tables(std::string_view segment) {
+    constexpr std::size_t CountsAt = 1, HeaderSize = 17, MostCodes = 256;
+    while (!segment.empty()) {
+        if (segment.size() < HeaderSize) return false;
+        std::size_t codes = 0;
+        for (const char count : segment.substr(CountsAt, HeaderSize - CountsAt)) {
+            codes += static_cast<unsigned char>(count);
+        }
+        if (codes > MostCodes || codes > segment.size() - HeaderSize) return false;
+        segment.remove_prefix(HeaderSize + codes);
+    }
+    return true;
+}
+
+/// Walks over the segments of a JPEG up to its end. The library would paint what is missing grey.
+Result<> Check_Jpeg(std::string_view bytes) {
+    constexpr unsigned HuffmanTables = 0xC4, End = 0xD9, FirstBare = 0xD0, LastBare = 0xD8;
+    const std::size_t last = bytes.size() - 1;  // no marker begins there
+    for (std::size_t at = bytes.find('\xFF', 2); at < last; at = bytes.find('\xFF', at)) {
+        const unsigned marker = static_cast<unsigned char>(bytes[at + 1]);
+        at += marker == 0xFF ? 1 : 2;
+        if (marker == End) return {};
+        if (marker <= 1 || marker == 0xFF || (marker >= FirstBare && marker <= LastBare)) continue;
+        const std::size_t length = bytes.size() - at < 2 ? bytes.size() : Read_U16(bytes, at);
+        if (length > bytes.size() - at) break;
+        if (length < 2 ||
+            (marker == HuffmanTables && !Are_Tables(bytes.substr(at + 2, length - 2)))) {
+            return Failure{u"", "Picture is broken"};
+        }
+        at += length;
+    }
+    return Failure{u"", "Picture is cut off"};
+}
+
+/// Walks over the chunks of a PNG up to its end. The library would take memory for any length.
+Result<> Check_Png(std::string_view bytes) {
+    constexpr std::size_t LengthSize = 4, Around = 12;  // length, type, checksum
+    for (std::size_t at = PngSignature.size(); bytes.size() - at >= Around;) {
+        const std::size_t length = Read_U32(bytes, at);
+        if (bytes.size() - at - Around < length) break;
+        if (bytes.substr(at + LengthSize, 4) == "IEND") return {};
+        at += Around + length;
+    }
+    return Failure{u"", "Picture is cut off"};
 }
 
 bool Is_Opaque(const Picture& picture) {
@@ -63,6 +108,8 @@ bool Is_Picture(std::string_view bytes) {
 Result<Picture> Read_Picture(std::string_view bytes) {
     if (!Is_Picture(bytes)) return Failure{u"", "Is neither a PNG nor a JPEG picture"};
     if (bytes.size() > std::size_t{1} << 30) return Failure{u"", "Is too large"};
+    const auto checked = bytes.starts_with(PngSignature) ? Check_Png(bytes) : Check_Jpeg(bytes);
+    if (!checked) return checked.Why();
     const auto* data = reinterpret_cast<const unsigned char*>(bytes.data());
     const int size = static_cast<int>(bytes.size());
     int width = 0, height = 0, channels = 0;
@@ -70,10 +117,7 @@ Result<Picture> Read_Picture(std::string_view bytes) {
         return Failure{u"", stbi_failure_reason()};
     }
     const std::size_t texels = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
-    if (texels / MostTexelsPerByte > bytes.size() ||
-        (bytes.starts_with(JpegSignature) && Is_Cut_Off(bytes))) {
-        return Failure{u"", "Picture is cut off"};
-    }
+    if (texels / MostTexelsPerByte > bytes.size()) return Failure{u"", "Picture is cut off"};
     const std::unique_ptr<stbi_uc, decltype(&stbi_image_free)> read(
         stbi_load_from_memory(data, size, &width, &height, &channels, TexelSize), stbi_image_free);
     if (!read) return Failure{u"", stbi_failure_reason()};

@@ -33,6 +33,15 @@ struct Places {
     std::size_t entry, header, data;
 
     std::size_t Size() const { return info.format->Size_Of(info.width, info.height); }
+
+    /// Whether texels could be written without a header under them.
+    bool Data_Stands_Alone() const {
+        const auto apart = [&](std::size_t begin, std::size_t size) {
+            return data >= begin + size || data + Size() <= begin;
+        };
+        return apart(0, FileHeaderSize) && apart(entry, EntrySize) &&
+               apart(header, ImageHeaderSize);
+    }
 };
 
 std::optional<Places> Find_Places(std::string_view bytes) {
@@ -165,6 +174,7 @@ Result<std::string> With_Picture(std::string texture, const Picture& picture) {
     if (texture[places->header + MinLodAt] != texture[places->header + MaxLodAt]) {
         return Failure{u"", "Texture has levels of detail, which are only read"};
     }
+    if (!places->Data_Stands_Alone()) return Failure{u"", "Texture is broken"};
     Write_Texels(std::span(texture).subspan(places->data, places->Size()), places->info, picture);
     return texture;
 }

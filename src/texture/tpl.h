@@ -44,7 +44,8 @@ std::string Encode_Texture(const TexelFormat& format, const Picture& picture);
 
 /// `texture`, which can be described and made, with another picture of its size. Everything else
 /// stays: header, wrap, filter, places, other images. Fails, without a subject, where smaller
-/// levels of detail are stored, too, as they would still show what was there.
+/// levels of detail are stored, too, as they would still show what was there, and where texels lie
+/// over a header.
 Result<std::string> With_Picture(std::string texture, const Picture& picture);
 
 }  // namespace bannersmith

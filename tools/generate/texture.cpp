@@ -5,6 +5,11 @@
 
 #include "texture/tpl.h"
 
+#define STBI_WRITE_NO_STDIO
+#define STB_IMAGE_WRITE_STATIC
+#define STB_IMAGE_WRITE_IMPLEMENTATION
+#include <stb_image_write.h>
+
 namespace bannersmith {
 
 namespace {
@@ -29,6 +34,19 @@ std::string Texture_File(TextureFormat format, int width, int height,
         }
     }
     return Encode_Texture(texels, picture);
+}
+
+std::string Jpeg_File(const Picture& picture) {
+    constexpr int Quality = 90;
+    std::string file;
+    const auto append = [](void* out, void* bytes, int size) {
+        static_cast<std::string*>(out)->append(static_cast<char*>(bytes),
+                                               static_cast<std::size_t>(size));
+    };
+    stbi_write_jpg_to_func(append, &file, static_cast<int>(picture.width),
+                           static_cast<int>(picture.height), TexelSize, picture.texels.data(),
+                           Quality);
+    return file;
 }
 
 }  // namespace bannersmith

@@ -4,6 +4,8 @@
 #include <functional>
 #include <string>
 
+#include "texture/picture.h"
+
 namespace bannersmith {
 
 /// The image formats made here, by their numbers in the file.
@@ -18,5 +20,8 @@ struct Pixel {
 /// each.
 std::string Texture_File(TextureFormat format, int width, int height,
                          const std::function<Pixel(int x, int y)>& pixel);
+
+/// A picture as a JPEG file.
+std::string Jpeg_File(const Picture& picture);
 
 }  // namespace bannersmith
