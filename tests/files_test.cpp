@@ -64,7 +64,7 @@ TEST(FileList, IsSortedWithoutCase) {
         folder.Write(name, "");
     }
     fs::create_symlink("self.tpl", folder.Path() / "self.tpl");
-    FileList list(".tpl");
+    FileList list({".tpl"});
     EXPECT_TRUE(list.Set_Path(folder.Text()));
     EXPECT_EQ(list.Names(), (std::vector<std::u16string>{u"A.TPL", u"b.tpl", u"Z.tpl"}));
     EXPECT_FALSE(list.Set_Path(folder.Text() + u"/none"));

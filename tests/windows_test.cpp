@@ -35,6 +35,9 @@ class NotingDesktop : public Desktop {
     std::u16string Open_File(const std::u16string& filter, const std::u16string& last) override {
         return Ask(filter, last);
     }
+    std::u16string Save_File(const std::u16string& filter, const std::u16string& name) override {
+        return Ask(filter, name);
+    }
     std::u16string Ask(const std::u16string& prompt, const std::u16string& title) override {
         said += "<" + Shown(title) + ": " + Shown(prompt) + ">";
         return answer;

@@ -30,7 +30,7 @@ Result<std::optional<std::u16string>> Find_Beside(const std::u16string& layout_p
     const auto is_there = Is_Folder(folder);
     if (!is_there) return is_there.Why();
     if (!*is_there) return std::optional<std::u16string>();
-    const auto textures = List_Files(folder, ".tpl");
+    const auto textures = List_Files(folder, {".tpl"});
     if (!textures) return textures.Why();
     for (const std::u16string& name : *textures) {
         if (name.starts_with(beginning)) return std::optional(folder + name);
@@ -60,7 +60,7 @@ std::u16string Layout_File_Of(const std::u16string& path) {
     if (!Is_Folder(path).Value_Or(false)) return path;
     const std::u16string folder = path + (Ends_In_Separator(path) ? u"" : u"\\");
     for (const char16_t* inner : {u"arc\\blyt\\", u"meta\\banner.bin\\arc\\blyt\\"}) {
-        const auto layouts = List_Files(folder + inner, ".brlyt");
+        const auto layouts = List_Files(folder + inner, {".brlyt"});
         if (layouts && layouts->size() == 1) return folder + inner + layouts->front();
         for (const char16_t* name : {u"banner.brlyt", u"icon.brlyt"}) {
             if (Ordinary_File_Exists(folder + inner + name)) return folder + inner + name;

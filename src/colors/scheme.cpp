@@ -62,7 +62,7 @@ std::u16string Scheme_Path(std::u16string_view program_folder, std::u16string_vi
     const std::u16string folder = Scheme_Folder(program_folder);
     const std::u16string path = folder + std::u16string(name) + From_Utf8(SchemeEnding);
     if (Ordinary_File_Exists(path)) return path;
-    const auto files = List_Files(folder, SchemeEnding);
+    const auto files = List_Files(folder, {SchemeEnding});
     if (!files) return path;
     for (const std::u16string& file : *files) {
         if (Without_Ending(file) == name) return folder + file;

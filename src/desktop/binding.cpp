@@ -33,7 +33,22 @@ void Bind(ListBox& box, DropDownList& list) {
         box.setCurrentIndex(list.Index());
     };
     list.Shown.Raise();
+    if (list.Picture_Of) {
+        box.Show_Pictures([&list](int index) -> QIcon {
+            const auto picture = list.Picture_Of(index);
+            return picture ? QIcon(Shown_Picture(*picture, ListBox::PictureRoom)) : QIcon();
+        });
+    }
     QObject::connect(&box, &QComboBox::activated, [&list](int index) { list.Pick(index); });
+}
+
+void Bind(QLabel& shown, PictureBox& picture) {
+    picture.Shown = [&shown, &picture] {
+        const Picture& value = picture.Value();
+        if (value.texels.empty()) return;
+        shown.setPixmap(Shown_Picture(value, PictureSize));
+    };
+    picture.Shown.Raise();
 }
 
 void Bind(QLabel& shown, Label& label) {

@@ -16,5 +16,6 @@ namespace bannersmith {
 void Bind(QLineEdit& edit, TextBox& box);
 void Bind(ListBox& box, DropDownList& list);
 void Bind(QLabel& shown, Label& label);
+void Bind(QLabel& shown, PictureBox& picture);
 
 }  // namespace bannersmith

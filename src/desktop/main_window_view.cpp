@@ -8,12 +8,14 @@
 #include <QLineEdit>
 #include <QMimeData>
 #include <QStatusBar>
+#include <QTabWidget>
 #include <QUrl>
 #include <utility>
 
 #include "desktop/binding.h"
 #include "desktop/color_window_view.h"
 #include "desktop/fonts.h"
+#include "desktop/game_picture_view.h"
 #include "desktop/text.h"
 #include "desktop/text_editor_view.h"
 #include "desktop/widgets.h"
@@ -43,6 +45,16 @@ QComboBox* Make_List(DropDownList& list, const QString& tooltip) {
     return combo;
 }
 
+/// A page with the frame in its natural height.
+QWidget* At_The_Top(QWidget* frame) {
+    auto* page = new QWidget;
+    auto* rows = new QVBoxLayout(page);
+    rows->setContentsMargins({});
+    rows->addWidget(frame);
+    rows->addStretch(1);
+    return page;
+}
+
 /// Never as a move, after which the file would be deleted where it was.
 void Take_As_Copy(QDropEvent& event) {
     event.setDropAction(Qt::CopyAction);
@@ -58,7 +70,7 @@ MainWindowView::MainWindowView(Form1& window) : window_(window) {
     connect(&drag_ended_, &QTimer::timeout, this, &MainWindowView::Take_Dropped_File);
     auto* content = new QWidget;
     auto* rows = new QVBoxLayout(content);
-    rows->addWidget(Make_Game_Info());
+    rows->addWidget(Make_Pages());
     rows->addWidget(Make_File_Frame());
     auto* save = Make_Button("&Save Changes", "Write the layout file", QKeySequence::Save,
                              [this] { window_.cmdSave_Click(); });
@@ -78,6 +90,10 @@ MainWindowView::MainWindowView(Form1& window) : window_(window) {
         new TextEditorView(
             *window_.TextEditor, [this] { window_.Close_Text_Editor(); }, this);
     };
+    window_.PictureWindowMade = [this] {
+        new GamePictureView(
+            *window_.PictureWindow, [this] { window_.Close_Picture_Window(); }, this);
+    };
     Restore_Position(*this, "main window");
 }
 
@@ -88,6 +104,45 @@ void MainWindowView::Show_State() {
     if (!enabled && centralWidget()->isEnabled()) focus_before_ = centralWidget()->focusWidget();
     centralWidget()->setEnabled(enabled);
     if (enabled && focus_before_ != nullptr) std::exchange(focus_before_, nullptr)->setFocus();
+}
+
+/// One page, without a tab, unless the banner has names for the console's menu.
+QWidget* MainWindowView::Make_Pages() {
+    auto* pages = new QTabWidget;
+    pages->setDocumentMode(true);
+    pages->setTabBarAutoHide(true);
+    pages->addTab(At_The_Top(Make_Game_Info()), "&Banner");
+    QWidget* names = At_The_Top(Make_Channel_Names());
+    names->setParent(this);
+    names->hide();
+    window_.names.page.Shown = [this, pages, names] {
+        const bool visible = window_.names.page.Visible();
+        if (visible) pages->addTab(names, "C&hannel names");
+        if (!visible) pages->removeTab(pages->indexOf(names));
+    };
+    return pages;
+}
+
+QWidget* MainWindowView::Make_Channel_Names() {
+    auto* page = new QGroupBox("Channel names");
+    auto* grid = new QGridLayout(page);
+    grid->addWidget(new QLabel("Up to 20 characters a line, as the console's menu shows them"), 0,
+                    1, 1, 2);
+    int row = 1;
+    for (std::size_t language = 0; language < NameLanguages.size(); ++language, ++row) {
+        const QString code = Shown(std::u16string(NameLanguages[language]));
+        grid->addWidget(new QLabel(code + ":"), row, 0);
+        for (std::size_t line = 0; line < NameLines; ++line) {
+            QLineEdit* edit = Make_Field(window_.names.txtNames[language][line], false);
+            edit->setAccessibleName(QString("%1, line %2").arg(code).arg(line + 1));
+            edit->setMinimumHeight(edit->sizeHint().height());  // the window grows instead
+            grid->addWidget(edit, row, 1 + static_cast<int>(line));
+        }
+    }
+    grid->addWidget(Make_Button("Set", "Write the names that differ", {},
+                                [this] { window_.cmdSetNames_Click(); }),
+                    row, 1, 1, 2);
+    return page;
 }
 
 QWidget* MainWindowView::Make_Game_Info() {
@@ -169,6 +224,9 @@ void MainWindowView::Add_Looks(QGridLayout& grid, int row) {
                    row, selector, 1, columns - selector);
     grid.addWidget(Make_Label("&Logo:", logos), row + 1, caption);
     grid.addWidget(logos, row + 1, field);
+    grid.addWidget(Make_Button("Game Pic&ture...", "See, replace and export the game's picture",
+                               QKeySequence("Ctrl+G"), [this] { window_.cmdPicture_Click(); }),
+                   row + 1, selector, 1, columns - selector);
     grid.addWidget(Make_Label("Region &Force:", force), row + 2, caption);
     grid.addWidget(force, row + 2, field, Qt::AlignLeft);
 }

@@ -24,7 +24,9 @@ class MainWindowView : public QMainWindow {
     void dropEvent(QDropEvent* event) override;
 
  private:
+    QWidget* Make_Pages();
     QWidget* Make_Game_Info();
+    QWidget* Make_Channel_Names();
     QWidget* Make_File_Frame();
     void Add_Field(QGridLayout& grid, int row, const QString& name, TextBox& box, bool bold);
     void Add_Selector(QGridLayout& grid, int row, const QString& name, Field list,

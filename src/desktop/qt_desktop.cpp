@@ -71,6 +71,16 @@ std::u16string QtDesktop::Open_File(const std::u16string& filter, const std::u16
     return Taken(QDir::toNativeSeparators(dialog.selectedFiles().value(0)));
 }
 
+std::u16string QtDesktop::Save_File(const std::u16string& filter, const std::u16string& name) {
+    QFileDialog dialog(QApplication::activeWindow());
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setNameFilters(Toolkit_Filters(filter));
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    dialog.selectFile(Shown(name));
+    if (dialog.exec() != QDialog::Accepted) return {};
+    return Taken(QDir::toNativeSeparators(dialog.selectedFiles().value(0)));
+}
+
 std::u16string QtDesktop::Ask(const std::u16string& prompt, const std::u16string& title) {
     return Taken(QInputDialog::getText(QApplication::activeWindow(), Shown(title), Shown(prompt)));
 }

@@ -12,6 +12,7 @@ class QtDesktop : public Desktop {
     bool Confirm(const std::u16string& question) override;
     void Report(const Failure& failure) override;
     std::u16string Open_File(const std::u16string& filter, const std::u16string& last) override;
+    std::u16string Save_File(const std::u16string& filter, const std::u16string& name) override;
     std::u16string Ask(const std::u16string& prompt, const std::u16string& title) override;
     Color Choose_Color(Color color) override;
     float Text_Width(std::u16string_view text, const Font& font) override;

@@ -8,6 +8,7 @@
 #include <QWheelEvent>
 #include <cmath>
 #include <numbers>
+#include <utility>
 
 #include "colors/scheme.h"
 
@@ -43,6 +44,42 @@ void ColorButton::paintEvent(QPaintEvent* /*event*/) {
     painter.setBrush(isEnabled() ? color_ : color_.lighter());
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
     if (hasFocus()) painter.drawRect(rect().adjusted(1, 1, -2, -2));
+}
+
+QPixmap Shown_Picture(const Picture& picture, QSize room) {
+    const QImage image(reinterpret_cast<const uchar*>(picture.texels.data()),
+                       static_cast<int>(picture.width), static_cast<int>(picture.height),
+                       static_cast<int>(TexelSize * picture.width), QImage::Format_RGBA8888);
+    const QSize size = image.size().boundedTo(image.size().scaled(room, Qt::KeepAspectRatio));
+    QPixmap shown(size);
+    shown.fill(QColor(0x30, 0x30, 0x30));
+    QPainter painter(&shown);
+    painter.drawImage(0, 0, image.scaled(size, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    return shown;
+}
+
+void ListBox::Show_Pictures(std::function<QIcon(int index)> icon_of) {
+    icon_of_ = std::move(icon_of);
+}
+
+void ListBox::showPopup() {
+    if (icon_of_ && !entries_.icon_of) {
+        entries_.icon_of = icon_of_;
+        setIconSize(PictureRoom);
+    }
+    QComboBox::showPopup();
+}
+
+void ListBox::Entries::Set(const QStringList& entries) {
+    icons_.clear();
+    setStringList(entries);
+}
+
+QVariant ListBox::Entries::data(const QModelIndex& index, int role) const {
+    if (role != Qt::DecorationRole || !icon_of) return QStringListModel::data(index, role);
+    auto known = icons_.find(index.row());
+    if (known == icons_.end()) known = icons_.insert(index.row(), icon_of(index.row()));
+    return known->isNull() ? QVariant() : QVariant(*known);
 }
 
 /// Nor does the wheel take the focus along, which would let the next letter choose an entry.

@@ -4,6 +4,7 @@
 #include <QAbstractButton>
 #include <QColor>
 #include <QComboBox>
+#include <QHash>
 #include <QIcon>
 #include <QLabel>
 #include <QPushButton>
@@ -18,6 +19,12 @@ namespace bannersmith {
 
 /// A colour of the windows as the toolkit has it.
 QColor Shown_Color(Color color);
+
+/// The room that a picture is shown in.
+inline constexpr QSize PictureSize(256, 192);
+
+/// A picture, no larger than `room`, on a dark ground as the console shows it.
+QPixmap Shown_Picture(const Picture& picture, QSize room);
 
 /// A box of one colour that can be clicked, also with the keyboard.
 class ColorButton : public QAbstractButton {
@@ -47,13 +54,33 @@ class ListBox : public QComboBox {
     ListBox();
 
     /// Shows other entries in place of those before, all in one step, and selects none.
-    void Show_Entries(const QStringList& entries) { entries_.setStringList(entries); }
+    void Show_Entries(const QStringList& entries) { entries_.Set(entries); }
+
+    /// Shows the picture that `icon_of` has for an entry beside it, from when the list is opened
+    /// first: by then all of them are asked for, each once.
+    void Show_Pictures(std::function<QIcon(int index)> icon_of);
+
+    static constexpr QSize PictureRoom{64, 32};  ///< of such a picture
+
+    void showPopup() override;
 
  protected:
     void wheelEvent(QWheelEvent* event) override;
 
  private:
-    QStringListModel entries_;
+    /// The texts, and the pictures as far as they were asked for.
+    class Entries : public QStringListModel {
+     public:
+        void Set(const QStringList& entries);
+        QVariant data(const QModelIndex& index, int role) const override;
+        std::function<QIcon(int index)> icon_of;
+
+     private:
+        mutable QHash<int, QIcon> icons_;
+    };
+
+    Entries entries_;
+    std::function<QIcon(int index)> icon_of_;
 };
 
 /// A label whose text ends in "..." where it does not fit; the tooltip has all of it.

@@ -5,7 +5,7 @@
 namespace bannersmith {
 
 Result<> FileList::Set_Path(const std::u16string& folder) {
-    auto names = List_Files(folder, ending_);
+    auto names = List_Files(folder, endings_);
     names_.clear();
     if (!names) return names.Why();
     names_ = std::move(*names);

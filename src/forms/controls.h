@@ -7,11 +7,13 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "forms/desktop.h"
+#include "texture/picture.h"
 
 namespace bannersmith {
 
@@ -65,6 +67,9 @@ class DropDownList : public Control {
     static constexpr int NoSelection = -1;  ///< the index where nothing is selected
 
     Event Click;  ///< the selection changed, or a person picked an entry
+
+    /// The picture that a view shows beside an entry, by its index; none without this.
+    std::function<std::optional<Picture>(int index)> Picture_Of;
 
     /// Begins with `entries`, nothing selected.
     explicit DropDownList(std::vector<std::u16string> entries = {})
@@ -120,7 +125,7 @@ class DropDownList : public Control {
     int index_ = NoSelection;
 };
 
-/// A window as a whole.
+/// A window, or a page of one, as a whole.
 class Form : public Control {
  public:
     /// Hidden until it is shown.
@@ -128,8 +133,9 @@ class Form : public Control {
     /// Whether a person can work in it.
     bool Enabled() const { return enabled_; }
 
-    /// Shows the window and returns at once.
+    /// Shows the window and returns at once; hides it.
     void Show() { Change(visible_, true); }
+    void Hide() { Change(visible_, false); }
     /// Lets a person work in the window or not.
     void Set_Enabled(bool enabled) { Change(enabled_, enabled); }
 
@@ -148,8 +154,8 @@ class Form : public Control {
 /// the folder was last set.
 class FileList {
  public:
-    /// `ending`: what the names end in, for example ".tpl" for the pattern "*.tpl".
-    explicit FileList(std::string_view ending) : ending_(ending) {}
+    /// `endings`: what the names end in, for example ".tpl" for the pattern "*.tpl".
+    explicit FileList(std::vector<std::string_view> endings) : endings_(std::move(endings)) {}
 
     /// Lists `folder`: file names sorted by name; none where it fails.
     Result<> Set_Path(const std::u16string& folder);
@@ -158,7 +164,7 @@ class FileList {
     const std::vector<std::u16string>& Names() const { return names_; }
 
  private:
-    std::string ending_;
+    std::vector<std::string_view> endings_;
     std::vector<std::u16string> names_;
 };
 
@@ -177,6 +183,22 @@ class Label : public Control {
 
  private:
     std::u16string caption_;
+};
+
+/// A picture that the user cannot edit.
+class PictureBox : public Control {
+ public:
+    /// What the box shows.
+    const Picture& Value() const { return picture_; }
+
+    /// Shows another picture; raises no event of its own.
+    void Set(Picture picture) {
+        picture_ = std::move(picture);
+        Shown.Raise();
+    }
+
+ private:
+    Picture picture_;
 };
 
 /// A box of one colour that can be clicked.

@@ -35,6 +35,10 @@ class Desktop {
     /// the file chosen last, in whose folder the choice begins if it is there.
     virtual std::u16string Open_File(const std::u16string& filter, const std::u16string& last) = 0;
 
+    /// The full path of a file that the user wants to be written, or an empty text. `filter` as
+    /// above; `name`: what the file is called when the user says nothing else.
+    virtual std::u16string Save_File(const std::u16string& filter, const std::u16string& name) = 0;
+
     /// The user's answer to `prompt`, under `title`; empty when there was none.
     virtual std::u16string Ask(const std::u16string& prompt, const std::u16string& title) = 0;
 

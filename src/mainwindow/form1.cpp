@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "banner/pictures.h"
 #include "base/text.h"
 #include "colors/window/scheme_list.h"
 #include "gameinfo/languages.h"
@@ -22,10 +23,12 @@ Form1::Form1(Process process, Desktop& desktop)
     : BrlytData(opened_.banner.Bytes()),
       NoneRegion(opened_.banner.Neutral()),
       info(opened_.banner, [this](const Edit& edit) { Apply(edit); }),
+      names(opened_.banner, [this](const Edit& edit) { Apply(edit); }),
       cmbForce({LanguageList.begin(), LanguageList.end()}),
       process_(std::move(process)),
       desktop_(desktop) {
     txtSrc.Change = [this] { txtSrc_Change(); };
+    cmbLogo.Picture_Of = [this](int index) { return Logo_Picture(index); };
 }
 
 bool Form1::Form_Load() {
@@ -47,6 +50,7 @@ void Form1::txtSrc_Change() {
     opened_ = {};
     opened_ = Open_Layout(process_.program_folder, txtSrc.Text(), Banner::MostHistory);
     if (opened_.banner.Is_Loaded()) info.Refill();
+    names.Refill();
     lblLastCommand.Set(u"");
     Tell_What_Is_Loaded();
 }
@@ -91,6 +95,14 @@ void Form1::RefreshLogoList() {
     cmbLogo.Select(0);
 }
 
+/// The first entry stands for no file.
+std::optional<Picture> Form1::Logo_Picture(int index) const {
+    if (index <= 0) return std::nullopt;
+    const std::u16string& name = cmbLogo.Entries()[static_cast<std::size_t>(index)];
+    auto picture = Read_Picture_File(Logo_Path(process_.program_folder, name));
+    return picture ? std::optional(std::move(*picture)) : std::nullopt;
+}
+
 void Form1::cmdEditColor_Click() {
     ColorWindow =
         std::make_unique<frmColor>(MainWindowForColors{form, txtSrc, cmbFileList, info.cmbRegion,
@@ -124,6 +136,28 @@ void Form1::cmdHC_Click() {
 void Form1::Close_Text_Editor() {
     TextEditor->Form_Unload();
     TextEditor.reset();
+}
+
+void Form1::cmdPicture_Click() {
+    if (const auto picture = opened_.banner.Game_Picture(); !picture) {
+        desktop_.Report(picture.Why());
+        return;
+    }
+    const auto apply = [this](const Edit& edit) {
+        Apply(edit);
+        lblLastCommand.Set(u"Game picture: the next save writes it");
+        Tell_What_Is_Loaded();
+    };
+    PictureWindow =
+        std::make_unique<GamePicture>(MainWindowForPicture{form, opened_.banner, apply}, desktop_);
+    PictureWindowMade.Raise();
+    PictureWindow->Form_Load();
+    PictureWindow->form.Show();
+}
+
+void Form1::Close_Picture_Window() {
+    PictureWindow->Form_Unload();
+    PictureWindow.reset();
 }
 
 }  // namespace bannersmith

@@ -13,6 +13,8 @@
 #include "colors/window/frm_color.h"
 #include "forms/controls.h"
 #include "forms/desktop.h"
+#include "gamepicture/game_picture.h"
+#include "mainwindow/channel_names.h"
 #include "mainwindow/game_info.h"
 #include "mainwindow/layout_file.h"
 #include "manualeditor/frm_hc.h"
@@ -37,6 +39,7 @@ class Form1 {
 
     Form form;
     GameInfo info;
+    ChannelNamesPage names;
     TextBox txtSrc;  ///< the layout's path as typed; a change runs `txtSrc_Change`
     /// Read by each save, see `Read_Padding`.
     TextBox txtPad{std::u16string(DefaultPadding)};
@@ -44,14 +47,15 @@ class Form1 {
     /// language.
     DropDownList cmbFileList, cmbLogo, cmbForce;
     /// The files listed last: of the schemes folder and of the logos folder.
-    FileList File1{".vccs"}, File2{".tpl"};
+    FileList File1{{".vccs"}}, File2{{".tpl", ".png", ".jpg", ".jpeg"}};
     Label lblLoaded;       ///< what is loaded: file, languages, size, unsaved changes
     Label lblLastCommand;  ///< what the last command changed
 
-    /// The other two windows while they are open. A view is made on the event, before they load.
+    /// The other windows while they are open. A view is made on the event, before they load.
     std::unique_ptr<frmColor> ColorWindow;
     std::unique_ptr<frmHC> TextEditor;
-    Event ColorWindowMade, TextEditorMade;
+    std::unique_ptr<GamePicture> PictureWindow;
+    Event ColorWindowMade, TextEditorMade, PictureWindowMade;
 
     /// Start-up. Loads the layout that the configuration names, shows the window and fills its
     /// lists. False, and reported, where there is no configuration.
@@ -79,14 +83,20 @@ class Form1 {
     /// Applies an edit to the banner; a failure is reported. The fields are not refreshed.
     void Apply(const Edit& edit);
 
-    /// Open the colour window and the manual text editor and return at once; this window is
-    /// disabled until the other one is closed.
+    /// Set of the page of channel names, see `ChannelNamesPage`.
+    void cmdSetNames_Click();
+
+    /// Open the colour window, the manual text editor, and the window of the game's picture where
+    /// the banner has one, and return at once; this window is disabled until the other one is
+    /// closed.
     void cmdEditColor_Click();
     void cmdHC_Click();
+    void cmdPicture_Click();
 
     /// The user closed the other window: it is unloaded and no longer there.
     void Close_Color_Window();
     void Close_Text_Editor();
+    void Close_Picture_Window();
 
     /// Whether the layout in memory differs from the file as it was loaded or saved last.
     bool Has_Unsaved_Changes() const;
@@ -103,7 +113,8 @@ class Form1 {
     /// Fills the scheme list with "Current Brlyt", which it selects, and the names of the schemes.
     void RefreshColorList_Here();
 
-    /// Fills the logo list with "Current Logo", which it selects, and the logo files.
+    /// Fills the logo list with "Current Logo", which it selects, and the logo files: textures and
+    /// pictures.
     void RefreshLogoList();
 
  private:
@@ -117,6 +128,7 @@ class Form1 {
     Result<SavePlan> Save();
 
     void Tell_Changes(std::u16string_view command, const std::string& before);
+    std::optional<Picture> Logo_Picture(int index) const;
     void Tell_What_Is_Loaded();
 
     Process process_;

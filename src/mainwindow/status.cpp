@@ -80,6 +80,15 @@ void Form1::cmdSetAll_Click(std::int16_t Index) {
     Tell_Changes(field < SetAllNames.size() ? SetAllNames[field] : u"", before);
 }
 
+void Form1::cmdSetNames_Click() {
+    const std::size_t written = names.cmdSet_Click();
+    lblLastCommand.Set(
+        u"Channel names: " +
+        (written == 0 ? u"nothing changed"
+                      : Number(written) + (written == 1 ? u" line changed" : u" lines changed")));
+    Tell_What_Is_Loaded();
+}
+
 void Form1::Tell_Changes(std::u16string_view command, const std::string& before) {
     const std::u16string changes = Describe(Changed_Boxes(before, BrlytData), before == BrlytData);
     lblLastCommand.Set(std::u16string(command) + u": " + changes);

@@ -105,13 +105,15 @@ Result<bool> Is_Folder(const std::u16string& path) {
 }
 
 Result<std::vector<std::u16string>> List_Files(const std::u16string& folder,
-                                               std::string_view ending) {
+                                               const std::vector<std::string_view>& endings) {
     std::error_code error;
     std::vector<std::string> files = Regular_Files(folder, error);
     if (error) return Failure{folder, error.message()};
-    const std::string wanted = Without_Case(std::string(ending));
     std::erase_if(files, [&](const std::string& name) {
-        return name.starts_with('.') || !Without_Case(name).ends_with(wanted);
+        return name.starts_with('.') ||
+               std::none_of(endings.begin(), endings.end(), [&](std::string_view ending) {
+                   return Without_Case(name).ends_with(Without_Case(std::string(ending)));
+               });
     });
     std::sort(files.begin(), files.end(), [](const std::string& a, const std::string& b) {
         const std::string x = Without_Case(a), y = Without_Case(b);

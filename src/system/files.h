@@ -34,10 +34,10 @@ bool Same_File(const std::u16string& a, const std::u16string& b);
 /// cannot be told.
 Result<bool> Is_Folder(const std::u16string& path);
 
-/// The regular files of `folder` that end in `ending` whatever its case (".tpl"), sorted by name
-/// without case. Hidden files, whose names begin with a dot, are left out.
+/// The regular files of `folder` that end in one of `endings` whatever its case (".tpl"), sorted by
+/// name without case. Hidden files, whose names begin with a dot, are left out.
 Result<std::vector<std::u16string>> List_Files(const std::u16string& folder,
-                                               std::string_view ending);
+                                               const std::vector<std::string_view>& endings);
 
 /// Makes the folders that the path of a file leads through, as far as they are missing.
 Result<> Make_Folders_Of(const std::u16string& path);

@@ -14,7 +14,7 @@ import sys
 import tempfile
 
 USER_PAGES = ["docs/manual.md", "docs/messages.md"]
-PROGRAMS = ["bannersmith", "bannersmith-window", "bannersmith-inspect"]
+PROGRAMS = ["bannersmith", "bannersmith-window", "bannersmith-inspect", "bannersmith-texture"]
 # A text of three words or more (four without a capital), or one that ends in "!", is a message; what holds a line
 # break or a | is none.
 SENTENCE = re.compile(r'"((?=[^"]*!")[^"|\\n]*|[A-Z][\w\']*(?:,? [\w\'+.]+){2}[^"|]*|'

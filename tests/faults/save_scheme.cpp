@@ -15,6 +15,7 @@ struct Person : Desktop {
     void Message(const std::u16string&) override { status = 0; }
     bool Confirm(const std::u16string&) override { return false; }
     std::u16string Open_File(const std::u16string&, const std::u16string&) override { return {}; }
+    std::u16string Save_File(const std::u16string&, const std::u16string&) override { return {}; }
     std::u16string Ask(const std::u16string&, const std::u16string&) override { return name; }
     Color Choose_Color(Color color) override { return color; }
     float Text_Width(std::u16string_view, const Font&) override { return 0; }

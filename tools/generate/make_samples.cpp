@@ -105,8 +105,7 @@ void Write_Program_Folder(const fs::path& folder) {
         const std::string file = To_Utf8(named.name) + std::string(SchemeEnding);
         Write(folder / "schemes" / file, Format_Scheme(named.scheme));
     }
-    Write(folder / "cfgs" / "vcinfopath.cfg",
-          "\\samples\\seven_languages\\arc\\blyt\\banner.brlyt\r\n");
+    Write(folder / "cfgs" / "vcinfopath.cfg", "\\samples\\channel\\00000000.app\r\n");
 }
 
 }  // namespace

@@ -1,13 +1,17 @@
 // render-pictures PROGRAM-FOLDER OUTPUT-FOLDER light|dark: paints each window, with the first
 // sample loaded, and the preview in each scheme into PNG files. The scale is the toolkit's
 // QT_SCALE_FACTOR.
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QComboBox>
 #include <QStyleFactory>
+#include <QTabWidget>
 #include <QTemporaryDir>
 #include <cstdio>
 #include <filesystem>
 
 #include "desktop/color_window_view.h"
+#include "desktop/game_picture_view.h"
 #include "desktop/main_window_view.h"
 #include "desktop/preview_view.h"
 #include "desktop/qt_desktop.h"
@@ -88,6 +92,26 @@ void Render(const std::u16string& program_folder, const Painter& painter) {
     editor.close();
     QApplication::processEvents();
     painter.Save(view, "main-window-japanese");
+
+    window.txtSrc.Set(u"\\samples\\channel\\00000000.app");
+    view.findChild<QTabWidget*>()->setCurrentIndex(1);
+    for (int i = 0; i < 3; ++i) QApplication::processEvents();  // the window grows
+    painter.Save(view, "channel-names");
+    view.findChild<QTabWidget*>()->setCurrentIndex(0);
+    window.cmdPicture_Click();
+    auto& picture = Find_View<GamePictureView>();
+    QApplication::processEvents();
+    painter.Save(picture, "game-picture");
+    picture.close();
+    QApplication::processEvents();  // the view deletes itself
+    for (QComboBox* list : view.findChildren<QComboBox*>()) {
+        if (list->accessibleName() != "Logo") continue;
+        list->showPopup();
+        QApplication::processEvents();
+        painter.Save(*list->view(), "logo-list");
+        list->hidePopup();
+    }
+    painter.Save(view, "main-window-channel");
 
     for (DropDownList& list : window.info.cmbRegion) list.Pick(0);
     window.cmdEditColor_Click();

@@ -39,7 +39,7 @@ class frmColor {
     Form form;
     std::array<Boxes, Elements.size()> pic;  ///< the elements' boxes, in the order of `Elements`
     DropDownList cmbFileList;                ///< "Current Brlyt" and the schemes
-    FileList File1{".vccs"};
+    FileList File1{{".vccs"}};
     TextBox txtBannerPath{u"gen.brlyt"};         ///< the layout to read colours from
     TextBox txtR{u"0"}, txtG{u"0"}, txtB{u"0"};  ///< the colour being edited, 0 to 255 each
     ColorBox picClr;                             ///< the same as a swatch
