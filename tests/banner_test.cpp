@@ -7,6 +7,7 @@
 #include <thread>
 
 #include "base/text.h"
+#include "gameinfo/fields.h"
 #include "generate/banners.h"
 #include "generate/channel.h"
 #include "generate/layout_builder.h"
@@ -148,7 +149,7 @@ TEST(Banner, IsEditedInItsArchiveAsInAFolder) {
         EXPECT_FALSE(banner.Apply(SetChannelName{u"GER", 0, std::u16string(21, u'x')}));
         const auto plan = banner.Plan_Save();
         EXPECT_EQ(plan->files.size(), packed ? 1U : 2U);
-        EXPECT_EQ(plan->about_logo, packed ? "but the logo is no texture" : "");
+        EXPECT_EQ(plan->notices.empty() ? "" : plan->notices.front(), packed ? "but the logo is no texture" : "");
         EXPECT_FALSE(banner.Was_Changed_Elsewhere());
         ASSERT_TRUE(banner.Save(*plan));
         EXPECT_TRUE(banner.Was_Changed_Elsewhere());
@@ -187,7 +188,8 @@ TEST(Banner, TakesPicturesForLogoAndGame) {
         EXPECT_FALSE(banner.Apply(ReplacePicture{folder.Text() + path}));
         ASSERT_TRUE(banner.Apply(ReplaceLogo{folder.Text() + u"/red.png"}));
         const auto plan = banner.Plan_Save();
-        EXPECT_EQ(plan->about_logo, path.ends_with(u"icon.brlyt") ? "" : "the logo as I4 512 x 64");
+        EXPECT_EQ(plan->has_logo ? plan->notices.front() : "",
+                  path.ends_with(u"icon.brlyt") ? "" : "the logo as I4 512 x 64");
         ASSERT_TRUE(banner.Save(*plan));
         const Banner again = *Banner::Load(BannerSource(folder.Text() + path));
         EXPECT_EQ(again.Game_Picture()->texels, std::string(before.texels.size(), '\xFF'));
@@ -204,6 +206,71 @@ TEST(Banner, TakesPicturesForLogoAndGame) {
         EXPECT_NE(bytes, *channel.Find_File(path));
     }
     EXPECT_FALSE(Banner::From_Bytes(Neutral_Banner()).Game_Picture());
+}
+
+/// Boxes for Korea beside neutral ones and in front of them, as no banner has them, so that each test can go wrong.
+TEST(Banner, WritesKoreanInKoreanBoxesAlone) {
+    const auto layout = [](std::initializer_list<std::pair<const char*, std::u16string>> boxes) {
+        std::vector<std::string> sections;
+        for (const auto& [name, text] : boxes) sections.push_back(Text_Box_Section(Clean_Text_Box(name, text, 0)));
+        sections.push_back(Empty_Section("gre1"));
+        return Layout_File(sections);
+    };
+    const std::u16string year = u"\uC77C\uBCF8\uD310 \uBC1C\uB9E4\uB144\uB3C4^1997\uB144", players = u"x y^1-4\uBA85";
+    Banner korean =
+        Banner::From_Bytes(layout({{"T_VCTitle_KOR", u"Korea"}, {"T_Year_KOR", year}, {"T_Play_KOR", players}}));
+    EXPECT_EQ(korean.Neutral(), u"");
+    EXPECT_EQ(Bare_Value(Field::year, year, u"KOR") + Bare_Value(Field::players, players, u"KOR"), u"19974");
+    for (const Edit& edit :
+         std::initializer_list<Edit>{SetFieldEverywhere{Field::year, u"2001"}, SetField{Field::players, u"KOR", u"3"},
+                                     SetFieldEverywhere{Field::title, u"New"}}) {
+        ASSERT_TRUE(korean.Apply(edit));
+    }
+    EXPECT_EQ(Get_Text(korean.Bytes(), "T_Year_KOR"), u"\uC77C\uBCF8\uD310 \uBC1C\uB9E4\uB144\uB3C4^2001\uB144");
+    EXPECT_EQ(Get_Text(korean.Bytes(), "T_Play_KOR"), u"\uD50C\uB808\uC774 \uC778\uC6D0\uC218^1-3\uBA85");
+    EXPECT_EQ(Get_Text(korean.Bytes(), "T_VCTitle_KOR"), u"New");
+    ASSERT_TRUE(korean.Apply(WriteBox{u"T_Year", u"raw"}));
+    EXPECT_EQ(Get_Text(korean.Bytes(), "T_Year_KOR").substr(9), u"2001\uB144");
+
+    Banner mixed = Banner::From_Bytes(layout({{"T_Play_KOR", u"a"}, {"T_Play", u"b"}, {"T_Play_KOR", u"c"}}));
+    ASSERT_TRUE(mixed.Apply(WriteBox{u"T_Play", u"Z"}));
+    std::u16string texts;
+    for (const TextBoxInfo& box : Read_Layout(mixed.Bytes()).boxes) texts += box.text;
+    EXPECT_EQ(texts, u"aZc");
+}
+
+TEST(Banner, TellsWhatAConsoleWillNotShow) {
+    const TempFolder folder;
+    const auto texts = [](const std::string& code) {
+        return Text_Box_Section(Clean_Text_Box("T_VCTitle_" + code, u"x", 0)) +
+               Text_Box_Section(Clean_Text_Box("T_ESRB_" + code, u"y", 0));
+    };
+    folder.Write("arc/anim/banner_Start.brlan", "...T_ESRB_ENG...");
+    folder.Write("arc/blyt/x.brlyt",
+                 Layout_File({Material_Section({{"T_Year", {}, {}, -1}, {"T_Play_KOR", {}, {}, -1}}), texts("ENG"),
+                              Group_Section("ENG", {"T_ESRB_ENG"}), Group_Section("SPA", {"T_ESRB_ENG"}),
+                              Empty_Section("gre1")}));
+    folder.Write("a.vccs", Format_Scheme(Shipped_Schemes()[0].scheme));
+    const struct {
+        Edit edit;
+        const char* notice;
+    } rows[] = {
+        {SetField{Field::title, u"ENG", u"new"}, nullptr},
+        {SetFieldEverywhere{Field::rating, u"T"}, "but the ESRB text of ENG is shown for SPA, too"},
+        {ApplyScheme{folder.Text() + u"/a.vccs"}, "but the scheme leaves the colors of T_Year, T_Play_KOR"},
+        {ForceRegion{u"ENG"}, nullptr},
+        {ForceRegion{u"SPA"},
+         "but region force leaves the group ENG, and banner_Start.brlan names T_ESRB_ENG, "
+         "which gets another name"},
+    };
+    for (const auto& row : rows) {
+        Banner banner = *Banner::Load(BannerSource(folder.Text() + u"/arc/blyt/x.brlyt"));
+        ASSERT_TRUE(banner.Apply(row.edit));
+        const auto plan = banner.Plan_Save();
+        EXPECT_EQ(plan->notices, row.notice ? std::vector<std::string>{row.notice} : std::vector<std::string>());
+    }
+    const Banner banner = *Banner::Load(BannerSource(folder.Text() + u"/arc/blyt/x.brlyt"));
+    EXPECT_EQ("but " + banner.Lost_By_Force_Of(u"SPA"), rows[4].notice);
 }
 
 /// What matters here is the run under sanitizers.

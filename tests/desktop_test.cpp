@@ -157,7 +157,7 @@ TEST_F(Widgets, WriteTheSameBytesAsABatchRun) {
     BatchRun run({batch.Text(),
                   u"-TITLE All -T_JPN One^Two -YEAR 2001 -Y_JPN 1999 -PLAY 4 -SYSTEM MEGA -ESRB T -E_GER M "
                   u"-COLOR Mine -LOGO New.tpl -FORCE ITA -PAD +16"},
-                 {});
+                 [](const Failure&) {});
     EXPECT_EQ(run.Run(), BatchRun::Done);
     EXPECT_EQ(Hex(folder.Read(Layout)), Hex(batch.Read(Layout)));
     EXPECT_EQ(folder.Read(Texture), "new");

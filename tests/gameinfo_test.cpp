@@ -28,10 +28,10 @@ TEST(BareValue, IsTakenOutOfAnyText) {
                            {u"x y^1～2人", u"1～2人", u"x", u""},
                            {u"ESRB Rating:  E10+ ", u"10+ ", u"+", u"E10+"},
                            {u"a: \tb", u": \tb", u"b", u"\tb"}}) {
-        EXPECT_EQ(Bare_Value(Field::year, row.text), row.year) << To_Utf8(row.text);
-        EXPECT_EQ(Bare_Value(Field::players, row.text), row.players) << To_Utf8(row.text);
-        EXPECT_EQ(Bare_Value(Field::rating, row.text), row.rating) << To_Utf8(row.text);
-        EXPECT_EQ(Bare_Value(Field::title, row.text), row.text);
+        EXPECT_EQ(Bare_Value(Field::year, row.text, u"ENG"), row.year) << To_Utf8(row.text);
+        EXPECT_EQ(Bare_Value(Field::players, row.text, u"ENG"), row.players) << To_Utf8(row.text);
+        EXPECT_EQ(Bare_Value(Field::rating, row.text, u"ENG"), row.rating) << To_Utf8(row.text);
+        EXPECT_EQ(Bare_Value(Field::title, row.text, u"ENG"), row.text);
     }
 }
 

@@ -4,6 +4,7 @@
 #include <new>
 #include <utility>
 
+#include "banner/notices.h"
 #include "banner/pictures.h"
 #include "banner/region_force.h"
 #include "base/text.h"
@@ -12,6 +13,7 @@
 #include "gameinfo/languages.h"
 #include "layout/file_length.h"
 #include "layout/format.h"
+#include "layout/kind.h"
 #include "layout/text_box.h"
 #include "system/files.h"
 
@@ -113,6 +115,7 @@ struct Banner::Applying {
         auto colored = Apply_Color_Scheme(std::move(state.layout), edit.file);
         if (!colored) return colored.Why();
         state.layout = std::move(*colored);
+        state.has_scheme = true;
         return {};
     }
 
@@ -293,10 +296,10 @@ Result<SavePlan> Banner::Plan_Save(std::span<const Edit> last) const {
         auto padding = state.padding ? Read_Padding(*state.padding)
                                      : Result<Padding>(Padding{false, on_disk_.size()});
         if (!padding) return padding.Why();
-        Region_Force(state.layout, To_Utf8(state.forced));
         SavePlan plan;
         plan.has_logo = state.has_logo;
-        plan.about_logo = state.about_logo;
+        plan.notices = Notices_Of(state);
+        Region_Force(state.layout, To_Utf8(state.forced));
         state.layout = AddPadding(std::move(state.layout), *padding);
         if (source_.Packed_In()) plan.packed_layout = state.layout;
         auto files = source_.Plan(std::move(state.layout), std::move(state.textures), state.names);
@@ -304,6 +307,27 @@ Result<SavePlan> Banner::Plan_Save(std::span<const Edit> last) const {
         plan.files = std::move(*files);
         return plan;
     });
+}
+
+std::string Banner::Lost_By_Force_Of(const std::u16string& code) const {
+    if (!Is_Layout(state_.layout)) return {};
+    return Lost_By_Force(state_.layout, To_Utf8(code), source_.Animations());
+}
+
+/// Before the region is forced.
+std::vector<std::string> Banner::Notices_Of(const State& state) const {
+    std::vector<std::string> notices;
+    const auto add = [&](const std::string& what) {
+        if (!what.empty()) notices.push_back("but " + what);
+    };
+    if (!state.about_logo.empty()) notices.push_back(state.about_logo);
+    if (!Is_Layout(state.layout)) return notices;
+    if (state.has_scheme) add(Left_By_Scheme(state.layout));
+    if (!Forced_From(state.layout, To_Utf8(state.forced)).empty()) {
+        add(Lost_By_Force(state.layout, To_Utf8(state.forced), source_.Animations()));
+    }
+    for (const std::string& shared : Shared_Texts(on_disk_, state.layout)) add(shared);
+    return notices;
 }
 
 Result<> Banner::Save(const SavePlan& plan, const FolderLock& lock, const Notice& notice) const {

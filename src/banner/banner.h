@@ -20,9 +20,9 @@ struct SavePlan {
     /// Which files get which bytes: the textures that are replaced, in the order of their edits,
     /// then the layout; or the archive that has them all.
     std::vector<NewContents> files;
-    std::string packed_layout;  ///< the layout in the archive; empty for a layout file
-    bool has_logo = false;      ///< whether the logo is replaced
-    std::string about_logo;     ///< what to say of it, see `About_Logo`
+    std::string packed_layout;         ///< the layout in the archive; empty for a layout file
+    bool has_logo = false;             ///< whether the logo is replaced
+    std::vector<std::string> notices;  ///< what to say of it behind "Saved, ": "but the scheme ..."
 
     /// The layout with its padding.
     std::string_view Layout() const {
@@ -82,6 +82,9 @@ class Banner {
     /// Whether layout, textures or names differ from what was loaded.
     bool Has_Unsaved_Changes() const;
 
+    /// What forcing that region would lose, see `Lost_By_Force`. Throws where memory lacks.
+    std::string Lost_By_Force_Of(const std::u16string& code) const;
+
     /// Whether another program wrote the file since it was loaded or saved last.
     bool Was_Changed_Elsewhere() const;
 
@@ -101,6 +104,7 @@ class Banner {
         std::string layout;
         std::vector<NewContents> textures;  ///< that the save replaces
         bool has_logo = false;              ///< whether one of them is the logo
+        bool has_scheme = false;            ///< whether a scheme was applied
         std::string about_logo;
         std::u16string forced;
         std::optional<std::u16string> padding;
@@ -115,6 +119,7 @@ class Banner {
     Result<> Apply_To(State& state, const Edit& edit) const;
     Result<std::string> Texture_Now(const State& state, const std::u16string& path) const;
     Result<std::vector<std::u16string>> Find_Game_Pictures() const;
+    std::vector<std::string> Notices_Of(const State& state) const;
     void Remember_And_Take(std::deque<State>& history, State next);
     void Shorten_History();
     bool Step(std::deque<State>& from, std::deque<State>& to);

@@ -31,12 +31,16 @@ void Overwrite_All(std::string& data, std::string_view old, std::string_view fre
 
 }  // namespace
 
+std::string Forced_From(std::string_view layout, std::string_view region) {
+    if (region.empty() || region == To_Utf8(NoLanguage) || Has_Title(layout, region)) return {};
+    return Titled_Language(layout);
+}
+
 std::string& Region_Force(std::string& tFile, std::string_view region) {
-    if (region.empty() || region == To_Utf8(NoLanguage) || Has_Title(tFile, region)) return tFile;
-    const std::string source = Titled_Language(tFile);
+    const std::string source = Forced_From(tFile, region);
     if (source.empty()) return tFile;
-    for (const std::string stem : {"T_YEAR_", "T_PLAY_", "T_ESRB_", "L"}) {
-        Overwrite_All(tFile, stem + source, stem + std::string(region));
+    for (const std::string_view stem : ForcedStems) {
+        Overwrite_All(tFile, std::string(stem) + source, std::string(stem).append(region));
     }
     return tFile;
 }

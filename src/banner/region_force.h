@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <string>
 #include <string_view>
 
@@ -11,5 +12,13 @@ namespace bannersmith {
 /// as it is for "NONE", an empty code, a language that has a title itself, and a layout in which
 /// none has one.
 std::string& Region_Force(std::string& tFile, std::string_view region);
+
+/// The beginnings of the names that it changes, the language's code behind them.
+inline constexpr std::array<std::string_view, 4> ForcedStems = {"T_YEAR_", "T_PLAY_", "T_ESRB_",
+                                                                "L"};
+
+/// The language whose items `Region_Force` would make those of `region`; empty where it would do
+/// nothing.
+std::string Forced_From(std::string_view layout, std::string_view region);
 
 }  // namespace bannersmith

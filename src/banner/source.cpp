@@ -8,10 +8,10 @@ namespace bannersmith {
 
 namespace {
 
-/// The folder "timg" beside the folder of the layout file: the layout's path, which has a
-/// separator, without its last two parts. Empty for a layout in a root folder: what would be left
-/// of its path is the current folder, which may be anyone's.
-std::u16string Texture_Folder(std::u16string_view layout_path) {
+/// The folder `name` beside the folder of the layout file: the layout's path without its last two
+/// parts. Empty for a layout in a root folder: what would be left of its path is the current
+/// folder, which may be anyone's.
+std::u16string Folder_Beside(std::u16string_view layout_path, std::u16string_view name) {
     const std::u16string path = With_Backslashes(layout_path);
     const std::size_t last = path.rfind(u'\\');
     const std::size_t before = last == 0 ? path.npos : path.rfind(u'\\', last - 1);
@@ -19,13 +19,13 @@ std::u16string Texture_Folder(std::u16string_view layout_path) {
         std::u16string_view(path).substr(before == path.npos ? 0 : before + 1);
     const std::u16string rest = Replace_All(path, last_two, u"");
     if (rest.empty() && Is_Full_Path(layout_path)) return {};
-    return rest + u"timg\\";
+    return rest + std::u16string(name) + u"\\";
 }
 
 /// The first texture beside the layout file whose name begins so, see `BannerSource`.
 Result<std::optional<std::u16string>> Find_Beside(const std::u16string& layout_path,
                                                   std::u16string_view beginning) {
-    const std::u16string folder = Texture_Folder(layout_path);
+    const std::u16string folder = Folder_Beside(layout_path, u"timg");
     if (folder.empty()) return std::optional<std::u16string>();
     const auto is_there = Is_Folder(folder);
     if (!is_there) return is_there.Why();
@@ -92,6 +92,25 @@ Result<std::string> BannerSource::Read() {
 bool BannerSource::Holds_Other(std::string_view layout) const {
     const auto now = Read_File(path_);
     return now && *now != (archive_ ? archive_->Bytes() : layout);
+}
+
+std::vector<NewContents> BannerSource::Animations() const {
+    std::vector<NewContents> animations;
+    if (archive_) {
+        static_cast<void>(
+            archive_->Visit_Files([&](const std::string& path, std::string_view bytes) -> Result<> {
+                if (path.ends_with(".brlan"))
+                    animations.push_back({From_Utf8(path), std::string(bytes)});
+                return {};
+            }));
+        return animations;
+    }
+    const std::u16string folder = Folder_Beside(path_, u"anim");
+    if (folder.empty() || !Is_Folder(folder).Value_Or(false)) return animations;
+    for (const std::u16string& name : List_Files(folder, {".brlan"}).Value_Or({})) {
+        animations.push_back({folder + name, Read_File(folder + name).Value_Or("")});
+    }
+    return animations;
 }
 
 Result<std::string> BannerSource::Texture(const std::u16string& path) const {

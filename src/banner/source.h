@@ -54,6 +54,10 @@ class BannerSource {
     /// that holds "arc" is called as this one, with "icon" in place of "banner".
     Result<std::vector<std::u16string>> Find_Game_Pictures() const;
 
+    /// The animations beside the layout, in the folder "anim", their paths and bytes, as far as
+    /// they can be read.
+    std::vector<NewContents> Animations() const;
+
     /// The bytes of a texture that these routines told of. The failure has its path.
     Result<std::string> Texture(const std::u16string& path) const;
 

@@ -1,5 +1,6 @@
 #include "gameinfo/boxes.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "base/text.h"
@@ -8,12 +9,32 @@
 
 namespace bannersmith {
 
+namespace {
+
+bool Is_Neutral(std::u16string_view name) {
+    return std::any_of(FieldPrefixes.begin(), FieldPrefixes.end(),
+                       [&](std::u16string_view prefix) { return Neutral_Box(prefix) == name; });
+}
+
+}  // namespace
+
 std::u16string Box_Of(Field field, std::u16string_view code) {
     return std::u16string(Prefix_Of(field)).append(code);
 }
 
 std::u16string Box_To_Read(Field field, std::u16string_view code) {
     return code == NoLanguage ? std::u16string(Neutral_Box(Prefix_Of(field))) : Box_Of(field, code);
+}
+
+std::vector<std::u16string_view> Codes_For(std::string_view layout) {
+    std::vector<std::u16string_view> codes(LanguageList.begin(), LanguageList.end());
+    const bool has_korean =
+        layout.find("_KOR") != layout.npos &&
+        std::any_of(FieldPrefixes.begin(), FieldPrefixes.end(), [&](std::u16string_view prefix) {
+            return !Read_Box(layout, std::u16string(prefix).append(Korean)).empty();
+        });
+    if (has_korean) codes.insert(codes.end() - 1, Korean);
+    return codes;
 }
 
 std::u16string Read_Box(std::string_view layout, std::u16string_view name) {
@@ -24,14 +45,14 @@ std::u16string Read_Box(std::string_view layout, std::u16string_view name) {
 std::string Write_Boxes(std::string layout, const std::vector<NamedText>& texts) {
     std::vector<BoxText> boxes;
     for (const NamedText& named : texts) {
-        if (auto bytes = To_Bytes(named.name)) boxes.push_back({std::move(*bytes), named.text});
+        auto bytes = To_Bytes(named.name);
+        if (bytes) boxes.push_back({std::move(*bytes), named.text, Is_Neutral(named.name)});
     }
     return Set_Texts(std::move(layout), boxes);
 }
 
 std::string Write_Box(std::string layout, std::u16string_view name, std::u16string_view text) {
-    const auto bytes = To_Bytes(name);
-    return bytes ? Set_Text(std::move(layout), *bytes, text) : layout;
+    return Write_Boxes(std::move(layout), {{std::u16string(name), std::u16string(text)}});
 }
 
 }  // namespace bannersmith

@@ -43,6 +43,10 @@ std::u16string Box_Of(Field field, std::u16string_view code);
 /// The name under which the same box is read: that of the neutral box for the code "NONE".
 std::u16string Box_To_Read(Field field, std::u16string_view code);
 
+/// The codes of the languages that a list offers for the layout: those of `LanguageList`, and in
+/// front of its last one `Korean` where the layout has a box of that language.
+std::vector<std::u16string_view> Codes_For(std::string_view layout);
+
 /// A text for a box, by the name as the windows and the command line have it.
 struct NamedText {
     std::u16string name;
@@ -53,7 +57,7 @@ struct NamedText {
 std::u16string Read_Box(std::string_view layout, std::u16string_view name);
 
 /// The layout with each text written into its box, in order. Names that no box can have are passed
-/// over.
+/// over. The name of a neutral box never leads to one of the language `Korean`.
 std::string Write_Boxes(std::string layout, const std::vector<NamedText>& texts);
 
 /// `Write_Boxes` for one box.

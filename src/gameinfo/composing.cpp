@@ -28,10 +28,14 @@ std::u16string Wrap(const Wording& wording, std::u16string_view value) {
 }
 
 constexpr Wording YearWordings[] = {
-    {u"ENG", u"Released: ", u""},         {u"GER", u"Erschienen: ", u""},
-    {u"FRA", year_words::French, u""},    {u"ITA", u"Pubblicato: ", u""},
-    {u"SPA", u"A\u00F1o: ", u""},         {u"NED", u"Release: ", u""},
+    {u"ENG", u"Released: ", u""},
+    {u"GER", u"Erschienen: ", u""},
+    {u"FRA", year_words::French, u""},
+    {u"ITA", u"Pubblicato: ", u""},
+    {u"SPA", u"A\u00F1o: ", u""},
+    {u"NED", u"Release: ", u""},
     {u"JPN", u"", u"\u5E74\u767A\u58F2"},
+    {u"KOR", u"\uBBF8\uAD6D\uD310 \uBC1C\uB9E4\uB144\uB3C4\n", u"\uB144"},
 };
 
 constexpr Wording PlayersWordings[] = {
@@ -42,6 +46,7 @@ constexpr Wording PlayersWordings[] = {
     {u"SPA", u"Jugadores: ", u""},
     {u"NED", u"", u" speler(s)"},
     {u"JPN", u"\u30D7\u30EC\u30A4\u4EBA\u6570\n", u"\u4EBA"},
+    {u"KOR", u"\uD50C\uB808\uC774 \uC778\uC6D0\uC218\n", u"\uBA85"},
 };
 
 constexpr Wording RatingWordings[] = {

@@ -15,8 +15,8 @@ std::u16string Make_Year(std::u16string& yearVal, std::u16string_view tReg);
 std::u16string Make_ESRB(std::u16string& esrbVal, std::u16string_view tReg);
 
 /// The players text around the highest number of players `playVal`, in the same way: empty counts
-/// as "2", and everything but "1" becomes a range that begins at 1. The Japanese text holds a line
-/// feed.
+/// as "2", and everything but "1" becomes a range that begins at 1. The Japanese and the Korean
+/// text hold a line feed.
 std::u16string Make_Players(std::u16string& playVal, std::u16string_view tReg);
 
 /// The wordings in front of a year by which a language can be told, without the colon behind them.

@@ -39,6 +39,17 @@ std::u16string Text_For(Field field, std::u16string_view value, std::u16string_v
     return Wording_Of(field).compose(text, code);
 }
 
+/// The text for the box of a language, which is Korean in layouts that are.
+std::u16string Text_In(std::string_view layout, Field field, std::u16string_view value,
+                       std::u16string_view code) {
+    const std::u16string text = Text_For(field, value, code);
+    if (field != Field::year || code != Korean) return text;
+    const std::u16string before = Read_Box(layout, Box_Of(field, code));
+    const std::size_t line_end = before.find(u'^');
+    if (line_end == before.npos) return text;
+    return before.substr(0, line_end) + text.substr(text.find(u'\n'));
+}
+
 std::u16string_view Last_Characters(std::u16string_view text, std::size_t count) {
     return text.substr(text.size() - std::min(text.size(), count));
 }
@@ -68,9 +79,20 @@ std::u16string Rating(std::u16string_view text) {
     return std::u16string(Trim(Piece_Of(text, u':', 1)));
 }
 
+std::u16string Korean_Number(std::u16string_view text, std::size_t most) {
+    std::u16string_view line = Piece_Of(text, u'^', 1);
+    if (!line.empty()) line.remove_suffix(1);
+    return std::u16string(Last_Characters(line, most));
+}
+
 }  // namespace bare_value
 
-std::u16string Bare_Value(Field field, std::u16string_view text) {
+std::u16string Bare_Value(Field field, std::u16string_view text, std::u16string_view code) {
+    constexpr std::size_t YearLength = 4;
+    if (code == Korean && text.find(u'^') != text.npos) {
+        if (field == Field::year) return bare_value::Korean_Number(text, YearLength);
+        if (field == Field::players) return bare_value::Korean_Number(text, 1);
+    }
     return Wording_Of(field).bare(text);
 }
 
@@ -92,7 +114,7 @@ std::u16string Get_Year_Lang(std::string_view layout) {
 }
 
 std::u16string Neutral_Language(std::string_view layout) {
-    for (const std::u16string_view code : Languages) {
+    for (const std::u16string_view code : Codes_For(layout)) {
         if (!Read_Box(layout, Box_Of(Field::title, code)).empty()) return {};
     }
     return Get_Year_Lang(layout);
@@ -101,15 +123,15 @@ std::u16string Neutral_Language(std::string_view layout) {
 std::string Set_Field(std::string layout, Field field, std::u16string_view code,
                       std::u16string_view value, std::u16string_view neutral) {
     const std::u16string_view wording = code == NoLanguage ? neutral : code;
-    return Write_Box(std::move(layout), Box_Of(field, code), Text_For(field, value, wording));
+    const std::u16string text = Text_In(layout, field, value, wording);
+    return Write_Box(std::move(layout), Box_Of(field, code), text);
 }
 
 std::string Set_Field_Everywhere(std::string layout, Field field, std::u16string_view value,
                                  std::u16string_view neutral) {
     std::vector<NamedText> texts;
-    texts.reserve(LanguageList.size() + 1);
-    for (const std::u16string_view code : LanguageList) {
-        texts.push_back({Box_Of(field, code), Text_For(field, value, code)});
+    for (const std::u16string_view code : Codes_For(layout)) {
+        texts.push_back({Box_Of(field, code), Text_In(layout, field, value, code)});
     }
     // The entry "NONE" has just written the neutral box in English wording; this has the last word.
     if (!neutral.empty()) {

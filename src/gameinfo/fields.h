@@ -27,13 +27,17 @@ std::u16string Year(std::u16string_view text);
 std::u16string Players(std::u16string_view text);
 /// What stands between the first and the second colon, without the blanks around it.
 std::u16string Rating(std::u16string_view text);
+/// Of a Korean text of two lines: the number at the end of the second, without the counter behind
+/// it, of so many characters at most.
+std::u16string Korean_Number(std::u16string_view text, std::size_t most);
 }  // namespace bare_value
 
-/// The bare value that a field shows of a stored text. The name is shown as it is.
-std::u16string Bare_Value(Field field, std::u16string_view text);
+/// The bare value that a field shows of a stored text of the language. The name is shown as it is.
+std::u16string Bare_Value(Field field, std::u16string_view text, std::u16string_view code);
 
-/// The layout with `value` written into the field's box of one language, in its wording. With the
-/// code "NONE" the neutral box is written, in the wording of `neutral`, which is a code or empty.
+/// The layout with `value` written into the field's box of one language, in its wording. A Korean
+/// year keeps the line above it, which tells of which country's release it is. With the code "NONE"
+/// the neutral box is written, in the wording of `neutral`, which is a code or empty.
 std::string Set_Field(std::string layout, Field field, std::u16string_view code,
                       std::u16string_view value, std::u16string_view neutral);
 

@@ -18,6 +18,9 @@ inline constexpr std::span<const std::u16string_view> Languages{LanguageList.dat
 /// The entry that stands for the text boxes that serve all languages.
 inline constexpr std::u16string_view NoLanguage = LanguageList.back();
 
+/// Of banners for Korea, whose boxes no other banner has: listed for these alone.
+inline constexpr std::u16string_view Korean = u"KOR";
+
 /// The one language whose players text has a character of its own for "-".
 inline constexpr std::u16string_view Japanese = u"JPN";
 

@@ -17,9 +17,7 @@ constexpr std::u16string_view PngEnding = u".png";
 }  // namespace
 
 GamePicture::GamePicture(MainWindowForPicture main, Desktop& desktop)
-    : fits({u"Crop", u"Border", u"Stretch"}),
-      main_(std::move(main)),
-      desktop_(desktop) {
+    : fits({u"Crop", u"Border", u"Stretch"}), main_(std::move(main)), desktop_(desktop) {
     fits.Select(0);
     fits.Click = [this] { Put_In(); };
 }

@@ -135,6 +135,14 @@ void Splice_Longer(std::string& data, const std::vector<std::size_t>& places, st
     }
 }
 
+/// Whether what stands behind a tag has such a name, of 16 bytes at most.
+bool Names_A_Korean_Box(std::string_view piece) {
+    constexpr std::size_t LongestName = 16;
+    std::string_view name = piece.substr(std::min(NameInPiece, piece.size()), LongestName);
+    name = name.substr(0, name.find('\0'));
+    return name.ends_with("_KOR");
+}
+
 }  // namespace
 
 Pieces::Pieces(std::string_view data) : tags_(Find_Tags(data)) {}
@@ -157,13 +165,17 @@ std::optional<std::size_t> Pieces::Find_Record(std::string_view data, std::strin
                                                Test test) const {
     std::string wanted(name);
     if (test == Test::exact) wanted.append(2, '\0');
+    const auto is_left_out = [&](std::string_view piece) {
+        return test == Test::prefix_not_korean && Names_A_Korean_Box(piece);
+    };
 
     for (std::size_t k = tags_.size() + 1; k-- > 0;) {
         const std::string_view piece = Piece(data, k);
-        if (!Passes(piece, wanted)) continue;
+        if (!Passes(piece, wanted) || is_left_out(piece)) continue;
         const std::string_view key = piece.substr(0, NameInPiece + name.size());
         const auto tag = std::find_if(tags_.begin(), tags_.end(), [&](std::size_t at) {
-            return data.substr(at + record::Tag.size()).starts_with(key);
+            const std::string_view rest = data.substr(at + record::Tag.size());
+            return rest.starts_with(key) && !is_left_out(rest);
         });
         return tag == tags_.end() ? std::nullopt : std::optional(*tag);
     }

@@ -16,8 +16,9 @@ namespace bannersmith {
 class Pieces {
  public:
     enum class Test {
-        exact,   ///< the name and two zero bytes
-        prefix,  ///< the name alone
+        exact,              ///< the name and two zero bytes
+        prefix,             ///< the name alone
+        prefix_not_korean,  ///< the same, but no name that ends in "_KOR"
     };
 
     /// Splits `data`, which is not kept: each call is handed the same bytes again.

@@ -48,9 +48,10 @@ std::optional<std::string> Rebuild(std::string_view record, std::u16string_view 
     return fresh;
 }
 
-void Write(std::string& data, Pieces& pieces, std::string_view name, std::u16string_view text) {
+void Write(std::string& data, Pieces& pieces, std::string_view name, std::u16string_view text,
+           Pieces::Test test = Pieces::Test::prefix) {
     if (text.empty()) return;
-    const auto offset = pieces.Find_Record(data, Writing_Name(name), Pieces::Test::prefix);
+    const auto offset = pieces.Find_Record(data, Writing_Name(name), test);
     if (!offset) return;
     const std::string old(record::At(data, *offset));
     const auto fresh = Rebuild(old, text);
@@ -72,7 +73,10 @@ std::string Set_Text(std::string data, std::string_view name, std::u16string_vie
 
 std::string Set_Texts(std::string data, std::span<const BoxText> texts) {
     Pieces pieces(data);
-    for (const BoxText& box : texts) Write(data, pieces, box.name, box.text);
+    for (const BoxText& box : texts) {
+        Write(data, pieces, box.name, box.text,
+              box.not_korean ? Pieces::Test::prefix_not_korean : Pieces::Test::prefix);
+    }
     return data;
 }
 

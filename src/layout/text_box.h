@@ -31,6 +31,7 @@ std::string Set_Text(std::string data, std::string_view name, std::u16string_vie
 struct BoxText {
     std::string name;
     std::u16string text;
+    bool not_korean = false;  ///< whether boxes whose names end in "_KOR" are no boxes of that name
 };
 
 /// The same as `Set_Text` for each entry in turn, each on the result of the one before, but looking

@@ -103,8 +103,7 @@ Result<> BatchRun::Save() {
 
 /// Nobody has seen what was edited, so it is told when it looks wrong.
 std::vector<std::string> BatchRun::What_Is_Odd(const SavePlan& plan) const {
-    std::vector<std::string> odd;
-    if (!plan.about_logo.empty()) odd.push_back(plan.about_logo);
+    std::vector<std::string> odd = plan.notices;
     const std::string warning = Is_Layout(opened_.banner.On_Disk())
                                     ? Warning_Of(plan.Layout())
                                     : "it does not begin as a layout file";

@@ -41,11 +41,17 @@ void GameInfo::cmbRegion_click(std::int16_t Index) {
     const auto field = static_cast<Field>(index);
     const std::u16string text = Selected_Text(field);
     if (field == Field::year && text.empty()) return;
-    Box_Of_Field(index).Set(Bare_Value(field, text));
+    Box_Of_Field(index).Set(Bare_Value(field, text, cmbRegion[index].Selected()));
 }
 
 void GameInfo::Refill() {
-    for (DropDownList& list : cmbRegion) list.Select(DropDownList::NoSelection);
+    const auto codes = Codes_For(BrlytData);
+    for (DropDownList& list : cmbRegion) {
+        list.Select(DropDownList::NoSelection);
+        if (list.Count() == static_cast<int>(codes.size())) continue;
+        list.Clear();
+        list.Add({codes.begin(), codes.end()});
+    }
     for (TextBox* box : {&txtName, &txtYear, &txtPlayers, &txtESRB, &txtSystem}) box->Set(u"");
     txtSystem.Set(Read_Box(BrlytData, SystemBox));
     for (std::size_t i = 0; i < cmbRegion.size(); ++i) {

@@ -24,8 +24,8 @@ void Form1::cmdSave_Click() {
     desktop_.Message(u"File Successfully Saved!");
     txtSrc_Change();
     const bool logo_unplaced = cmbLogo.Index() > 0 && !saved->has_logo;
-    const std::u16string about =
-        saved->about_logo.empty() ? u"" : u", " + From_Utf8(saved->about_logo);
+    std::u16string about;
+    for (const std::string& notice : saved->notices) about += u", " + From_Utf8(notice);
     lblLastCommand.Set(logo_unplaced ? u"Saved; the banner has no logo texture to replace"
                                      : u"Saved" + about);
 }
@@ -43,6 +43,11 @@ Result<> Form1::Check_Save() const {
 bool Form1::Save_Is_Wanted() {
     if (!Is_Layout(BrlytData) &&
         !desktop_.Confirm(txtSrc.Text() + u" is not a layout file. Save it all the same?")) {
+        return false;
+    }
+    const std::string lost = opened_.banner.Lost_By_Force_Of(cmbForce.Selected());
+    if (!lost.empty() && !desktop_.Confirm(txtSrc.Text() + u": " + From_Utf8(lost) +
+                                           u". Force the region all the same?")) {
         return false;
     }
     return !opened_.banner.Was_Changed_Elsewhere() ||

@@ -31,7 +31,7 @@ bool Has_One_Text_For_All(std::string_view layout) {
 /// The codes of the languages that have a title, or what there is in their place.
 std::u16string Languages_Present(std::string_view layout) {
     std::u16string codes;
-    for (const std::u16string_view code : Languages) {
+    for (const std::u16string_view code : Codes_For(layout)) {
         if (Read_Box(layout, Box_Of(Field::title, code)).empty()) continue;
         codes.append(codes.empty() ? u"" : u" ").append(code);
     }
@@ -46,7 +46,7 @@ std::vector<std::string> Changed_Boxes(const std::string& before, const std::str
         if (Get_Text(before, name) != Get_Text(after, name)) changed.push_back(name);
     };
     for (const std::u16string_view prefix : FieldPrefixes) {
-        for (const std::u16string_view code : LanguageList) {
+        for (const std::u16string_view code : Codes_For(after)) {
             compare(code == NoLanguage ? To_Utf8(Neutral_Box(prefix))
                                        : To_Utf8(prefix) + To_Utf8(code));
         }

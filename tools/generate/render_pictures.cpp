@@ -93,7 +93,6 @@ void Render(const std::u16string& program_folder, const Painter& painter) {
     QApplication::processEvents();
     painter.Save(view, "main-window-japanese");
 
-    window.txtSrc.Set(u"\\samples\\channel\\00000000.app");
     view.findChild<QTabWidget*>()->setCurrentIndex(1);
     for (int i = 0; i < 3; ++i) QApplication::processEvents();  // the window grows
     painter.Save(view, "channel-names");
