@@ -6,19 +6,23 @@
 #include <QDropEvent>
 #include <QFileDialog>
 #include <QGroupBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTabWidget>
 #include <QTest>
 #include <QTimer>
 #include <QWheelEvent>
+#include <cstdlib>
 #include <memory>
 
 #include "base/text.h"
 #include "desktop/color_window_view.h"
+#include "desktop/game_picture_view.h"
 #include "desktop/main_window_view.h"
 #include "desktop/preview_view.h"
 #include "desktop/qt_desktop.h"
@@ -26,7 +30,9 @@
 #include "desktop/text_editor_view.h"
 #include "desktop/widgets.h"
 #include "generate/banners.h"
+#include "generate/channel.h"
 #include "generate/layout_builder.h"
+#include "generate/texture.h"
 #include "mainwindow/batch_run.h"
 #include "mainwindow/form1.h"
 #include "support.h"
@@ -46,6 +52,7 @@ class TestDesktop : public QtDesktop {
     Color color = 0;
 
     std::u16string Open_File(const std::u16string& /*filter*/, const std::u16string& /*last*/) override { return file; }
+    std::u16string Save_File(const std::u16string& /*filter*/, const std::u16string& /*name*/) override { return file; }
     Color Choose_Color(Color /*color*/) override { return color; }
     void Message(const std::u16string& text) override { messages.push_back(text); }
     void Report(const Failure& failure) override { failures.push_back(failure.subject); }
@@ -161,6 +168,56 @@ TEST_F(Widgets, WriteTheSameBytesAsABatchRun) {
     EXPECT_EQ(run.Run(), BatchRun::Done);
     EXPECT_EQ(Hex(folder.Read(Layout)), Hex(batch.Read(Layout)));
     EXPECT_EQ(folder.Read(Texture), "new");
+}
+
+/// From the channel's file to the channel's file without another tool.
+TEST_F(Widgets, EditAWholeChannel) {
+    const Picture sky{640, 448, std::string(std::size_t{640} * 448 * TexelSize, '\x70')};
+    folder.Write("before.app", Sample_Channel());
+    folder.Write("c/00000000.app", Sample_Channel());
+    folder.Write("logos/Sky.png", Write_Png(sky));
+    folder.Write("game.jpg", Jpeg_File(sky));
+    window->RefreshLogoList();
+    Type(Named<QLineEdit>(*view, "File"), QString::fromStdString((folder.Path() / "c/00000000.app").string()));
+    auto* pages = view->findChild<QTabWidget*>();
+    ASSERT_EQ(pages->count(), 2);
+    for (const auto& [field, value, button] : {std::tuple{"Name", "Moonlight", "Write the name for every"},
+                                               {"Year", "2001", "Write the year for every"},
+                                               {"Players", "4", "Write the number of players"}}) {
+        Type(Named<QLineEdit>(*view, field), value);
+        Press(*view, button);
+    }
+    Choose(Named<QComboBox>(*view, "Colors"), "Mine");
+    Choose(Named<QComboBox>(*view, "Logo"), "Sky.png");
+    EXPECT_FALSE(window->cmbLogo.Picture_Of(0));
+    EXPECT_EQ(*window->cmbLogo.Picture_Of(window->cmbLogo.Index()), sky);
+    Press(*view, "See, replace");
+    auto* picture = Find<GamePictureView>();
+    desktop.file = folder.Text() + u"/game.jpg";
+    Press(*picture, "Take another");
+    desktop.file = folder.Text() + u"/out";
+    Press(*picture, "Write the picture");
+    EXPECT_FALSE(Named<QLabel>(*picture, "Picture of the game").pixmap(Qt::ReturnByValue).isNull());
+    picture->close();
+    EXPECT_EQ(Read_Picture(folder.Read("out.png"))->width, 256U);
+    pages->setCurrentIndex(1);
+    for (const char* line : {"ENG, line 1", "GER, line 2", "KOR, line 1"}) {
+        Type(Named<QLineEdit>(*view, line), QString(line).left(20));
+    }
+    Type(Named<QLineEdit>(*view, "FRA, line 1"), QString(21, 'x'));
+    Press(*view, "Write the names");
+    EXPECT_EQ(desktop.failures, std::vector<std::u16string>{u"Channel name FRA"});
+    EXPECT_EQ(window->lblLastCommand.Caption(), u"Channel names: 3 lines changed");
+    QTest::keyClick(view.get(), Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(desktop.messages, std::vector<std::u16string>{u"File Successfully Saved!"});
+    EXPECT_EQ((*Archive::Read(folder.Read("c/00000000.app"))->Names())[2][1], u"GER, line 2");
+    const std::string banner = " meta/banner.bin/arc/", icon = " meta/icon.bin/arc/";
+    const std::string read = "python3 '" READ_CHANNEL "' before.app c/00000000.app names" + banner +
+                             "blyt/banner.brlyt" + banner + "timg/VCPic.tpl" + banner + "timg/my_BackSample_a.tpl" +
+                             icon + "timg/IconVCPic.tpl";
+    EXPECT_EQ(std::system(("cd '" + folder.Path().string() + "' && " + read).c_str()), 0);
+    Type(Named<QLineEdit>(*view, "File"), "nothing");
+    EXPECT_EQ(pages->count(), 1);
 }
 
 TEST_F(Widgets, TakePathsKeyByKey) {

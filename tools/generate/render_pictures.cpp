@@ -110,7 +110,6 @@ void Render(const std::u16string& program_folder, const Painter& painter) {
         painter.Save(*list->view(), "logo-list");
         list->hidePopup();
     }
-    painter.Save(view, "main-window-channel");
 
     for (DropDownList& list : window.info.cmbRegion) list.Pick(0);
     window.cmdEditColor_Click();
