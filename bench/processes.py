@@ -67,6 +67,18 @@ def main():
                 renew()
                 more = peak(fields, folder) - peak(limit, folder)
                 print("peak memory of a batch run above limit: %d KiB at %d KiB" % (more, size >> 10))
+        channel = subprocess.run([os.path.join(bench, "make-large-banner"), "channel"], check=True,
+                                 capture_output=True).stdout
+        path = os.path.join(folder, "channel.app")
+
+        def renew_channel():
+            with open(path, "wb") as file:
+                file.write(channel)
+                os.fsync(file.fileno())
+
+        compare("title in a channel of %d kB / limit" % (len(channel) // 1000),
+                ["./bannersmith", "channel.app", "-TITLE", "Name"], ["./limit", "channel.app", "."], folder, rounds,
+                renew_channel)
         compare("bannersmith --version / empty program", ["./bannersmith", "--version"], ["./empty"], folder, rounds)
         shutil.copy(os.path.join(build, "program", BANNER), os.path.join(folder, BANNER))
         window = os.path.join(bench, "first_window")

@@ -153,9 +153,9 @@ Options Read_Options(const std::vector<std::u16string>& arguments) {
     Options options;
     std::string fit = "crop", dither;
     const std::map<std::string, Fit> fits{
-        {"crop", Fit::Crop}, {"border", Fit::Border}, {"stretch", Fit::Stretch}};
+        {"crop", Fit::crop}, {"border", Fit::border}, {"stretch", Fit::stretch}};
     const std::map<std::string, Dither> dithers{
-        {"none", Dither::None}, {"ordered", Dither::Ordered}, {"diffusion", Dither::Diffusion}};
+        {"none", Dither::none}, {"ordered", Dither::ordered}, {"diffusion", Dither::diffusion}};
     CLI::App parser;
     parser.set_help_flag();
     parser.add_option("files", options.files);

@@ -43,6 +43,14 @@ TEST(Lz77, GivesBackWhatWasPacked) {
                 const auto back = Lz77_Decompress(stream + "rest");
                 ASSERT_TRUE(back) << size << " " << kinds << back.Why().reason;
                 ASSERT_TRUE(back->bytes == bytes && back->stream_size == stream.size()) << size << " " << kinds;
+                for (int edit = 0; edit < 8; ++edit) {  // at the ends, or anywhere, longer or shorter
+                    const std::size_t at = edit % 3 == 0 ? 0 : edit % 3 == 1 ? size : random() % (size + 1);
+                    std::string changed = bytes;
+                    changed.replace(at, random() % 30 * (edit % 2), std::string(random() % 30, 'x'));
+                    const std::string again = Lz77_Compress(changed, {true, type}, {stream, bytes});
+                    ASSERT_TRUE(Lz77_Decompress(again)->bytes == changed) << size << " " << kinds << " " << at;
+                }
+                EXPECT_EQ(Lz77_Compress(bytes, {true, type}, {stream, bytes}), stream);
                 for (std::size_t cut = 0; size > 0 && cut < stream.size(); cut += 1 + cut / 8) {
                     ASSERT_FALSE(Lz77_Decompress(stream.substr(0, cut)));
                 }

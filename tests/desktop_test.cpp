@@ -189,8 +189,8 @@ TEST_F(Widgets, EditAWholeChannel) {
     }
     Choose(Named<QComboBox>(*view, "Colors"), "Mine");
     Choose(Named<QComboBox>(*view, "Logo"), "Sky.png");
-    EXPECT_FALSE(window->cmbLogo.Picture_Of(0));
-    EXPECT_EQ(*window->cmbLogo.Picture_Of(window->cmbLogo.Index()), sky);
+    EXPECT_FALSE(window->cmbLogo.picture_of(0));
+    EXPECT_EQ(*window->cmbLogo.picture_of(window->cmbLogo.Index()), sky);
     Press(*view, "See, replace");
     auto* picture = Find<GamePictureView>();
     desktop.file = folder.Text() + u"/game.jpg";

@@ -121,7 +121,7 @@ TEST(Texture, KeepsWhatAFormatCanKeep) {
         SCOPED_TRACE(format.name);
         for (const auto& [width, height] : {std::pair{16, 8}, {112, 17}, {1, 1}, {233, 167}}) {
             const auto w = static_cast<std::size_t>(width), h = static_cast<std::size_t>(height);
-            std::string texture = *Make_Texture(Random_Picture(w, h), {&format, w, h}, {.dither = Dither::None});
+            std::string texture = *Make_Texture(Random_Picture(w, h), {&format, w, h}, {.dither = Dither::none});
             const std::string header = texture.substr(0, 0x40);
             texture = header + Random_Bytes(texture.size() - 0x40);
             const Picture seen = *Decode_Texture(texture);
@@ -130,10 +130,10 @@ TEST(Texture, KeepsWhatAFormatCanKeep) {
             EXPECT_EQ(again.substr(0, 0x40), header);
             EXPECT_TRUE(again == texture || w * h % 64 != 0 || format.name == "RGB5A3");
             EXPECT_EQ(*Read_Picture(Write_Png(seen)), seen);
-            for (const Dither dither : {Dither::Ordered, Dither::Diffusion}) {
-                EXPECT_EQ(Dither_For(format, seen, Dither::None), seen);
+            for (const Dither dither : {Dither::ordered, Dither::diffusion}) {
+                EXPECT_EQ(Dither_For(format, seen, Dither::none), seen);
                 const Picture dithered = Dither_For(format, Random_Picture(w, h), dither);
-                EXPECT_EQ(Dither_For(format, dithered, Dither::None), dithered) << "colours that it has";
+                EXPECT_EQ(Dither_For(format, dithered, Dither::none), dithered) << "colours that it has";
             }
         }
     }
@@ -171,8 +171,8 @@ TEST(Fitting, CutsFramesAndStretchesWithoutBleeding) {
         picture.texels += i >= 40 * 14 ? "\0\xFF\0\xFF"s : i % 40 < 20 ? "\xFF\0\0\xFF"s : "\0\0\xFF\0"s;
     }
     const Texel red{255, 0, 0, 255}, green{0, 255, 0, 255}, nothing{0, 0, 0, 0};
-    const Picture cut = Fit_To(picture, 80, 80, Fit::Crop), framed = Fit_To(picture, 80, 80, Fit::Border);
-    const Picture stretched = Fit_To(picture, 80, 10, Fit::Stretch);
+    const Picture cut = Fit_To(picture, 80, 80, Fit::crop), framed = Fit_To(picture, 80, 80, Fit::border);
+    const Picture stretched = Fit_To(picture, 80, 10, Fit::stretch);
     EXPECT_EQ(At(cut, 0, 0), red);
     EXPECT_EQ(At(cut, 30, 40), red);
     EXPECT_EQ(At(cut, 50, 40)[3], 0);
@@ -185,7 +185,7 @@ TEST(Fitting, CutsFramesAndStretchesWithoutBleeding) {
     EXPECT_EQ(At(stretched, 79, 9), green);
     const Texel edge = At(stretched, 40, 4);
     EXPECT_TRUE(edge[3] > 0 && edge[3] < 255 && edge[2] < 3) << "hidden blue: " << int{edge[2]};
-    EXPECT_EQ(Fit_To(picture, 40, 20, Fit::Crop), picture);
+    EXPECT_EQ(Fit_To(picture, 40, 20, Fit::crop), picture);
 }
 
 TEST(Fitting, DithersOnlyWhatHasManyColors) {
@@ -198,16 +198,16 @@ TEST(Fitting, DithersOnlyWhatHasManyColors) {
     const auto made = [&](const Picture& picture, std::optional<Dither> dither) {
         return *Decode_Texture(*Make_Texture(picture, wanted, {.dither = dither}));
     };
-    EXPECT_EQ(made(sky, {}), made(sky, Dither::Diffusion));
-    EXPECT_EQ(made(drawing, {}), made(drawing, Dither::None));
-    EXPECT_FALSE(made(sky, Dither::Ordered) == made(sky, Dither::Diffusion));
-    for (const Dither dither : {Dither::Ordered, Dither::Diffusion}) {
+    EXPECT_EQ(made(sky, {}), made(sky, Dither::diffusion));
+    EXPECT_EQ(made(drawing, {}), made(drawing, Dither::none));
+    EXPECT_FALSE(made(sky, Dither::ordered) == made(sky, Dither::diffusion));
+    for (const Dither dither : {Dither::ordered, Dither::diffusion}) {
         for (std::size_t i = 0; i < 3; ++i) {
             EXPECT_NEAR(Mean(made(drawing, dither), i), Mean(drawing, i), 0.6);
             EXPECT_NEAR(Mean(made(sky, dither), i), Mean(sky, i), 0.6);
         }
     }
-    EXPECT_GT(std::abs(Mean(made(drawing, Dither::None), 0) - Mean(drawing, 0)), 1);
+    EXPECT_GT(std::abs(Mean(made(drawing, Dither::none), 0) - Mean(drawing, 0)), 1);
 }
 
 TEST(Texture, RefusesWhatIsBroken) {

@@ -129,7 +129,7 @@ struct Banner::Applying {
         if (is_picture) {
             const auto picture = Read_Picture(*logo).About(edit.file);
             if (!picture) return picture.Why();
-            logo = Made_Like(**texture, *picture, {.fit = Fit::Border});  // nothing of it is cut
+            logo = Made_Like(**texture, *picture, {.fit = Fit::border});  // nothing of it is cut
             if (!logo) return logo.Why();
         }
         const std::string old = banner.source_.Texture(**texture).Value_Or("");
@@ -298,35 +298,40 @@ Result<SavePlan> Banner::Plan_Save(std::span<const Edit> last) const {
         if (!padding) return padding.Why();
         SavePlan plan;
         plan.has_logo = state.has_logo;
-        plan.notices = Notices_Of(state);
+        const std::string lost = Lost_By_Force_Of(state, state.forced);
         Region_Force(state.layout, To_Utf8(state.forced));
         state.layout = AddPadding(std::move(state.layout), *padding);
         if (source_.Packed_In()) plan.packed_layout = state.layout;
         auto files = source_.Plan(std::move(state.layout), std::move(state.textures), state.names);
         if (!files) return files.Why();
         plan.files = std::move(*files);
+        plan.notices = Notices_Of(state, lost, plan.Layout());
         return plan;
     });
 }
 
-std::string Banner::Lost_By_Force_Of(const std::u16string& code) const {
-    if (!Is_Layout(state_.layout)) return {};
-    return Lost_By_Force(state_.layout, To_Utf8(code), source_.Animations());
+std::string Banner::Lost_By_Force_Of(const State& state, const std::u16string& code) const {
+    if (!Is_Layout(state.layout) || Forced_From(state.layout, To_Utf8(code)).empty()) return {};
+    return Lost_By_Force(state.layout, To_Utf8(code), source_.Animations());
 }
 
-/// Before the region is forced.
-std::vector<std::string> Banner::Notices_Of(const State& state) const {
+std::string Banner::Lost_By_Force_Of(const std::u16string& code) const {
+    return Lost_By_Force_Of(state_, code);
+}
+
+std::vector<std::string> Banner::Notices_Of(const State& state, const std::string& lost,
+                                            std::string_view saved) const {
     std::vector<std::string> notices;
     const auto add = [&](const std::string& what) {
         if (!what.empty()) notices.push_back("but " + what);
     };
     if (!state.about_logo.empty()) notices.push_back(state.about_logo);
-    if (!Is_Layout(state.layout)) return notices;
-    if (state.has_scheme) add(Left_By_Scheme(state.layout));
-    if (!Forced_From(state.layout, To_Utf8(state.forced)).empty()) {
-        add(Lost_By_Force(state.layout, To_Utf8(state.forced), source_.Animations()));
-    }
-    for (const std::string& shared : Shared_Texts(on_disk_, state.layout)) add(shared);
+    add(lost);
+    if (!Is_Layout(saved)) return notices;
+    if (state.has_scheme) add(Left_By_Scheme(saved));
+    // What was forced upon a region has other names now, not other texts.
+    if (!Forced_From(state_.layout, To_Utf8(state.forced)).empty()) return notices;
+    for (const std::string& shared : Shared_Texts(on_disk_, saved)) add(shared);
     return notices;
 }
 

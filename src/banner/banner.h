@@ -119,7 +119,9 @@ class Banner {
     Result<> Apply_To(State& state, const Edit& edit) const;
     Result<std::string> Texture_Now(const State& state, const std::u16string& path) const;
     Result<std::vector<std::u16string>> Find_Game_Pictures() const;
-    std::vector<std::string> Notices_Of(const State& state) const;
+    std::string Lost_By_Force_Of(const State& state, const std::u16string& code) const;
+    std::vector<std::string> Notices_Of(const State& state, const std::string& lost,
+                                        std::string_view saved) const;
     void Remember_And_Take(std::deque<State>& history, State next);
     void Shorten_History();
     bool Step(std::deque<State>& from, std::deque<State>& to);

@@ -279,8 +279,9 @@ Result<std::optional<std::string>> Archive::Pack_Part(const StoredPart& stored,
                                                       const NewFiles& files,
                                                       std::size_t& placed) const {
     const bool is_open = &stored == &parts_[layout_part_];
-    const auto opened = is_open ? Result<OpenedPart>(opened_) : Open_Part(stored);
-    if (!opened) return opened.Why();
+    auto other = is_open ? Result<OpenedPart>(OpenedPart()) : Open_Part(stored);
+    if (!other) return other.Why();
+    const OpenedPart* opened = is_open ? &opened_ : &*other;
     if (!stored.part.Checksum_Holds()) return In_Part(stored.path, BrokenPart);
     const std::string_view content = opened->content.bytes;
     NewMembers changed;
@@ -295,7 +296,7 @@ Result<std::optional<std::string>> Archive::Pack_Part(const StoredPart& stored,
     }
     if (changed.empty()) return std::optional<std::string>();
     const std::string whole = Replace_U8_Members(content, opened->files, changed);
-    return std::optional(Pack(stored.part, whole, opened->content.rest));
+    return std::optional(Pack(stored.part, whole, opened->content));
 }
 
 /// The members of the channel's archive that change; the one member 0 where the file is a part.

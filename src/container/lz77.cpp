@@ -105,20 +105,86 @@ Result<std::size_t> Read_Groups(Lz77Form::Type type, std::string_view stream, st
     return at;
 }
 
+/// A copy, or with the distance 0 a literal byte.
+struct Token {
+    std::size_t length = 1, distance = 0;
+    char literal = 0;
+};
+
+/// Goes through the tokens of a stream that was read before, so is sound.
+class TokenReader {
+ public:
+    TokenReader(Lz77Form::Type type, const Lz77Source& source)
+        : type_(type), stream_(source.stream), size_(source.bytes.size()) {
+        if (const auto header = Read_Header(stream_)) place_ = header->end;
+        Read();
+    }
+
+    bool At_End() const { return at_ >= size_; }
+    /// Where what the token stands for begins and ends.
+    std::size_t At() const { return at_; }
+    std::size_t End() const { return at_ + token_.length; }
+    const Token& Now() const { return token_; }
+
+    void Go_On() {
+        at_ = End();
+        Read();
+    }
+
+ private:
+    void Read() {
+        if (At_End()) return;
+        if (bit_ == 0) {
+            flags_ = Byte(stream_, place_++);
+            bit_ = 0x80;
+        }
+        const bool is_copy = (flags_ & bit_) != 0;
+        bit_ >>= 1;
+        const Copy copy = is_copy ? Read_Copy(type_, stream_.substr(place_)) : Copy{1, 0, 1};
+        token_ = {copy.length, copy.distance, stream_[place_]};
+        place_ += copy.stored;
+    }
+
+    Lz77Form::Type type_;
+    std::string_view stream_;
+    std::size_t size_, place_ = 0, at_ = 0;
+    unsigned flags_ = 0, bit_ = 0;
+    Token token_;
+};
+
+/// How far two texts are the same from their start, and from where on to their end, as a place in
+/// the first; the stretches do not overlap.
+struct SameEnds {
+    std::size_t front = 0, back = 0;
+
+    SameEnds(std::string_view a, std::string_view b) {
+        const std::size_t most = std::min(a.size(), b.size());
+        while (front < most && a[front] == b[front]) ++front;
+        std::size_t length = 0;
+        while (length < most - front && a[a.size() - 1 - length] == b[b.size() - 1 - length]) {
+            ++length;
+        }
+        back = a.size() - length;
+    }
+};
+
 /// Collects tokens into groups.
 class GroupWriter {
  public:
-    explicit GroupWriter(std::string& stream) : stream_(stream) {}
+    GroupWriter(std::string& stream, Lz77Form::Type type) : stream_(stream), type_(type) {}
 
-    void Literal(char byte) {
-        Begin_Token(false);
-        stream_ += byte;
+    void Write(const Token& token) {
+        Begin_Token(token.distance != 0);
+        if (token.distance == 0) {
+            stream_ += token.literal;
+        } else {
+            Put_Copy(token.length, token.distance - 1);
+        }
     }
 
-    void Copy_From(Lz77Form::Type type, std::size_t length, std::size_t distance) {
-        Begin_Token(true);
-        const std::size_t back = distance - 1;
-        if (type == Lz77Form::short_copies) {
+ private:
+    void Put_Copy(std::size_t length, std::size_t back) {
+        if (type_ == Lz77Form::short_copies) {
             Put(((length - ShortestCopy) << 12) | back, 2);
         } else if (length <= LongestTwo) {
             Put((length - 1) << 12 | back, 2);
@@ -129,7 +195,6 @@ class GroupWriter {
         }
     }
 
- private:
     void Begin_Token(bool is_copy) {
         if (bit_ == 0) {
             flags_at_ = stream_.size();
@@ -145,6 +210,7 @@ class GroupWriter {
     }
 
     std::string& stream_;
+    Lz77Form::Type type_;
     std::size_t flags_at_ = 0;
     int bit_ = 0;
 };
@@ -160,8 +226,12 @@ class MatchFinder {
     /// Of a match that is as long no better one is looked for.
     static constexpr std::size_t GoodEnough = 0x110;
 
-    MatchFinder(std::string_view bytes, std::size_t longest)
-        : bytes_(bytes), longest_(longest), newest_(std::size_t{1} << HashBits, Nowhere) {
+    /// `first`: the first place that matches are looked for.
+    MatchFinder(std::string_view bytes, std::size_t longest, std::size_t first)
+        : bytes_(bytes),
+          longest_(longest),
+          entered_(first - std::min(first, Window)),
+          newest_(std::size_t{1} << HashBits, Nowhere) {
         older_.fill(Nowhere);
     }
 
@@ -172,7 +242,7 @@ class MatchFinder {
         Match best;
         const std::size_t room = std::min(longest_, bytes_.size() - at);
         if (room < ShortestCopy) return best;
-        std::size_t place = newest_[Hash(at)];
+        std::uint32_t place = newest_[Hash(at)];
         for (unsigned tries = 0; tries < MostTries && place != Nowhere && at - place <= Window;
              ++tries, place = older_[place % Window]) {
             const std::size_t length = Common(place, at, room, best.length);
@@ -183,7 +253,8 @@ class MatchFinder {
     }
 
  private:
-    static constexpr std::size_t Nowhere = ~std::size_t{0};
+    /// Places are kept in 32 bits, so that the tables stay in the processor's nearest memory.
+    static constexpr std::uint32_t Nowhere = ~std::uint32_t{0};
     static constexpr unsigned HashBits = 13, MostTries = 256;
 
     std::size_t Hash(std::size_t at) const {
@@ -195,9 +266,9 @@ class MatchFinder {
     /// Makes the places in front of `at` known.
     void Enter_Up_To(std::size_t at) {
         for (; entered_ < at && entered_ + ShortestCopy <= bytes_.size(); ++entered_) {
-            std::size_t& newest = newest_[Hash(entered_)];
+            std::uint32_t& newest = newest_[Hash(entered_)];
             older_[entered_ % Window] = newest;
-            newest = entered_;
+            newest = static_cast<std::uint32_t>(entered_);
         }
     }
 
@@ -213,8 +284,8 @@ class MatchFinder {
 
     std::string_view bytes_;
     std::size_t longest_, entered_ = 0;
-    std::vector<std::size_t> newest_;          ///< by hash
-    std::array<std::size_t, Window> older_{};  ///< by place: the one before with the same hash
+    std::vector<std::uint32_t> newest_;          ///< by hash
+    std::array<std::uint32_t, Window> older_{};  ///< by place: the one before with the same hash
 };
 
 void Append_Header(std::string& stream, std::size_t size, Lz77Form form) {
@@ -260,23 +331,37 @@ Result<Lz77Contents> Lz77_Decompress(std::string_view bytes) {
     return contents;
 }
 
-std::string Lz77_Compress(std::string_view bytes, Lz77Form form) {
+std::string Lz77_Compress(std::string_view bytes, Lz77Form form, const Lz77Source& old) {
     std::string stream;
+    stream.reserve(old.stream.size());
     Append_Header(stream, bytes.size(), form);
-    MatchFinder finder(bytes, form.type == Lz77Form::short_copies ? LongestShort : LongestFour);
-    GroupWriter writer(stream);
-    std::size_t at = 0;
-    for (Match match = finder.Find(0); at < bytes.size();) {
+    GroupWriter writer(stream, form.type);
+    const SameEnds same(bytes, old.bytes);
+    TokenReader tokens(form.type, old);
+    for (; !tokens.At_End() && tokens.End() <= same.front; tokens.Go_On()) {
+        writer.Write(tokens.Now());
+    }
+    std::size_t at = tokens.At();
+    MatchFinder finder(bytes, form.type == Lz77Form::short_copies ? LongestShort : LongestFour, at);
+    const auto rejoins = [&](std::size_t place) {
+        if (place < same.back + Window) return false;  // copies may come from what has changed
+        const std::size_t old_place = place + old.bytes.size() - bytes.size();
+        while (!tokens.At_End() && tokens.At() < old_place) tokens.Go_On();
+        return !tokens.At_End() && tokens.At() == old_place;
+    };
+    for (Match match = finder.Find(at); at < bytes.size();) {
+        if (rejoins(at)) break;
         const Match next = match.length < MatchFinder::GoodEnough ? finder.Find(at + 1) : Match();
         if (match.length == 0 || next.length > match.length) {
-            writer.Literal(bytes[at++]);
+            writer.Write({1, 0, bytes[at++]});
             match = next;
         } else {
-            writer.Copy_From(form.type, match.length, match.distance);
+            writer.Write({match.length, match.distance, {}});
             at += match.length;
             match = finder.Find(at);
         }
     }
+    for (; at < bytes.size(); at += tokens.Now().length, tokens.Go_On()) writer.Write(tokens.Now());
     return stream;
 }
 

@@ -41,8 +41,14 @@ Result<Lz77Contents> Lz77_Decompress(std::string_view bytes);
 /// Bytes that a stream may hold. The console's own limit is far below.
 inline constexpr std::size_t MostLz77Size = std::size_t{32} << 20;
 
+/// A stream, and the bytes that it was found to hold.
+struct Lz77Source {
+    std::string_view stream, bytes;
+};
+
 /// A stream of this form that holds `bytes`, at most `MostLz77Size` of them: matches are looked for
-/// among a bounded number of places, and a longer one at the next byte is preferred.
-std::string Lz77_Compress(std::string_view bytes, Lz77Form form);
+/// among a bounded number of places, and a longer one at the next byte is preferred. Where `bytes`
+/// begin and end as those of `old`, a stream of the same form, do, its tokens are taken over.
+std::string Lz77_Compress(std::string_view bytes, Lz77Form form, const Lz77Source& old = {});
 
 }  // namespace bannersmith

@@ -4,6 +4,7 @@
 #include <bit>
 #include <cmath>
 #include <cstdint>
+#include <utility>
 
 namespace bannersmith {
 
@@ -33,22 +34,36 @@ std::uint32_t Read_Little(std::string_view bytes, std::size_t at) {
     return number;
 }
 
+/// Step `I` of the 64, the number known to the compiler, which makes all of them one straight line.
+template <std::size_t I>
+void Step(State& state, const std::array<std::uint32_t, 16>& words) {
+    constexpr std::size_t Round = I / 16;
+    constexpr std::size_t Word = (Round == 0   ? I
+                                  : Round == 1 ? 5 * I + 1
+                                  : Round == 2 ? 3 * I + 5
+                                               : 7 * I) %
+                                 16;
+    const auto [a, b, c, d] = state;
+    const std::uint32_t mixed = Round == 0   ? (b & c) | (~b & d)
+                                : Round == 1 ? (d & b) | (~d & c)
+                                : Round == 2 ? b ^ c ^ d
+                                             : c ^ (b | ~d);
+    const std::uint32_t sum = a + mixed + Sines[I] + words[Word];
+    state = {d, b + std::rotl(sum, Turns[Round][I % 4]), b, c};
+}
+
+template <std::size_t... I>
+void All_Steps(State& state, const std::array<std::uint32_t, 16>& words,
+               std::index_sequence<I...> /*numbers*/) {
+    (Step<I>(state, words), ...);
+}
+
 void Add_Block(State& state, std::string_view block) {
     std::array<std::uint32_t, 16> words{};
     for (std::size_t i = 0; i < words.size(); ++i) words[i] = Read_Little(block, 4 * i);
-    std::uint32_t a = state[0], b = state[1], c = state[2], d = state[3];
-    const auto step = [&](std::size_t i, std::uint32_t mixed, std::size_t word) {
-        const std::uint32_t sum = a + mixed + Sines[i] + words[word % 16];
-        a = d;
-        d = c;
-        c = b;
-        b += std::rotl(sum, Turns[i / 16][i % 4]);
-    };
-    for (std::size_t i = 0; i < 16; ++i) step(i, (b & c) | (~b & d), i);
-    for (std::size_t i = 16; i < 32; ++i) step(i, (d & b) | (~d & c), 5 * i + 1);
-    for (std::size_t i = 32; i < 48; ++i) step(i, b ^ c ^ d, 3 * i + 5);
-    for (std::size_t i = 48; i < 64; ++i) step(i, c ^ (b | ~d), 7 * i);
-    state = {state[0] + a, state[1] + b, state[2] + c, state[3] + d};
+    State mixed = state;
+    All_Steps(mixed, words, std::make_index_sequence<BlockSize>());
+    for (std::size_t i = 0; i < state.size(); ++i) state[i] += mixed[i];
 }
 
 /// What follows the last whole block: the rest, a one bit, zeros, and the count of bits.

@@ -64,8 +64,11 @@ Result<PartContent> Unpack(const Part& part) {
                        std::string(part.payload.substr(contents->stream_size))};
 }
 
-std::string Pack(const Part& part, std::string_view content, std::string_view rest) {
-    std::string payload = part.packed ? Lz77_Compress(content, *part.packed) : std::string(content);
+std::string Pack(const Part& part, std::string_view content, const PartContent& old) {
+    const std::string& rest = old.rest;
+    std::string payload = part.packed
+                              ? Lz77_Compress(content, *part.packed, {part.payload, old.bytes})
+                              : std::string(content);
     if (part.packed && Fills_Up(rest, part.payload.size())) {
         while (payload.size() % Filling != 0) payload += '\0';
     } else {

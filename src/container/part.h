@@ -43,9 +43,10 @@ struct PartContent {
 /// Unpacks a part. Fails as `Lz77_Decompress` does.
 Result<PartContent> Unpack(const Part& part);
 
-/// The bytes of a part like `part` that holds `content`: packed in the same form, with the bytes
-/// that stood behind its stream (zeros that filled it up to a multiple of four do so again), its
-/// header with new length and checksum.
-std::string Pack(const Part& part, std::string_view content, std::string_view rest);
+/// The bytes of a part like `part`, which holds `old`, with `content` in its place: packed in the
+/// same form, as far as it is the same in the same way, with the bytes that stood behind its stream
+/// (zeros that filled it up to a multiple of four do so again), its header with new length and
+/// checksum.
+std::string Pack(const Part& part, std::string_view content, const PartContent& old);
 
 }  // namespace bannersmith

@@ -33,9 +33,9 @@ void Bind(ListBox& box, DropDownList& list) {
         box.setCurrentIndex(list.Index());
     };
     list.Shown.Raise();
-    if (list.Picture_Of) {
+    if (list.picture_of) {
         box.Show_Pictures([&list](int index) -> QIcon {
-            const auto picture = list.Picture_Of(index);
+            const auto picture = list.picture_of(index);
             return picture ? QIcon(Shown_Picture(*picture, ListBox::PictureRoom)) : QIcon();
         });
     }

@@ -69,7 +69,7 @@ class DropDownList : public Control {
     Event Click;  ///< the selection changed, or a person picked an entry
 
     /// The picture that a view shows beside an entry, by its index; none without this.
-    std::function<std::optional<Picture>(int index)> Picture_Of;
+    std::function<std::optional<Picture>(int index)> picture_of;
 
     /// Begins with `entries`, nothing selected.
     explicit DropDownList(std::vector<std::u16string> entries = {})

@@ -28,7 +28,7 @@ Form1::Form1(Process process, Desktop& desktop)
       process_(std::move(process)),
       desktop_(desktop) {
     txtSrc.Change = [this] { txtSrc_Change(); };
-    cmbLogo.Picture_Of = [this](int index) { return Logo_Picture(index); };
+    cmbLogo.picture_of = [this](int index) { return Logo_Picture(index); };
 }
 
 bool Form1::Form_Load() {

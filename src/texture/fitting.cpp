@@ -87,11 +87,11 @@ Picture Fit_To(const Picture& picture, std::size_t width, std::size_t height, Fi
             1, static_cast<std::size_t>(std::lround(static_cast<double>(length) * by)));
     };
     switch (fit) {
-        case Fit::Crop: {
+        case Fit::crop: {
             const double by = std::max(by_x, by_y);
             return Scaled(picture, by_x / by, by_y / by, width, height);
         }
-        case Fit::Border: {
+        case Fit::border: {
             const double by = std::min(by_x, by_y);
             const std::size_t inner_width = side(picture.width, by);
             const std::size_t inner_height = side(picture.height, by);
@@ -114,13 +114,13 @@ Picture Dither_For(const TexelFormat& format, Picture picture, Dither dither) {
             for (std::size_t i = 0; i < 3; ++i) {
                 const unsigned most = is_short ? 15 : format.most[i];
                 double wanted = texel[i];
-                if (dither == Dither::Ordered) wanted += Pattern(x, y) * 255 / most;
-                if (dither == Dither::Diffusion) wanted += row[x + 1][i];
+                if (dither == Dither::ordered) wanted += Pattern(x, y) * 255 / most;
+                if (dither == Dither::diffusion) wanted += row[x + 1][i];
                 const auto whole = static_cast<unsigned>(std::clamp(wanted + 0.5, 0.0, 255.0));
                 texel[i] = Expand(Reduce(whole, most), most);
                 Diffuse(wanted - texel[i], x, i, row, below);
             }
-            if (format.keeps == Keeps::Intensity) texel[3] = texel[0];
+            if (format.keeps == Keeps::intensity) texel[3] = texel[0];
             std::copy(texel.begin(), texel.end(), place);
         }
         row.swap(below);
@@ -134,9 +134,9 @@ namespace {
 /// The picture as it will be stored.
 Picture Prepared(const Picture& picture, const TextureInfo& wanted, const Fitting& fitting) {
     Picture fitted = Fit_To(picture, wanted.width, wanted.height, fitting.fit);
-    const Dither chosen = Is_Drawing(picture) ? Dither::None : Dither::Diffusion;
+    const Dither chosen = Is_Drawing(picture) ? Dither::none : Dither::diffusion;
     const Dither dither = fitting.dither.value_or(chosen);
-    if (dither == Dither::None) return fitted;
+    if (dither == Dither::none) return fitted;
     return Dither_For(*wanted.format, std::move(fitted), dither);
 }
 

@@ -13,22 +13,22 @@ namespace bannersmith {
 
 /// What happens where the sides of a picture are in another ratio than those of its place.
 enum class Fit {
-    Crop,     ///< it fills the place; what stands over is cut, alike on both sides
-    Border,   ///< it is whole; what stays free is transparent, which is black without alpha
-    Stretch,  ///< it is whole and fills the place, distorted
+    crop,     ///< it fills the place; what stands over is cut, alike on both sides
+    border,   ///< it is whole; what stays free is transparent, which is black without alpha
+    stretch,  ///< it is whole and fills the place, distorted
 };
 
 /// How colours that a format lacks are made of those that it has.
 enum class Dither {
-    None,       ///< each texel gets the nearest one
-    Ordered,    ///< by a pattern of 4 x 4 texels
-    Diffusion,  ///< what a texel got too much is taken from its neighbours (Floyd-Steinberg)
+    none,       ///< each texel gets the nearest one
+    ordered,    ///< by a pattern of 4 x 4 texels
+    diffusion,  ///< what a texel got too much is taken from its neighbours (Floyd-Steinberg)
 };
 
 /// How a picture becomes a texture. Without a word about dithering a drawing, which has at most 256
 /// colours, is not dithered and anything else is by diffusion.
 struct Fitting {
-    Fit fit = Fit::Crop;
+    Fit fit = Fit::crop;
     std::optional<Dither> dither = {};
 };
 

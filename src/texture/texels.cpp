@@ -162,17 +162,17 @@ Texel Read_Cmpr(std::string_view block, std::size_t index, const Palette&) {
 }
 
 constexpr TexelFormat Formats[] = {
-    {0, "I4", 8, 8, 32, Keeps::Intensity, {15, 15, 15}, Read_I4, Write_I4},
-    {1, "I8", 8, 4, 32, Keeps::Intensity, {255, 255, 255}, Read_I8, Write_I8},
-    {2, "IA4", 8, 4, 32, Keeps::IntensityAlpha, {15, 15, 15}, Read_Ia4, Write_Ia4},
-    {3, "IA8", 4, 4, 32, Keeps::IntensityAlpha, {255, 255, 255}, Read_Ia8, Write_Ia8},
-    {4, "RGB565", 4, 4, 32, Keeps::OpaqueColor, {31, 63, 31}, Read_Rgb565, Write_Rgb565},
-    {5, "RGB5A3", 4, 4, 32, Keeps::ColorAlpha, {31, 31, 31}, Read_Rgb5A3, Write_Rgb5A3},
-    {6, "RGBA8", 4, 4, 64, Keeps::ColorAlpha, {255, 255, 255}, Read_Rgba8, Write_Rgba8},
-    {8, "C4", 8, 8, 32, Keeps::ColorAlpha, {255, 255, 255}, Read_C4, nullptr},
-    {9, "C8", 8, 4, 32, Keeps::ColorAlpha, {255, 255, 255}, Read_C8, nullptr},
-    {10, "C14X2", 4, 4, 32, Keeps::ColorAlpha, {255, 255, 255}, Read_C14X2, nullptr},
-    {14, "CMPR", 8, 8, 32, Keeps::ColorAlpha, {255, 255, 255}, Read_Cmpr, nullptr},
+    {0, "I4", 8, 8, 32, Keeps::intensity, {15, 15, 15}, Read_I4, Write_I4},
+    {1, "I8", 8, 4, 32, Keeps::intensity, {255, 255, 255}, Read_I8, Write_I8},
+    {2, "IA4", 8, 4, 32, Keeps::intensity_alpha, {15, 15, 15}, Read_Ia4, Write_Ia4},
+    {3, "IA8", 4, 4, 32, Keeps::intensity_alpha, {255, 255, 255}, Read_Ia8, Write_Ia8},
+    {4, "RGB565", 4, 4, 32, Keeps::opaque_color, {31, 63, 31}, Read_Rgb565, Write_Rgb565},
+    {5, "RGB5A3", 4, 4, 32, Keeps::color_alpha, {31, 31, 31}, Read_Rgb5A3, Write_Rgb5A3},
+    {6, "RGBA8", 4, 4, 64, Keeps::color_alpha, {255, 255, 255}, Read_Rgba8, Write_Rgba8},
+    {8, "C4", 8, 8, 32, Keeps::color_alpha, {255, 255, 255}, Read_C4, nullptr},
+    {9, "C8", 8, 4, 32, Keeps::color_alpha, {255, 255, 255}, Read_C8, nullptr},
+    {10, "C14X2", 4, 4, 32, Keeps::color_alpha, {255, 255, 255}, Read_C14X2, nullptr},
+    {14, "CMPR", 8, 8, 32, Keeps::color_alpha, {255, 255, 255}, Read_Cmpr, nullptr},
 };
 
 template <typename Matches>
@@ -228,11 +228,11 @@ Texel Seen_As(const TexelFormat& format, Texel texel) {
         return static_cast<std::uint8_t>((value * alpha + 127) / 255);
     };
     switch (format.keeps) {
-        case Keeps::Intensity:
+        case Keeps::intensity:
             return Grey(std::min(luminance, alpha), std::min(luminance, alpha));
-        case Keeps::IntensityAlpha:
+        case Keeps::intensity_alpha:
             return Grey(luminance, alpha);
-        case Keeps::OpaqueColor:
+        case Keeps::opaque_color:
             return {before_black(texel[0]), before_black(texel[1]), before_black(texel[2]), 255};
         default:
             if (format.name == "RGB5A3" && alpha >= LeastOpaque) texel[3] = 255;

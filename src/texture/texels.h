@@ -24,10 +24,10 @@ struct Palette {
 
 /// What a format can keep of a colour.
 enum class Keeps {
-    Intensity,       ///< one number, which is red, green, blue and alpha
-    IntensityAlpha,  ///< one number for red, green and blue, one for alpha
-    OpaqueColor,     ///< red, green, blue; all is opaque
-    ColorAlpha,
+    intensity,        ///< one number, which is red, green, blue and alpha
+    intensity_alpha,  ///< one number for red, green and blue, one for alpha
+    opaque_color,     ///< red, green, blue; all is opaque
+    color_alpha,
 };
 
 /// One format.

@@ -24,7 +24,7 @@ char Level(double value) {
 std::string Texture_File(TextureFormat format, int width, int height,
                          const std::function<Pixel(int x, int y)>& pixel) {
     const TexelFormat& texels = *Find_Texel_Format(static_cast<std::uint32_t>(format));
-    const bool grey = texels.keeps == Keeps::Intensity || texels.keeps == Keeps::IntensityAlpha;
+    const bool grey = texels.keeps == Keeps::intensity || texels.keeps == Keeps::intensity_alpha;
     Picture picture{static_cast<std::size_t>(width), static_cast<std::size_t>(height), {}};
     for (int y = 0; y < height; ++y) {
         for (int x = 0; x < width; ++x) {
