@@ -3,6 +3,7 @@
 #include <CLI/Config.hpp>
 #include <CLI/Formatter.hpp>
 #include <algorithm>
+#include <charconv>
 #include <cstdio>
 #include <map>
 #include <new>
@@ -74,13 +75,17 @@ Result<Opened> Open(const std::string& name) {
 
 /// "256x192".
 std::optional<std::pair<std::size_t, std::size_t>> Read_Size(const std::string& text) {
-    unsigned width = 0, height = 0;
-    int end = 0;
-    if (text.size() > 9 || std::sscanf(text.c_str(), "%u%*1[xX]%u%n", &width, &height, &end) != 2 ||
-        static_cast<std::size_t>(end) != text.size()) {
+    const std::size_t by = text.find_first_of("xX");
+    std::pair<std::size_t, std::size_t> size;
+    const auto is_number = [](std::string_view digits, std::size_t& number) {
+        const auto read = std::from_chars(digits.begin(), digits.end(), number);
+        return read.ec == std::errc() && read.ptr == digits.end();
+    };
+    if (by == text.npos || !is_number(std::string_view(text).substr(0, by), size.first) ||
+        !is_number(std::string_view(text).substr(by + 1), size.second)) {
         return std::nullopt;
     }
-    return std::pair(std::size_t{width}, std::size_t{height});
+    return size;
 }
 
 Result<std::string> Make(const Options& options, const Picture& picture) {
@@ -166,6 +171,7 @@ Options Read_Options(const std::vector<std::u16string>& arguments) {
     parser.add_option("--dither", dither)->check(CLI::IsMember(dithers));
     parser.add_flag("--info", options.info);
     std::vector<std::string> backwards;
+    backwards.reserve(arguments.size());
     for (const std::u16string& argument : arguments) backwards.push_back(To_Utf8(argument));
     std::reverse(backwards.begin(), backwards.end());
     parser.parse(std::move(backwards));

@@ -1,14 +1,12 @@
 #include "texture/fitting.h"
 
+#include <stb_image_resize.h>
+
 #include <algorithm>
 #include <cmath>
 #include <new>
 #include <set>
 #include <vector>
-
-#define STB_IMAGE_RESIZE_STATIC
-#define STB_IMAGE_RESIZE_IMPLEMENTATION
-#include <stb_image_resize.h>
 
 namespace bannersmith {
 

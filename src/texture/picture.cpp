@@ -1,23 +1,11 @@
 #include "texture/picture.h"
 
-#include <algorithm>
+#include <stb_image.h>
+#include <stb_image_write.h>
+
 #include <memory>
 
 #include "base/numbers.h"
-
-#define STBI_ONLY_PNG
-#define STBI_ONLY_JPEG
-#define STBI_NO_STDIO
-#define STBI_FAILURE_USERMSG
-#define STBI_MAX_DIMENSIONS 8192
-#define STB_IMAGE_STATIC
-#define STB_IMAGE_IMPLEMENTATION
-#include <stb_image.h>
-
-#define STBI_WRITE_NO_STDIO
-#define STB_IMAGE_WRITE_STATIC
-#define STB_IMAGE_WRITE_IMPLEMENTATION
-#include <stb_image_write.h>
 
 namespace bannersmith {
 
