@@ -51,6 +51,7 @@ void Form1::txtSrc_Change() {
     opened_ = Open_Layout(process_.program_folder, txtSrc.Text(), Banner::MostHistory);
     if (opened_.banner.Is_Loaded()) info.Refill();
     names.Refill();
+    Read_Archive();
     lblLastCommand.Set(u"");
     Tell_What_Is_Loaded();
 }

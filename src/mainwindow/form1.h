@@ -129,7 +129,11 @@ class Form1 {
 
     void Tell_Changes(std::u16string_view command, const std::string& before);
     std::optional<Picture> Logo_Picture(int index) const;
+    void Read_Archive();
     void Tell_What_Is_Loaded();
+
+    /// What is told of the archive that is loaded: what is wrong with it, and what it holds.
+    std::u16string archive_faults_, archive_contents_;
 
     Process process_;
     Desktop& desktop_;

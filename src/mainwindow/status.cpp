@@ -5,6 +5,7 @@
 #include "base/text.h"
 #include "gameinfo/boxes.h"
 #include "gameinfo/languages.h"
+#include "inspect/archive_info.h"
 #include "layout/kind.h"
 #include "layout/text_box.h"
 #include "mainwindow/form1.h"
@@ -53,6 +54,11 @@ std::vector<std::string> Changed_Boxes(const std::string& before, const std::str
     }
     compare(To_Utf8(SystemBox));
     return changed;
+}
+
+/// What is told behind something else in the line.
+std::u16string Column(const std::string& text) {
+    return u"  |  " + From_Utf8(text);
 }
 
 std::u16string Describe(const std::vector<std::string>& boxes, bool same) {
@@ -109,6 +115,28 @@ bool Form1::Lose_Changes(const std::u16string& question) {
     return !Has_Unsaved_Changes() || desktop_.Confirm(txtSrc.Text() + question);
 }
 
+void Form1::Read_Archive() {
+    archive_faults_.clear();
+    archive_contents_.clear();
+    const Archive* archive = opened_.banner.Source().Packed_In();
+    if (archive == nullptr) return;
+    const ArchiveInfo held = Read_Archive_Info(*archive);
+    for (const std::string& warning : held.warnings)
+        archive_faults_ += Column("Warning: " + warning);
+    archive_contents_ = Column(std::to_string(held.files.size()) + " files in " +
+                               std::to_string(held.file_size) + " bytes");
+    for (const ArchiveFileInfo& file : held.files) {
+        archive_contents_ += Column(file.path + " " + std::to_string(file.size) +
+                                    (file.texture ? " " + file.texture->Text() : ""));
+    }
+    for (std::size_t i = 0; held.names && i < held.names->size(); ++i) {
+        const auto& [first, second] = (*held.names)[i];
+        if (first.empty() && second.empty()) continue;
+        archive_contents_ += Column(To_Utf8(NameLanguages[i]) + " " + To_Utf8(first) +
+                                    (second.empty() ? "" : " / " + To_Utf8(second)));
+    }
+}
+
 void Form1::Tell_What_Is_Loaded() {
     if (BrlytData.empty()) {
         const std::string reason = opened_.why_not.empty() ? "" : ": " + opened_.why_not;
@@ -118,11 +146,11 @@ void Form1::Tell_What_Is_Loaded() {
     const std::u16string path = With_Backslashes(txtSrc.Text());
     const Archive* archive = opened_.banner.Source().Packed_In();
     const std::u16string packed = archive ? u": " + From_Utf8(archive->Layout_Path()) : u"";
-    lblLoaded.Set(path.substr(path.rfind(u'\\') + 1) + packed + u"  |  " +
+    lblLoaded.Set(path.substr(path.rfind(u'\\') + 1) + packed + archive_faults_ + u"  |  " +
                   (Has_Unsaved_Changes() ? u"texts not saved" : u"texts as in the file") +
                   u"  |  " +
                   (Is_Layout(BrlytData) ? Languages_Present(BrlytData) : u"not a layout file") +
-                  u"  |  " + Number(BrlytData.size()) + u" bytes");
+                  u"  |  " + Number(BrlytData.size()) + u" bytes" + archive_contents_);
 }
 
 }  // namespace bannersmith
