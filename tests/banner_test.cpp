@@ -29,10 +29,11 @@ auto Any(const Items& items) {
     return *(std::begin(items) + static_cast<std::ptrdiff_t>(Pick(std::size(items))));
 }
 
-const char* const Names[] = {
-    "T_VCTitle_ENG", "T_VCTitle_GER", "T_VCTitle_JPN", "T_VCTitle",  "T_Year_ENG", "T_Year_FRA", "T_Year_NED",
-    "T_Year_JPN",    "T_Year",        "T_Year_ITA",    "T_Play_ENG", "T_Play_JPN", "T_Play_NED", "T_Play",
-    "T_ESRB_ENG",    "T_ESRB_FRA",    "T_ESRB",        "T_PF",       "T_PF2",      "L_GER",      "Years"};
+const char* const Names[] = {"T_VCTitle_ENG", "T_VCTitle_GER", "T_VCTitle_JPN", "T_VCTitle", "T_Year_ENG",
+                             "T_Year_FRA",    "T_Year_NED",    "T_Year_JPN",    "T_Year",    "T_Year_ITA",
+                             "T_Play_ENG",    "T_Play_JPN",    "T_Play_NED",    "T_Play",    "T_ESRB_ENG",
+                             "T_ESRB_FRA",    "T_ESRB",        "T_PF",          "T_PF2",     "L_GER",
+                             "Years",         "T_VCTitle_NONE"};
 const char16_t* const Stored[] = {u"Released: 1985",
                                   u"Erschienen: 1985",
                                   u"Publié en 1985",
@@ -205,7 +206,14 @@ TEST(Banner, TakesPicturesForLogoAndGame) {
         EXPECT_EQ(bytes.size(), channel.Find_File(path)->size());
         EXPECT_NE(bytes, *channel.Find_File(path));
     }
-    EXPECT_FALSE(Banner::From_Bytes(Neutral_Banner()).Game_Picture());
+    // A layout that lies nowhere like that has no picture, wherever the program was started.
+    folder.Write("a/b/x", Neutral_Banner());
+    const auto before = std::filesystem::current_path();
+    std::filesystem::current_path(folder.Path() / "out/meta/banner.bin/arc");
+    EXPECT_FALSE(Banner::Load(BannerSource(folder.Text() + u"/a/b/x"))->Game_Picture());
+    EXPECT_FALSE(Banner::From_Bytes(Neutral_Banner(), BannerSource(u"x")).Game_Picture());
+    EXPECT_TRUE(Banner::Load(BannerSource(u"blyt/banner.brlyt"))->Game_Picture());
+    std::filesystem::current_path(before);
 }
 
 /// Boxes for Korea beside neutral ones and in front of them, as no banner has them, so that each test can go wrong.
@@ -269,6 +277,9 @@ TEST(Banner, TellsWhatAConsoleWillNotShow) {
         const auto plan = banner.Plan_Save();
         EXPECT_EQ(plan->notices, row.notice ? std::vector<std::string>{row.notice} : std::vector<std::string>());
     }
+    Banner plain = Banner::From_Bytes(Layout_File({Material_Section({{"T_Year", {}, {}, -1}}), Empty_Section("gre1")}));
+    ASSERT_TRUE(plain.Apply(rows[2].edit));
+    EXPECT_EQ(plain.Plan_Save()->notices.size(), 1U) << "also of a scheme that changes nothing";
     const Banner banner = *Banner::Load(BannerSource(folder.Text() + u"/arc/blyt/x.brlyt"));
     EXPECT_EQ("but " + banner.Lost_By_Force_Of(u"SPA"), rows[4].notice);
 }

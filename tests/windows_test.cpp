@@ -662,6 +662,21 @@ TEST_F(Windows, SaveOverWhatOthersWroteOnlyWhenToldTo) {
 
 std::size_t allocations_left = 0;  ///< until one fails that has room for a layout; none does at 0
 
+TEST_F(Windows, AskWhatARegionMayLoseAndListKoreanWhereItIs) {
+    home.Write("b/arc/blyt/x", German_Japanese_Banner());
+    ASSERT_TRUE(main.Form_Load());
+    main.cmbForce.Select(0);
+    main.cmdSave_Click();
+    EXPECT_EQ(Said(), "<question: \\b/arc/blyt/x: region force leaves the group GER. Force the region all the same?>");
+    EXPECT_EQ(Shown(main.lblLastCommand.Caption()), "Not saved");
+    home.Write("b/arc/blyt/y", Boxes({u"T_VCTitle_KOR Korea", u"T_Play_KOR x^1-4x"}));
+    main.txtSrc.Set(u"\\b/arc/blyt/y");
+    EXPECT_EQ(Fields(), "Korea||4|||KOR NONE KOR NONE ");
+    EXPECT_NE(Shown(main.lblLoaded.Caption()).find("|  KOR  |"), std::string::npos);
+    main.txtSrc.Set(u"\\b/arc/blyt/x");
+    EXPECT_EQ(info.cmbRegion[0].Count(), 8);
+}
+
 class BatchRuns : public Windows {
  protected:
     /// What is told, and the status.

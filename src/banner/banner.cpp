@@ -53,7 +53,7 @@ bool Banner::State::operator==(const State& other) const {
         return a.path == b.path && a.bytes == b.bytes;
     };
     return layout == other.layout && forced == other.forced && padding == other.padding &&
-           names == other.names &&
+           names == other.names && has_scheme == other.has_scheme &&
            std::equal(textures.begin(), textures.end(), other.textures.begin(),
                       other.textures.end(), same);
 }

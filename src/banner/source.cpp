@@ -9,11 +9,12 @@ namespace bannersmith {
 namespace {
 
 /// The folder `name` beside the folder of the layout file: the layout's path without its last two
-/// parts. Empty for a layout in a root folder: what would be left of its path is the current
-/// folder, which may be anyone's.
+/// parts. Empty for a path without a folder and for a layout in a root folder: what would be left
+/// is the current folder, which may be anyone's.
 std::u16string Folder_Beside(std::u16string_view layout_path, std::u16string_view name) {
     const std::u16string path = With_Backslashes(layout_path);
     const std::size_t last = path.rfind(u'\\');
+    if (last == path.npos) return {};
     const std::size_t before = last == 0 ? path.npos : path.rfind(u'\\', last - 1);
     const std::u16string_view last_two =
         std::u16string_view(path).substr(before == path.npos ? 0 : before + 1);
@@ -44,8 +45,9 @@ Result<std::optional<std::u16string>> Find_Beside(const std::u16string& layout_p
 std::u16string In_Other_Part(std::u16string_view layout_path) {
     const std::u16string path = With_Backslashes(layout_path);
     std::size_t end = path.size();
-    for (int i = 0; i < 3 && end != path.npos; ++i)
+    for (int i = 0; i < 3 && end != path.npos; ++i) {
         end = end == 0 ? path.npos : path.rfind(u'\\', end - 1);
+    }
     if (end == path.npos || end == 0) return {};
     const std::size_t begin = path.rfind(u'\\', end - 1) + 1;  // of the folder that holds "arc"
     const std::u16string part = path.substr(begin, end - begin);
@@ -99,8 +101,8 @@ std::vector<NewContents> BannerSource::Animations() const {
     if (archive_) {
         static_cast<void>(
             archive_->Visit_Files([&](const std::string& path, std::string_view bytes) -> Result<> {
-                if (path.ends_with(".brlan"))
-                    animations.push_back({From_Utf8(path), std::string(bytes)});
+                if (!path.ends_with(".brlan")) return {};
+                animations.push_back({From_Utf8(path), std::string(bytes)});
                 return {};
             }));
         return animations;

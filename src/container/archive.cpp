@@ -37,15 +37,10 @@ Failure In_Part(const std::string& part, const std::string& reason) {
     return {u"", part.empty() ? reason : part + ": " + reason};
 }
 
-/// The first texture of that folder, named in small letters, whose name begins so and that has any
-/// bytes; null for none.
-const U8Member* Find_Texture_In(const std::vector<U8Member>& files, std::string_view folder,
-                                std::string_view beginning) {
-    const auto found = std::find_if(files.begin(), files.end(), [&](const U8Member& file) {
-        return Small(Folder_Of(file.path)) == folder && Small(file.path).ends_with(".tpl") &&
-               file.size > 0 && Name_Of(file.path).starts_with(beginning);
-    });
-    return found == files.end() ? nullptr : &*found;
+/// Whether a file is a texture, with any bytes, of that folder, named in small letters.
+bool Is_Texture_In(std::string_view folder, const U8Member& file) {
+    return Small(Folder_Of(file.path)) == folder && Small(file.path).ends_with(".tpl") &&
+           file.size > 0;
 }
 
 std::string Warn(const std::string& part, const std::string& reason) {
@@ -209,36 +204,49 @@ std::string Archive::Path_Of(std::size_t file) const {
 std::optional<std::string> Archive::Find_Texture(std::string_view beginning) const {
     const std::string_view blyt = Folder_Of(opened_.files[layout_].path);
     const std::string_view arc = Folder_Of(blyt.substr(0, blyt.size() - !blyt.empty()));
-    const auto* found = Find_Texture_In(opened_.files, Small(arc) + "timg/", beginning);
-    if (found == nullptr) return std::nullopt;
-    return Joined(parts_[layout_part_].path, found->path);
-}
-
-std::optional<std::string> Archive::Find_Texture_Anywhere(std::string_view beginning) const {
-    if (auto found = Find_Texture(beginning)) return found;
-    for (const StoredPart& stored : parts_) {
-        const auto opened = Opened(stored);
-        const auto* found =
-            opened ? Find_Texture_In(opened->files, "arc/timg/", beginning) : nullptr;
-        if (found != nullptr) return Joined(stored.path, found->path);
+    for (const U8Member& file : opened_.files) {
+        if (!Is_Texture_In(Small(arc) + "timg/", file)) continue;
+        if (Name_Of(file.path).starts_with(beginning)) {
+            return Joined(parts_[layout_part_].path, file.path);
+        }
     }
     return std::nullopt;
 }
 
-std::optional<OpenedPart> Archive::Opened(const StoredPart& stored) const {
-    if (&stored == &parts_[layout_part_]) return opened_;
+std::optional<std::string> Archive::Find_Texture_Anywhere(std::string_view beginning) const {
+    for (const StoredPart& stored : parts_) {
+        OpenedPart room;
+        const auto opened = Opened(stored, room);
+        if (!opened) continue;
+        for (const U8Member& file : (*opened)->files) {
+            if (!Is_Texture_In("arc/timg/", file)) continue;
+            if (Small(Name_Of(file.path)).starts_with(Small(beginning))) {
+                return Joined(stored.path, file.path);
+            }
+        }
+    }
+    return std::nullopt;
+}
+
+/// The part that is open already, or another one, which is then in `room`.
+Result<const OpenedPart*> Archive::Opened(const StoredPart& stored, OpenedPart& room) const {
+    if (&stored == &parts_[layout_part_]) return &opened_;
     auto opened = Open_Part(stored);
-    return opened ? std::optional(std::move(*opened)) : std::nullopt;
+    if (!opened) return opened.Why();
+    room = std::move(*opened);
+    return &room;
 }
 
 std::optional<std::string> Archive::Find_File(std::string_view path) const {
     for (const StoredPart& stored : parts_) {
         const std::string folder = Joined(stored.path, "");
-        const auto opened = path.starts_with(folder) ? Opened(stored) : std::nullopt;
+        if (!path.starts_with(folder)) continue;
+        OpenedPart room;
+        const auto opened = Opened(stored, room);
         if (!opened) continue;
-        for (const U8Member& file : opened->files) {
+        for (const U8Member& file : (*opened)->files) {
             if (folder + file.path != path) continue;
-            return opened->content.bytes.substr(file.offset, file.size);
+            return (*opened)->content.bytes.substr(file.offset, file.size);
         }
     }
     return std::nullopt;
@@ -278,10 +286,10 @@ std::optional<ChannelNames> Archive::Names() const {
 Result<std::optional<std::string>> Archive::Pack_Part(const StoredPart& stored,
                                                       const NewFiles& files,
                                                       std::size_t& placed) const {
-    const bool is_open = &stored == &parts_[layout_part_];
-    auto other = is_open ? Result<OpenedPart>(OpenedPart()) : Open_Part(stored);
-    if (!other) return other.Why();
-    const OpenedPart* opened = is_open ? &opened_ : &*other;
+    OpenedPart room;
+    const auto found = Opened(stored, room);
+    if (!found) return found.Why();
+    const OpenedPart* opened = *found;
     if (!stored.part.Checksum_Holds()) return In_Part(stored.path, BrokenPart);
     const std::string_view content = opened->content.bytes;
     NewMembers changed;

@@ -48,10 +48,9 @@ class Archive {
     static bool Begins_As_One(std::string_view bytes);
 
     /// Reads the file and opens the part that has the layout: banner.bin, in "meta" first, or else
-    /// icon.bin, with
-    /// arc/blyt/banner.brlyt, or else the only layout, or else icon.brlyt. Fails, without a
-    /// subject, where the way to the layout is broken. A checksum that does not hold is no such
-    /// failure.
+    /// icon.bin, with arc/blyt/banner.brlyt, or else the only layout, or else icon.brlyt. Fails,
+    /// without a subject, where the way to the layout is broken. A checksum that does not hold is
+    /// no such failure.
     static Result<Archive> Read(std::string bytes);
 
     const std::string& Bytes() const { return *bytes_; }
@@ -65,7 +64,8 @@ class Archive {
     /// with any bytes.
     std::optional<std::string> Find_Texture(std::string_view beginning) const;
 
-    /// The same, or else in the folder arc/timg of any part.
+    /// The first in the folder arc/timg of any part, in the order of the file, whatever the case of
+    /// its letters.
     std::optional<std::string> Find_Texture_Anywhere(std::string_view beginning) const;
 
     /// The bytes of a file. Nothing where there is none of that path that can be read.
@@ -110,7 +110,7 @@ class Archive {
     std::string_view Outer() const { return std::string_view(*bytes_).substr(outer_at_); }
     std::string_view File_Bytes(std::size_t file) const;
     std::string Path_Of(std::size_t file) const;
-    std::optional<OpenedPart> Opened(const StoredPart& stored) const;
+    Result<const OpenedPart*> Opened(const StoredPart& stored, OpenedPart& room) const;
     std::optional<std::size_t> Find_Part(std::string_view name) const;
     PartSizes Real_Sizes(const NewMembers& changed) const;
     Result<NewMembers> Pack_Parts(const NewFiles& files) const;

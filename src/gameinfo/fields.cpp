@@ -115,6 +115,7 @@ std::u16string Get_Year_Lang(std::string_view layout) {
 
 std::u16string Neutral_Language(std::string_view layout) {
     for (const std::u16string_view code : Codes_For(layout)) {
+        if (code == NoLanguage) continue;
         if (!Read_Box(layout, Box_Of(Field::title, code)).empty()) return {};
     }
     return Get_Year_Lang(layout);

@@ -56,8 +56,10 @@ void Form1::txtSrc_Change() {
     Tell_What_Is_Loaded();
 }
 
-void Form1::Apply(const Edit& edit) {
-    if (const auto applied = opened_.banner.Apply(edit); !applied) desktop_.Report(applied.Why());
+bool Form1::Apply(const Edit& edit) {
+    const auto applied = opened_.banner.Apply(edit);
+    if (!applied) desktop_.Report(applied.Why());
+    return static_cast<bool>(applied);
 }
 
 std::u16string Form1::Layout_Path() const {
@@ -145,7 +147,7 @@ void Form1::cmdPicture_Click() {
         return;
     }
     const auto apply = [this](const Edit& edit) {
-        Apply(edit);
+        if (!Apply(edit)) return;
         lblLastCommand.Set(u"Game picture: the next save writes it");
         Tell_What_Is_Loaded();
     };

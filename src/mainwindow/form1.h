@@ -80,8 +80,9 @@ class Form1 {
     void cmdSet_Click(std::int16_t Index);
     void cmdSetAll_Click(std::int16_t Index);
 
-    /// Applies an edit to the banner; a failure is reported. The fields are not refreshed.
-    void Apply(const Edit& edit);
+    /// Applies an edit to the banner; a failure is reported, and false. The fields are not
+    /// refreshed.
+    bool Apply(const Edit& edit);
 
     /// Set of the page of channel names, see `ChannelNamesPage`.
     void cmdSetNames_Click();

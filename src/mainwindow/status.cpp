@@ -33,7 +33,7 @@ bool Has_One_Text_For_All(std::string_view layout) {
 std::u16string Languages_Present(std::string_view layout) {
     std::u16string codes;
     for (const std::u16string_view code : Codes_For(layout)) {
-        if (Read_Box(layout, Box_Of(Field::title, code)).empty()) continue;
+        if (code == NoLanguage || Read_Box(layout, Box_Of(Field::title, code)).empty()) continue;
         codes.append(codes.empty() ? u"" : u" ").append(code);
     }
     if (!codes.empty()) return codes;
@@ -121,8 +121,9 @@ void Form1::Read_Archive() {
     const Archive* archive = opened_.banner.Source().Packed_In();
     if (archive == nullptr) return;
     const ArchiveInfo held = Read_Archive_Info(*archive);
-    for (const std::string& warning : held.warnings)
+    for (const std::string& warning : held.warnings) {
         archive_faults_ += Column("Warning: " + warning);
+    }
     archive_contents_ = Column(std::to_string(held.files.size()) + " files in " +
                                std::to_string(held.file_size) + " bytes");
     for (const ArchiveFileInfo& file : held.files) {
