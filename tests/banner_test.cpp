@@ -240,11 +240,12 @@ TEST(Banner, WritesKoreanInKoreanBoxesAlone) {
     ASSERT_TRUE(korean.Apply(WriteBox{u"T_Year", u"raw"}));
     EXPECT_EQ(Get_Text(korean.Bytes(), "T_Year_KOR").substr(9), u"2001\uB144");
 
-    Banner mixed = Banner::From_Bytes(layout({{"T_Play_KOR", u"a"}, {"T_Play", u"b"}, {"T_Play_KOR", u"c"}}));
+    Banner mixed =
+        Banner::From_Bytes(layout({{"T_Play_KOR", u"a"}, {"T_Play", u"b"}, {"T_Play_KOR", u"another size"}}));
     ASSERT_TRUE(mixed.Apply(WriteBox{u"T_Play", u"Z"}));
     std::u16string texts;
     for (const TextBoxInfo& box : Read_Layout(mixed.Bytes()).boxes) texts += box.text;
-    EXPECT_EQ(texts, u"aZc");
+    EXPECT_EQ(texts, u"aZanother size");
 }
 
 TEST(Banner, TellsWhatAConsoleWillNotShow) {

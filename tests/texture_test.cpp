@@ -5,6 +5,7 @@
 #include <random>
 
 #include "base/numbers.h"
+#include "generate/texture.h"
 #include "support.h"
 #include "texture/fitting.h"
 
@@ -164,24 +165,27 @@ TEST(Texture, SeesTransparencyAndGreyAsTheFormatDoes) {
     }
 }
 
-/// A picture half red, half transparent, with a green line at its foot.
+/// A picture a quarter grey, a quarter red, half transparent, with a green line at its foot.
 TEST(Fitting, CutsFramesAndStretchesWithoutBleeding) {
     Picture picture{40, 20, {}};
     for (int i = 0; i < 40 * 20; ++i) {
-        picture.texels += i >= 40 * 14 ? "\0\xFF\0\xFF"s : i % 40 < 20 ? "\xFF\0\0\xFF"s : "\0\0\xFF\0"s;
+        picture.texels += i >= 40 * 14  ? "\0\xFF\0\xFF"s
+                          : i % 40 < 10 ? "zzz\xFF"s
+                          : i % 40 < 20 ? "\xFF\0\0\xFF"s
+                                        : "\0\0\xFF\0"s;
     }
-    const Texel red{255, 0, 0, 255}, green{0, 255, 0, 255}, nothing{0, 0, 0, 0};
+    const Texel red{255, 0, 0, 255}, green{0, 255, 0, 255}, nothing{0, 0, 0, 0}, grey{'z', 'z', 'z', 255};
     const Picture cut = Fit_To(picture, 80, 80, Fit::crop), framed = Fit_To(picture, 80, 80, Fit::border);
     const Picture stretched = Fit_To(picture, 80, 10, Fit::stretch);
-    EXPECT_EQ(At(cut, 0, 0), red);
+    EXPECT_EQ(At(cut, 4, 0), red);
     EXPECT_EQ(At(cut, 30, 40), red);
     EXPECT_EQ(At(cut, 50, 40)[3], 0);
     EXPECT_EQ(At(cut, 79, 79), green);
     EXPECT_EQ(At(framed, 0, 19), nothing);
-    EXPECT_EQ(At(framed, 0, 20), red);
+    EXPECT_EQ(At(framed, 0, 20), grey);
     EXPECT_EQ(At(framed, 79, 59), green);
     EXPECT_EQ(At(framed, 79, 60), nothing);
-    EXPECT_EQ(At(stretched, 20, 5), red);
+    EXPECT_EQ(At(stretched, 30, 5), red);
     EXPECT_EQ(At(stretched, 79, 9), green);
     const Texel edge = At(stretched, 40, 4);
     EXPECT_TRUE(edge[3] > 0 && edge[3] < 255 && edge[2] < 3) << "hidden blue: " << int{edge[2]};
@@ -226,5 +230,12 @@ TEST(Texture, RefusesWhatIsBroken) {
     EXPECT_FALSE(Make_Texture_Like(levels, Random_Picture(3, 3)));
     EXPECT_FALSE(Make_Texture(Random_Picture(3, 3), {&Named("I4"), 1025, 1}));
     EXPECT_FALSE(Decode_Texture(One_Block(9, std::string(32, '\0'), 3)));
+    EXPECT_EQ(Make_Texture({1, 1, "zzz\xFF"}, {&Named("I8"), 1, 1})->substr(0x40), std::string(32, 'z')) << "filler";
+    // The library would write 300 codes into room for 256.
+    const std::string jpeg = Jpeg_File(Random_Picture(30, 20));
+    const std::string table = "\xFF\xC4\x01\x3F\0"s + std::string(15, '\x14') + std::string(1 + 300, '\0');
+    EXPECT_TRUE(Read_Picture(jpeg));
+    EXPECT_EQ(Read_Picture(jpeg.substr(0, 2) + table + jpeg.substr(2)).Why().reason, "Picture is broken");
+    EXPECT_FALSE(Read_Picture(jpeg.substr(0, jpeg.size() - 2)));
     EXPECT_EQ(Read_Picture("GIF89a").Why().reason, "Is neither a PNG nor a JPEG picture");
 }
