@@ -122,18 +122,18 @@ Result<> Archive::Open_Layout_Part() {
     layout_part_ = part.value_or(0);
     auto opened = Open_Part(parts_[layout_part_]);
     if (!opened) return opened.Why();
-    opened_ = std::move(*opened);
+    opened_ = std::make_shared<const OpenedPart>(std::move(*opened));
     return {};
 }
 
 Result<> Archive::Choose_Layout() {
     std::vector<std::size_t> layouts;
-    for (std::size_t i = 0; i < opened_.files.size(); ++i) {
-        if (Is_Layout_Name(opened_.files[i].path)) layouts.push_back(i);
+    for (std::size_t i = 0; i < opened_->files.size(); ++i) {
+        if (Is_Layout_Name(opened_->files[i].path)) layouts.push_back(i);
     }
     const auto called = [&](std::string_view path) {
         return std::find_if(layouts.begin(), layouts.end(),
-                            [&](std::size_t i) { return Small(opened_.files[i].path) == path; });
+                            [&](std::size_t i) { return Small(opened_->files[i].path) == path; });
     };
     auto chosen = called("arc/blyt/banner.brlyt");
     if (chosen == layouts.end() && layouts.size() == 1) chosen = layouts.begin();
@@ -193,18 +193,18 @@ PartSizes Archive::Real_Sizes(const NewMembers& changed) const {
 }
 
 std::string_view Archive::File_Bytes(std::size_t file) const {
-    const U8Member& member = opened_.files[file];
-    return std::string_view(opened_.content.bytes).substr(member.offset, member.size);
+    const U8Member& member = opened_->files[file];
+    return std::string_view(opened_->content.bytes).substr(member.offset, member.size);
 }
 
 std::string Archive::Path_Of(std::size_t file) const {
-    return Joined(parts_[layout_part_].path, opened_.files[file].path);
+    return Joined(parts_[layout_part_].path, opened_->files[file].path);
 }
 
 std::optional<std::string> Archive::Find_Texture(std::string_view beginning) const {
-    const std::string_view blyt = Folder_Of(opened_.files[layout_].path);
+    const std::string_view blyt = Folder_Of(opened_->files[layout_].path);
     const std::string_view arc = Folder_Of(blyt.substr(0, blyt.size() - !blyt.empty()));
-    for (const U8Member& file : opened_.files) {
+    for (const U8Member& file : opened_->files) {
         if (!Is_Texture_In(Small(arc) + "timg/", file)) continue;
         if (Name_Of(file.path).starts_with(beginning)) {
             return Joined(parts_[layout_part_].path, file.path);
@@ -230,7 +230,7 @@ std::optional<std::string> Archive::Find_Texture_Anywhere(std::string_view begin
 
 /// The part that is open already, or another one, which is then in `room`.
 Result<const OpenedPart*> Archive::Opened(const StoredPart& stored, OpenedPart& room) const {
-    if (&stored == &parts_[layout_part_]) return &opened_;
+    if (&stored == &parts_[layout_part_]) return opened_.get();
     auto opened = Open_Part(stored);
     if (!opened) return opened.Why();
     room = std::move(*opened);
@@ -344,8 +344,9 @@ Result<std::string> Archive::With(const NewFiles& files,
     if (!packed) return packed.Why();
     if (members_.empty()) return packed->empty() ? *bytes_ : packed->begin()->second;
     std::string file = bytes_->substr(0, imet_.value_or(0));
+    file.reserve(bytes_->size());
     if (imet_) file += Block_With(*packed, names);
-    return file + Replace_U8_Members(Outer(), members_, *packed);
+    return file += Replace_U8_Members(Outer(), members_, *packed);
 }
 
 }  // namespace bannersmith

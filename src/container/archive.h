@@ -124,7 +124,7 @@ class Archive {
     std::vector<U8Member> members_;    ///< of the channel's archive; none where the file is a part
     std::vector<StoredPart> parts_;
     std::size_t layout_part_ = 0;
-    OpenedPart opened_;
+    std::shared_ptr<const OpenedPart> opened_;
     std::size_t layout_ = 0;  ///< the layout among the files of its part
     std::vector<std::string> warnings_;
     std::string refusal_;

@@ -159,13 +159,23 @@ struct SameEnds {
 
     SameEnds(std::string_view a, std::string_view b) {
         const std::size_t most = std::min(a.size(), b.size());
-        while (front < most && a[front] == b[front]) ++front;
+        const auto same = [&](std::size_t size) {
+            return a.substr(front, size) == b.substr(front, size);
+        };
+        while (front + Stride <= most && same(Stride)) front += Stride;
+        while (front < most && same(1)) ++front;
         std::size_t length = 0;
-        while (length < most - front && a[a.size() - 1 - length] == b[b.size() - 1 - length]) {
-            ++length;
-        }
+        const auto same_at_end = [&](std::size_t size) {
+            return length + size <= most - front && a.substr(a.size() - length - size, size) ==
+                                                        b.substr(b.size() - length - size, size);
+        };
+        while (same_at_end(Stride)) length += Stride;
+        while (same_at_end(1)) ++length;
         back = a.size() - length;
     }
+
+ private:
+    static constexpr std::size_t Stride = 256;  // bytes that are compared at once
 };
 
 /// Collects tokens into groups.

@@ -75,7 +75,8 @@ std::string Pack(const Part& part, std::string_view content, const PartContent& 
         payload += rest;
     }
     if (part.header.empty()) return payload;
-    return Header(part.header, payload) + payload + std::string(part.tail);
+    payload.insert(0, Header(part.header, payload)) += part.tail;
+    return payload;
 }
 
 }  // namespace bannersmith

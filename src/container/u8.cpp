@@ -194,7 +194,9 @@ std::string Replace_U8_Members(std::string_view bytes, const std::vector<U8Membe
     const std::vector<std::size_t> order = In_Order_Of_Bytes(members);
     const std::size_t alignment = Alignment(members);
     std::size_t old_end = order.empty() ? bytes.size() : members[order[0]].offset;
-    std::string result(bytes.substr(0, old_end));
+    std::string result;
+    result.reserve(bytes.size());
+    result += bytes.substr(0, old_end);
     // What lies between the end of a member and the next multiple fills up; more than that is kept.
     const auto go_on_to = [&](std::size_t old_next) {
         const std::size_t filled = Align(old_end, alignment);
