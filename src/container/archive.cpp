@@ -94,13 +94,14 @@ Result<> Archive::Read_Parts() {
     if (members_.empty()) {
         const auto part = Read_Part(Outer());
         if (!part) return part.Why();
-        parts_.push_back({"", 0, *part, ""});
+        parts_.push_back({"", 0, *part, "", part->Checksum_Holds()});
     }
     for (std::size_t i = 0; i < members_.size(); ++i) {
         const U8Member& member = members_[i];
         auto part = Read_Part(Outer().substr(member.offset, member.size));
         const std::string fault = part ? "" : part.Why().reason;
-        parts_.push_back({member.path, i, std::move(part).Value_Or({}), fault});
+        const bool is_sound = !part || part->Checksum_Holds();
+        parts_.push_back({member.path, i, std::move(part).Value_Or({}), fault, is_sound});
     }
     return {};
 }
@@ -157,7 +158,7 @@ void Archive::Judge() {
     for (std::size_t i = 0; i < parts_.size(); ++i) {
         const StoredPart& stored = parts_[i];
         if (!stored.fault.empty()) warnings_.push_back(Warn(stored.path, stored.fault));
-        if (stored.part.Checksum_Holds()) continue;
+        if (stored.is_sound) continue;
         warnings_.push_back(Warn(stored.path, BrokenPart));
         if (i == layout_part_ && refusal_.empty()) refusal_ = warnings_.back();
     }
@@ -290,7 +291,7 @@ Result<std::optional<std::string>> Archive::Pack_Part(const StoredPart& stored,
     const auto found = Opened(stored, room);
     if (!found) return found.Why();
     const OpenedPart* opened = *found;
-    if (!stored.part.Checksum_Holds()) return In_Part(stored.path, BrokenPart);
+    if (!stored.is_sound) return In_Part(stored.path, BrokenPart);
     const std::string_view content = opened->content.bytes;
     NewMembers changed;
     for (std::size_t i = 0; i < opened->files.size(); ++i) {
@@ -303,7 +304,7 @@ Result<std::optional<std::string>> Archive::Pack_Part(const StoredPart& stored,
         }
     }
     if (changed.empty()) return std::optional<std::string>();
-    const std::string whole = Replace_U8_Members(content, opened->files, changed);
+    const std::string whole = Replace_U8_Members({}, content, opened->files, changed);
     return std::optional(Pack(stored.part, whole, opened->content));
 }
 
@@ -343,10 +344,11 @@ Result<std::string> Archive::With(const NewFiles& files,
     const auto packed = Pack_Parts(files);
     if (!packed) return packed.Why();
     if (members_.empty()) return packed->empty() ? *bytes_ : packed->begin()->second;
-    std::string file = bytes_->substr(0, imet_.value_or(0));
+    std::string file;
     file.reserve(bytes_->size());
+    file.append(*bytes_, 0, imet_.value_or(0));
     if (imet_) file += Block_With(*packed, names);
-    return file += Replace_U8_Members(Outer(), members_, *packed);
+    return Replace_U8_Members(std::move(file), Outer(), members_, *packed);
 }
 
 }  // namespace bannersmith

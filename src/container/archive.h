@@ -25,7 +25,8 @@ struct StoredPart {
     std::string path;        ///< in the channel's archive; empty where the file is the part
     std::size_t member = 0;  ///< its index among the members of the channel's archive
     Part part;
-    std::string fault;  ///< why nothing of it can be read; empty for most
+    std::string fault;     ///< why nothing of it can be read; empty for most
+    bool is_sound = true;  ///< whether its checksum holds
 };
 
 /// The archive that a part holds.

@@ -59,50 +59,8 @@ Copy Read_Copy(Lz77Form::Type type, std::string_view bytes) {
     return {length + LongestThree + 1, distance, stored};
 }
 
-void Append_Copy(std::string& bytes, const Copy& copy) {
-    const std::size_t from = bytes.size() - copy.distance;
-    if (copy.distance >= copy.length) {
-        bytes.append(bytes, from, copy.length);
-        return;
-    }
-    for (std::size_t i = 0; i < copy.length; ++i) bytes += bytes[from + i];
-}
-
 Failure Broken(const char* reason) {
     return {u"", std::string("LZ77 stream ") + reason};
-}
-
-/// Appends what the token at `at` stands for, at most `room` bytes, and moves `at` behind it.
-Result<> Read_Token(Lz77Form::Type type, std::string_view stream, bool is_copy, std::size_t room,
-                    std::size_t& at, std::string& bytes) {
-    if (at == stream.size()) return Broken("ends too early");
-    if (!is_copy) {
-        bytes += stream[at++];
-        return {};
-    }
-    const std::size_t stored = Stored_Size(type, Byte(stream, at));
-    if (stream.size() - at < stored) return Broken("ends too early");
-    const Copy copy = Read_Copy(type, stream.substr(at, stored));
-    if (copy.distance > bytes.size()) return Broken("copies from before its start");
-    if (copy.length > room) return Broken("holds more than it says");
-    Append_Copy(bytes, copy);
-    at += stored;
-    return {};
-}
-
-/// Where the groups that begin at `at` end; they are appended to `bytes` until there are `size`.
-Result<std::size_t> Read_Groups(Lz77Form::Type type, std::string_view stream, std::size_t at,
-                                std::size_t size, std::string& bytes) {
-    while (bytes.size() < size) {
-        if (at == stream.size()) return Broken("ends too early");
-        const unsigned flags = Byte(stream, at++);
-        for (unsigned bit = 0x80; bit != 0 && bytes.size() < size; bit >>= 1) {
-            const bool is_copy = (flags & bit) != 0;
-            auto read = Read_Token(type, stream, is_copy, size - bytes.size(), at, bytes);
-            if (!read) return read.Why();
-        }
-    }
-    return at;
 }
 
 /// A copy, or with the distance 0 a literal byte.
@@ -111,46 +69,78 @@ struct Token {
     char literal = 0;
 };
 
-/// Goes through the tokens of a stream that was read before, so is sound.
+/// Goes through the tokens of a stream, as far as the size that it says.
 class TokenReader {
  public:
-    TokenReader(Lz77Form::Type type, const Lz77Source& source)
-        : type_(type), stream_(source.stream), size_(source.bytes.size()) {
-        if (const auto header = Read_Header(stream_)) place_ = header->end;
-        Read();
+    /// `place`: where the groups begin, which stand for `size` bytes.
+    TokenReader(Lz77Form::Type type, std::string_view stream, std::size_t place, std::size_t size)
+        : type_(type), stream_(stream), size_(size), place_(place) {}
+
+    /// Goes on to the next token. False where there is none: at the end, and where the stream is
+    /// broken.
+    bool Next() {
+        token_.length = 0;
+        if (end_ >= size_ || fault_ != nullptr) return false;
+        fault_ = Read();
+        if (fault_ != nullptr) token_.length = 0;
+        end_ += token_.length;
+        return fault_ == nullptr;
     }
 
-    bool At_End() const { return at_ >= size_; }
-    /// Where what the token stands for begins and ends.
-    std::size_t At() const { return at_; }
-    std::size_t End() const { return at_ + token_.length; }
+    /// The token, and where in the bytes what it stands for begins and ends; behind the last one an
+    /// empty token at the end.
     const Token& Now() const { return token_; }
+    std::size_t At() const { return end_ - token_.length; }
+    std::size_t End() const { return end_; }
 
-    void Go_On() {
-        at_ = End();
-        Read();
-    }
+    /// Where the stream goes on behind the token.
+    std::size_t Place() const { return place_; }
+    /// What the stream is broken by; null for a sound one.
+    const char* Fault() const { return fault_; }
 
  private:
-    void Read() {
-        if (At_End()) return;
+    const char* Read() {
         if (bit_ == 0) {
+            if (place_ == stream_.size()) return "ends too early";
             flags_ = Byte(stream_, place_++);
             bit_ = 0x80;
         }
         const bool is_copy = (flags_ & bit_) != 0;
         bit_ >>= 1;
-        const Copy copy = is_copy ? Read_Copy(type_, stream_.substr(place_)) : Copy{1, 0, 1};
-        token_ = {copy.length, copy.distance, stream_[place_]};
+        const std::size_t left = stream_.size() - place_;
+        if (left == 0) return "ends too early";
+        if (!is_copy) {
+            token_ = {1, 0, stream_[place_++]};
+            return nullptr;
+        }
+        if (left < Stored_Size(type_, Byte(stream_, place_))) return "ends too early";
+        const Copy copy = Read_Copy(type_, stream_.substr(place_));
+        if (copy.distance > end_) return "copies from before its start";
+        if (copy.length > size_ - end_) return "holds more than it says";
+        token_ = {copy.length, copy.distance, 0};
         place_ += copy.stored;
+        return nullptr;
     }
 
     Lz77Form::Type type_;
     std::string_view stream_;
-    std::size_t size_, place_ = 0, at_ = 0;
+    std::size_t size_, place_, end_ = 0;
     unsigned flags_ = 0, bit_ = 0;
     Token token_;
+    const char* fault_ = nullptr;
 };
+
+/// Appends what the token stands for.
+void Append(std::string& bytes, const Token& token) {
+    const std::size_t from = bytes.size() - token.distance;
+    if (token.distance == 0) {
+        bytes += token.literal;
+    } else if (token.distance >= token.length) {
+        bytes.append(bytes, from, token.length);
+    } else {
+        for (std::size_t i = 0; i < token.length; ++i) bytes += bytes[from + i];
+    }
+}
 
 /// How far two texts are the same from their start, and from where on to their end, as a place in
 /// the first; the stretches do not overlap.
@@ -184,12 +174,24 @@ class GroupWriter {
     GroupWriter(std::string& stream, Lz77Form::Type type) : stream_(stream), type_(type) {}
 
     void Write(const Token& token) {
-        Begin_Token(token.distance != 0);
         if (token.distance == 0) {
-            stream_ += token.literal;
+            group_[size_++] = token.literal;
         } else {
+            flags_ |= bit_;
             Put_Copy(token.length, token.distance - 1);
         }
+        bit_ >>= 1;
+        if (bit_ == 0) End_Group();
+    }
+
+    /// Writes the group that is not full yet.
+    void End_Group() {
+        if (size_ == 1) return;
+        group_[0] = static_cast<char>(flags_);
+        stream_.append(group_.data(), size_);
+        flags_ = 0;
+        bit_ = 0x80;
+        size_ = 1;
     }
 
  private:
@@ -205,24 +207,15 @@ class GroupWriter {
         }
     }
 
-    void Begin_Token(bool is_copy) {
-        if (bit_ == 0) {
-            flags_at_ = stream_.size();
-            stream_ += '\0';
-            bit_ = 0x80;
-        }
-        if (is_copy) stream_[flags_at_] = static_cast<char>(stream_[flags_at_] | bit_);
-        bit_ >>= 1;
-    }
-
     void Put(std::size_t number, unsigned count) {
-        while (count-- > 0) stream_ += static_cast<char>(number >> 8 * count);
+        while (count-- > 0) group_[size_++] = static_cast<char>(number >> 8 * count);
     }
 
     std::string& stream_;
     Lz77Form::Type type_;
-    std::size_t flags_at_ = 0;
-    int bit_ = 0;
+    std::array<char, 1 + 8 * 4> group_{};  ///< the flags, and eight tokens of four bytes at most
+    std::size_t size_ = 1;
+    unsigned flags_ = 0, bit_ = 0x80;
 };
 
 struct Match {
@@ -335,9 +328,10 @@ Result<Lz77Contents> Lz77_Decompress(std::string_view bytes) {
     Lz77Contents contents;
     constexpr std::size_t MostPerByte = 9;  // of short copies
     contents.bytes.reserve(std::min(header->size, MostPerByte * bytes.size()));
-    const auto end = Read_Groups(form->type, bytes, header->end, header->size, contents.bytes);
-    if (!end) return end.Why();
-    contents.stream_size = *end;
+    TokenReader tokens(form->type, bytes, header->end, header->size);
+    while (tokens.Next()) Append(contents.bytes, tokens.Now());
+    if (tokens.Fault() != nullptr) return Broken(tokens.Fault());
+    contents.stream_size = tokens.Place();
     return contents;
 }
 
@@ -347,17 +341,17 @@ std::string Lz77_Compress(std::string_view bytes, Lz77Form form, const Lz77Sourc
     Append_Header(stream, bytes.size(), form);
     GroupWriter writer(stream, form.type);
     const SameEnds same(bytes, old.bytes);
-    TokenReader tokens(form.type, old);
-    for (; !tokens.At_End() && tokens.End() <= same.front; tokens.Go_On()) {
-        writer.Write(tokens.Now());
-    }
+    const Header old_header = Read_Header(old.stream).value_or(Header());
+    TokenReader tokens(form.type, old.stream, old_header.end, old_header.size);
+    bool left = tokens.Next();
+    for (; left && tokens.End() <= same.front; left = tokens.Next()) writer.Write(tokens.Now());
     std::size_t at = tokens.At();
     MatchFinder finder(bytes, form.type == Lz77Form::short_copies ? LongestShort : LongestFour, at);
     const auto rejoins = [&](std::size_t place) {
         if (place < same.back + Window) return false;  // copies may come from what has changed
         const std::size_t old_place = place + old.bytes.size() - bytes.size();
-        while (!tokens.At_End() && tokens.At() < old_place) tokens.Go_On();
-        return !tokens.At_End() && tokens.At() == old_place;
+        while (left && tokens.At() < old_place) left = tokens.Next();
+        return left && tokens.At() == old_place;
     };
     for (Match match = finder.Find(at); at < bytes.size();) {
         if (rejoins(at)) break;
@@ -371,7 +365,10 @@ std::string Lz77_Compress(std::string_view bytes, Lz77Form form, const Lz77Sourc
             match = finder.Find(at);
         }
     }
-    for (; at < bytes.size(); at += tokens.Now().length, tokens.Go_On()) writer.Write(tokens.Now());
+    for (; at < bytes.size(); at += tokens.Now().length, tokens.Next()) {
+        writer.Write(tokens.Now());
+    }
+    writer.End_Group();
     return stream;
 }
 

@@ -26,15 +26,13 @@ std::array<std::uint32_t, BlockSize> Make_Sines() {
 const std::array<std::uint32_t, BlockSize> Sines = Make_Sines();
 constexpr int Turns[4][4] = {{7, 12, 17, 22}, {5, 9, 14, 20}, {4, 11, 16, 23}, {6, 10, 15, 21}};
 
-std::uint32_t Read_Little(std::string_view bytes, std::size_t at) {
-    std::uint32_t number = 0;
-    for (std::size_t i = 4; i-- > 0;) {
-        number = number << 8 | static_cast<unsigned char>(bytes[at + i]);
-    }
-    return number;
+std::uint32_t Read_Little(const char* bytes) {
+    const auto byte = [&](int i) { return std::uint32_t{static_cast<unsigned char>(bytes[i])}; };
+    return byte(0) | byte(1) << 8 | byte(2) << 16 | byte(3) << 24;
 }
 
-/// Step `I` of the 64, the number known to the compiler, which makes all of them one straight line.
+/// Step `I` of the 64, the number known to the compiler, which makes all of them one straight line
+/// without memory: what the steps call a, b, c and d moves on by one place each time.
 template <std::size_t I>
 void Step(State& state, const std::array<std::uint32_t, 16>& words) {
     constexpr std::size_t Round = I / 16;
@@ -43,13 +41,15 @@ void Step(State& state, const std::array<std::uint32_t, 16>& words) {
                                   : Round == 2 ? 3 * I + 5
                                                : 7 * I) %
                                  16;
-    const auto [a, b, c, d] = state;
-    const std::uint32_t mixed = Round == 0   ? (b & c) | (~b & d)
-                                : Round == 1 ? (d & b) | (~d & c)
+    std::uint32_t& a = state[(BlockSize - I) % 4];
+    const std::uint32_t b = state[(BlockSize - I + 1) % 4];
+    const std::uint32_t c = state[(BlockSize - I + 2) % 4];
+    const std::uint32_t d = state[(BlockSize - I + 3) % 4];
+    const std::uint32_t mixed = Round == 0   ? d ^ (b & (c ^ d))
+                                : Round == 1 ? c ^ (d & (b ^ c))
                                 : Round == 2 ? b ^ c ^ d
                                              : c ^ (b | ~d);
-    const std::uint32_t sum = a + mixed + Sines[I] + words[Word];
-    state = {d, b + std::rotl(sum, Turns[Round][I % 4]), b, c};
+    a = b + std::rotl(a + mixed + Sines[I] + words[Word], Turns[Round][I % 4]);
 }
 
 template <std::size_t... I>
@@ -60,7 +60,7 @@ void All_Steps(State& state, const std::array<std::uint32_t, 16>& words,
 
 void Add_Block(State& state, std::string_view block) {
     std::array<std::uint32_t, 16> words{};
-    for (std::size_t i = 0; i < words.size(); ++i) words[i] = Read_Little(block, 4 * i);
+    for (std::size_t i = 0; i < words.size(); ++i) words[i] = Read_Little(&block[4 * i]);
     State mixed = state;
     All_Steps(mixed, words, std::make_index_sequence<BlockSize>());
     for (std::size_t i = 0; i < state.size(); ++i) state[i] += mixed[i];

@@ -189,18 +189,19 @@ Result<std::vector<U8Member>> Read_U8(std::string_view bytes) {
     return members;
 }
 
-std::string Replace_U8_Members(std::string_view bytes, const std::vector<U8Member>& members,
-                               const NewMembers& changed) {
+std::string Replace_U8_Members(std::string before, std::string_view bytes,
+                               const std::vector<U8Member>& members, const NewMembers& changed) {
     const std::vector<std::size_t> order = In_Order_Of_Bytes(members);
     const std::size_t alignment = Alignment(members);
     std::size_t old_end = order.empty() ? bytes.size() : members[order[0]].offset;
-    std::string result;
-    result.reserve(bytes.size());
+    const std::size_t start = before.size();
+    std::string result = std::move(before);
+    result.reserve(start + bytes.size());
     result += bytes.substr(0, old_end);
     // What lies between the end of a member and the next multiple fills up; more than that is kept.
     const auto go_on_to = [&](std::size_t old_next) {
-        const std::size_t filled = Align(old_end, alignment);
-        const std::size_t missing = Align(result.size(), alignment) - result.size();
+        const std::size_t filled = Align(old_end, alignment), end = result.size() - start;
+        const std::size_t missing = Align(end, alignment) - end;
         if (filled > old_next || missing == filled - old_end) {
             result += bytes.substr(old_end, old_next - old_end);
         } else {
@@ -211,11 +212,12 @@ std::string Replace_U8_Members(std::string_view bytes, const std::vector<U8Membe
         const U8Member& member = members[i];
         go_on_to(member.offset);
         const auto fresh = changed.find(i);
-        Write_U32(result, member.node + NodeOffsetAt, static_cast<std::uint32_t>(result.size()));
+        const std::size_t node = start + member.node, offset = result.size() - start;
+        Write_U32(result, node + NodeOffsetAt, static_cast<std::uint32_t>(offset));
         if (fresh == changed.end()) {
             result += bytes.substr(member.offset, member.size);
         } else {
-            Write_U32(result, member.node + NodeLengthAt,
+            Write_U32(result, node + NodeLengthAt,
                       static_cast<std::uint32_t>(fresh->second.size()));
             result += fresh->second;
         }

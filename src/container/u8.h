@@ -30,10 +30,11 @@ bool Begins_As_U8(std::string_view bytes);
 /// there or lead out of their folder, and more of anything than an archive of a console has.
 Result<std::vector<U8Member>> Read_U8(std::string_view bytes);
 
-/// The archive `bytes`, of which `members` are the files, with other bytes for some of them. The
-/// files that follow a changed one move; each begins where the old one did from the next multiple
-/// of the archive's alignment, 32 or less, behind the one before. Nothing else changes.
-std::string Replace_U8_Members(std::string_view bytes, const std::vector<U8Member>& members,
-                               const NewMembers& changed);
+/// Behind `before` the archive `bytes`, of which `members` are the files, with other bytes for some
+/// of them. The files that follow a changed one move; each begins where the old one did from the
+/// next multiple of the archive's alignment, 32 or less, behind the one before. Nothing else
+/// changes.
+std::string Replace_U8_Members(std::string before, std::string_view bytes,
+                               const std::vector<U8Member>& members, const NewMembers& changed);
 
 }  // namespace bannersmith
