@@ -21,8 +21,6 @@ namespace bannersmith {
 
 namespace {
 
-constexpr std::u16string_view LogoTexture = u"my_Back";
-
 /// Every text box that the save passes through the writer: language by language the four fields,
 /// then the system.
 std::vector<std::string> Boxes_To_Rewrite() {
@@ -107,7 +105,8 @@ struct Banner::Applying {
     }
 
     Result<> operator()(const WriteBox& edit) const {
-        state.layout = Write_Box(std::move(state.layout), edit.name, edit.text);
+        state.layout = edit.exact ? Write_Exact_Box(std::move(state.layout), edit.name, edit.text)
+                                  : Write_Box(std::move(state.layout), edit.name, edit.text);
         return {};
     }
 
@@ -116,6 +115,11 @@ struct Banner::Applying {
         if (!colored) return colored.Why();
         state.layout = std::move(*colored);
         state.has_scheme = true;
+        return {};
+    }
+
+    Result<> operator()(const SetColors& edit) const {
+        state.layout = Set_Colors(std::move(state.layout), edit.pairs);
         return {};
     }
 
@@ -168,13 +172,23 @@ struct Banner::Applying {
         if (!names || language == NameLanguages.end() || edit.line >= NameLines) {
             return Failure{banner.source_.Name(), "Has no such channel name"};
         }
-        if (edit.text.size() > LongestNameLine) {
-            return Failure{u"Channel name " + edit.code, "Has " + std::to_string(edit.text.size()) +
-                                                             " characters, where 20 have room"};
+        if (const std::string why = Too_Long_For_A_Name(edit.text); !why.empty()) {
+            return Failure{u"Channel name " + edit.code, why};
         }
         const auto index = static_cast<std::size_t>(language - NameLanguages.begin());
         (*names)[index][edit.line] = edit.text;
         state.names = std::move(names);
+        return {};
+    }
+
+    Result<> operator()(const SetChannelNames& edit) const {
+        const std::string why = Too_Long_For_A_Name(edit.text);
+        if (!why.empty()) return Failure{u"Channel name", why};
+        state.names = state.names ? state.names : banner.Names();
+        if (!state.names) return {};
+        for (auto& lines : *state.names) {
+            if (!lines[0].empty()) lines[0] = edit.text;
+        }
         return {};
     }
 

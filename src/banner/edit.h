@@ -2,9 +2,11 @@
 #pragma once
 
 #include <cstddef>
+#include <map>
 #include <string>
 #include <variant>
 
+#include "colors/scheme.h"
 #include "gameinfo/boxes.h"
 #include "texture/fitting.h"
 
@@ -27,11 +29,18 @@ struct SetFieldEverywhere {
 struct WriteBox {
     std::u16string name;
     std::u16string text;
+    bool exact = false;  ///< not a box whose name only begins with that one
 };
 
 /// The colours of a scheme file.
 struct ApplyScheme {
     std::u16string file;
+};
+
+/// The colours of some elements. Other than a scheme it also colours the texts that serve all
+/// languages or Korean alone.
+struct SetColors {
+    std::map<std::size_t, ColorPair> pairs;  ///< by the place in `Elements`
 };
 
 /// A texture file, or a picture that becomes a texture, in the place of the banner's logo texture,
@@ -66,8 +75,14 @@ struct SetChannelName {
     std::u16string text;
 };
 
+/// The first line of the name in each language that has one.
+struct SetChannelNames {
+    std::u16string text;
+};
+
 /// Any of them.
-using Edit = std::variant<SetField, SetFieldEverywhere, WriteBox, ApplyScheme, ReplaceLogo,
-                          ReplacePicture, ForceRegion, SetPadding, SetChannelName>;
+using Edit =
+    std::variant<SetField, SetFieldEverywhere, WriteBox, ApplyScheme, SetColors, ReplaceLogo,
+                 ReplacePicture, ForceRegion, SetPadding, SetChannelName, SetChannelNames>;
 
 }  // namespace bannersmith

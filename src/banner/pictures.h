@@ -9,6 +9,9 @@
 
 namespace bannersmith {
 
+/// What the name of the banner's logo texture begins with.
+inline constexpr std::u16string_view LogoTexture = u"my_Back";
+
 /// The picture that a file shows: PNG, JPEG, or a texture. The failure has the file's name.
 Result<Picture> Read_Picture_File(const std::u16string& file);
 

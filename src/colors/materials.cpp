@@ -7,6 +7,8 @@
 #include "base/text.h"
 #include "gameinfo/languages.h"
 #include "layout/format.h"
+#include "layout/kind.h"
+#include "layout/sections.h"
 
 namespace bannersmith {
 
@@ -45,6 +47,43 @@ std::vector<std::string> Names_Of(const Element& element) {
     return names;
 }
 
+/// The colours into the bytes at `at`, which are inside the data.
+std::string& Put_Colors(std::string& data, std::size_t at, const ColorPair& colors) {
+    std::array<char, ColorBytes> bytes{};
+    for (std::size_t i = 0; i < colors.size(); ++i) {
+        bytes[SecondColor * i] = static_cast<char>(Red_Of(colors[i]));
+        bytes[SecondColor * i + 2] = static_cast<char>(Green_Of(colors[i]));
+        bytes[SecondColor * i + 4] = static_cast<char>(Blue_Of(colors[i]));
+    }
+    return data.replace(at, bytes.size(), bytes.data(), bytes.size());
+}
+
+/// A material of a text that serves all languages, or Korean alone.
+struct OtherMaterial {
+    std::size_t element;
+    std::string name;
+    std::size_t colors_at;  ///< of the low bytes, all of which are there
+};
+
+/// Those that the section chain has. A search for their names could find a text box.
+std::vector<OtherMaterial> Other_Materials(std::string_view data) {
+    std::vector<OtherMaterial> found;
+    if (!Is_Layout(data)) return found;
+    for (const MaterialInfo& material : Read_Layout(data).materials) {
+        const std::size_t at = material.offset + FirstLowByte;
+        if (at + ColorBytes > data.size()) continue;
+        for (std::size_t i = 0; i < Elements.size(); ++i) {
+            if (!Elements[i].text) continue;
+            const Field field = *Elements[i].text;
+            if (material.name == To_Utf8(Neutral_Box(Prefix_Of(field))) ||
+                material.name == To_Utf8(Box_Of(field, Korean))) {
+                found.push_back({i, material.name, at});
+            }
+        }
+    }
+    return found;
+}
+
 }  // namespace
 
 std::vector<std::string> Written_Materials() {
@@ -77,14 +116,7 @@ std::vector<std::optional<std::size_t>> Find_Materials(std::string_view data,
 
 std::string& Set_Mat_Colors(std::string& data, std::string_view name, const ColorPair& colors) {
     const auto at = Find_Colors(data, name);
-    if (!at) return data;
-    std::array<char, ColorBytes> bytes{};
-    for (std::size_t i = 0; i < colors.size(); ++i) {
-        bytes[SecondColor * i] = static_cast<char>(Red_Of(colors[i]));
-        bytes[SecondColor * i + 2] = static_cast<char>(Green_Of(colors[i]));
-        bytes[SecondColor * i + 4] = static_cast<char>(Blue_Of(colors[i]));
-    }
-    return data.replace(*at, bytes.size(), bytes.data(), bytes.size());
+    return at ? Put_Colors(data, *at, colors) : data;
 }
 
 std::optional<ColorPair> Get_Mat_Colors(std::string_view data, std::string_view name) {
@@ -102,6 +134,28 @@ Result<std::string> Apply_Color_Scheme(std::string data, const std::u16string& s
         }
     }
     return data;
+}
+
+std::string Set_Colors(std::string data, const std::map<std::size_t, ColorPair>& colors) {
+    for (const auto& [element, pair] : colors) {
+        for (const std::string& name : Names_Of(Elements[element])) {
+            Set_Mat_Colors(data, name, pair);
+        }
+    }
+    for (const OtherMaterial& other : Other_Materials(data)) {
+        const auto pair = colors.find(other.element);
+        if (pair != colors.end()) Put_Colors(data, other.colors_at, pair->second);
+    }
+    return data;
+}
+
+std::vector<std::string> Materials_Of(std::string_view data, std::size_t element) {
+    std::vector<std::string> names = Names_Of(Elements[element]);
+    std::erase_if(names, [&](const std::string& name) { return !Find_Colors(data, name); });
+    for (const OtherMaterial& other : Other_Materials(data)) {
+        if (other.element == element) names.push_back(other.name);
+    }
+    return names;
 }
 
 }  // namespace bannersmith

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <array>
+#include <map>
 #include <optional>
 #include <span>
 #include <string>
@@ -38,5 +39,13 @@ std::optional<ColorPair> Get_Mat_Colors(std::string_view data, std::string_view 
 /// colours go to the material of each language. Materials that the layout lacks are passed over. A
 /// scheme that cannot be read whole changes nothing.
 Result<std::string> Apply_Color_Scheme(std::string data, const std::u16string& scheme_file);
+
+/// `data` with colours for some elements, by their places in `Elements`, in the same way, and also
+/// in the materials of texts that serve all languages or Korean alone, as far as the layout's
+/// section chain has them; `Apply_Color_Scheme` leaves these.
+std::string Set_Colors(std::string data, const std::map<std::size_t, ColorPair>& colors);
+
+/// The names of the materials to which `Set_Colors` would give the colours of an element.
+std::vector<std::string> Materials_Of(std::string_view data, std::size_t element);
 
 }  // namespace bannersmith

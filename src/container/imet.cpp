@@ -40,6 +40,11 @@ std::string Digest(std::string_view block) {
 
 }  // namespace
 
+std::string Too_Long_For_A_Name(std::u16string_view line) {
+    if (line.size() <= LongestNameLine) return {};
+    return "Has " + std::to_string(line.size()) + " characters, where 20 have room";
+}
+
 std::optional<std::size_t> Find_Imet(std::string_view bytes) {
     constexpr std::size_t TagSize = 0x40;
     for (const std::size_t block : {std::size_t{0}, TagSize}) {

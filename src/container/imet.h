@@ -19,6 +19,10 @@ inline constexpr std::array<std::u16string_view, 10> NameLanguages = {
 /// A name has two lines of so many code units.
 inline constexpr std::size_t NameLines = 2, LongestNameLine = 20;
 
+/// Why a line of a name is too long, "Has 21 characters, where 20 have room"; empty where it is
+/// not.
+std::string Too_Long_For_A_Name(std::u16string_view line);
+
 /// Lines by language.
 using ChannelNames = std::array<std::array<std::u16string, NameLines>, NameLanguages.size()>;
 

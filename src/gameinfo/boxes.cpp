@@ -11,9 +11,12 @@ namespace bannersmith {
 
 namespace {
 
-bool Is_Neutral(std::u16string_view name) {
-    return std::any_of(FieldPrefixes.begin(), FieldPrefixes.end(),
-                       [&](std::u16string_view prefix) { return Neutral_Box(prefix) == name; });
+/// How a name tells its box: neutral ones never stand for one of the language `Korean`.
+Pieces::Test Test_For(std::u16string_view name) {
+    const bool neutral =
+        std::any_of(FieldPrefixes.begin(), FieldPrefixes.end(),
+                    [&](std::u16string_view prefix) { return Neutral_Box(prefix) == name; });
+    return neutral ? Pieces::Test::prefix_not_korean : Pieces::Test::prefix;
 }
 
 }  // namespace
@@ -46,13 +49,31 @@ std::string Write_Boxes(std::string layout, const std::vector<NamedText>& texts)
     std::vector<BoxText> boxes;
     for (const NamedText& named : texts) {
         auto bytes = To_Bytes(named.name);
-        if (bytes) boxes.push_back({std::move(*bytes), named.text, Is_Neutral(named.name)});
+        if (bytes) boxes.push_back({std::move(*bytes), named.text, Test_For(named.name)});
     }
     return Set_Texts(std::move(layout), boxes);
 }
 
 std::string Write_Box(std::string layout, std::u16string_view name, std::u16string_view text) {
     return Write_Boxes(std::move(layout), {{std::u16string(name), std::u16string(text)}});
+}
+
+std::string Write_Exact_Box(std::string layout, std::u16string_view name,
+                            std::u16string_view text) {
+    const auto bytes = To_Bytes(name);
+    if (!bytes) return layout;
+    const BoxText box{*bytes, std::u16string(text), Pieces::Test::exact};
+    return Set_Texts(std::move(layout), {&box, 1});
+}
+
+bool Has_Box(std::string_view layout, std::u16string_view name) {
+    const auto bytes = To_Bytes(name);
+    return bytes && Has_Text_Box(layout, *bytes, Test_For(name));
+}
+
+bool Has_Exact_Box(std::string_view layout, std::u16string_view name) {
+    const auto bytes = To_Bytes(name);
+    return bytes && Has_Text_Box(layout, *bytes, Pieces::Test::exact);
 }
 
 }  // namespace bannersmith

@@ -63,4 +63,12 @@ std::string Write_Boxes(std::string layout, const std::vector<NamedText>& texts)
 /// `Write_Boxes` for one box.
 std::string Write_Box(std::string layout, std::u16string_view name, std::u16string_view text);
 
+/// The same for the box of exactly that name, where `Write_Box` also takes one whose name only
+/// begins with it.
+std::string Write_Exact_Box(std::string layout, std::u16string_view name, std::u16string_view text);
+
+/// Whether `Write_Box`, and whether `Write_Exact_Box`, finds a box of the layout.
+bool Has_Box(std::string_view layout, std::u16string_view name);
+bool Has_Exact_Box(std::string_view layout, std::u16string_view name);
+
 }  // namespace bannersmith

@@ -14,8 +14,8 @@ namespace {
 
 constexpr std::string_view NoneEnding = "_NONE";
 
-std::string Writing_Name(std::string_view name) {
-    if (!name.ends_with(NoneEnding)) return std::string(name);
+std::string Writing_Name(std::string_view name, Pieces::Test test) {
+    if (test == Pieces::Test::exact || !name.ends_with(NoneEnding)) return std::string(name);
     name.remove_suffix(NoneEnding.size());
     return std::string(name) + '\0';
 }
@@ -51,7 +51,7 @@ std::optional<std::string> Rebuild(std::string_view record, std::u16string_view 
 void Write(std::string& data, Pieces& pieces, std::string_view name, std::u16string_view text,
            Pieces::Test test = Pieces::Test::prefix) {
     if (text.empty()) return;
-    const auto offset = pieces.Find_Record(data, Writing_Name(name), test);
+    const auto offset = pieces.Find_Record(data, Writing_Name(name, test), test);
     if (!offset) return;
     const std::string old(record::At(data, *offset));
     const auto fresh = Rebuild(old, text);
@@ -73,11 +73,13 @@ std::string Set_Text(std::string data, std::string_view name, std::u16string_vie
 
 std::string Set_Texts(std::string data, std::span<const BoxText> texts) {
     Pieces pieces(data);
-    for (const BoxText& box : texts) {
-        Write(data, pieces, box.name, box.text,
-              box.not_korean ? Pieces::Test::prefix_not_korean : Pieces::Test::prefix);
-    }
+    for (const BoxText& box : texts) Write(data, pieces, box.name, box.text, box.test);
     return data;
+}
+
+bool Has_Text_Box(std::string_view data, std::string_view name, Pieces::Test test) {
+    const auto offset = Pieces(data).Find_Record(data, Writing_Name(name, test), test);
+    return offset && record::Tail_Length(record::At(data, *offset));
 }
 
 std::string Rewrite_Texts(std::string data, std::span<const std::string> names) {

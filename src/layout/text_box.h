@@ -11,6 +11,8 @@
 #include <string_view>
 #include <vector>
 
+#include "layout/pieces.h"
+
 namespace bannersmith {
 
 /// The display text of the box called `name`, or an empty text where there is no such box or its
@@ -27,16 +29,20 @@ std::u16string Get_Text(std::string_view data, std::string_view name);
 /// The file length in the header is not touched.
 std::string Set_Text(std::string data, std::string_view name, std::u16string_view text);
 
-/// One text to be written: the name and the text that `Set_Text` takes.
+/// One text to be written: the name and the text that `Set_Text` takes, and how the box is told by
+/// the name. For the exact test a name ending in "_NONE" is one like all others.
 struct BoxText {
     std::string name;
     std::u16string text;
-    bool not_korean = false;  ///< whether boxes whose names end in "_KOR" are no boxes of that name
+    Pieces::Test test = Pieces::Test::prefix;
 };
 
 /// The same as `Set_Text` for each entry in turn, each on the result of the one before, but looking
 /// for the data's pieces only once.
 std::string Set_Texts(std::string data, std::span<const BoxText> texts);
+
+/// Whether `Set_Texts` finds a record for a text of that name and test that can hold one.
+bool Has_Text_Box(std::string_view data, std::string_view name, Pieces::Test test);
 
 /// Passes each named box once through the writer: its text is read with `Get_Text` and written back
 /// with `Set_Text`, name after name, looking for the data's pieces only once.
