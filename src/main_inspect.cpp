@@ -10,6 +10,7 @@
 #include "inspect/extract.h"
 #include "inspect/report.h"
 #include "inspect/warnings.h"
+#include "layout/file_length.h"
 #include "layout/kind.h"
 #include "layout/sections.h"
 #include "system/files.h"
@@ -76,6 +77,10 @@ Result<Opened> Open(const std::u16string& file) {
     return Opened{layout, std::move(*archive)};
 }
 
+std::optional<ChannelNames> Names_Of(const Opened& opened) {
+    return opened.archive ? opened.archive->Names() : std::nullopt;
+}
+
 /// Writes the report of a file behind `before`. Returns the file's exit status.
 Result<int> Inspect(const std::u16string& file, bool json, const char* before,
                     StandardOutput& output) {
@@ -85,6 +90,7 @@ Result<int> Inspect(const std::u16string& file, bool json, const char* before,
         FileReport report{To_Utf8(file), {}, Read_Layout(opened->data), {}};
         report.warnings = Find_Warnings(opened->data, report.info);
         if (opened->archive) report.archive = Read_Archive_Info(*opened->archive);
+        if (json) report.values = Values_Of(CutPadding(opened->data), Names_Of(*opened));
         output.Write(before);
         const auto write = [&](std::string_view text) { output.Write(text); };
         json ? Write_Json(report, write) : Write_Text(report, write);

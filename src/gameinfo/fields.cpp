@@ -121,6 +121,21 @@ std::u16string Neutral_Language(std::string_view layout) {
     return Get_Year_Lang(layout);
 }
 
+std::string Refused_Value(Field field, std::u16string_view value) {
+    const bool digits = !value.empty() && value.find_first_not_of(u"0123456789") == value.npos;
+    if (value.empty()) return "Is empty";
+    if (field == Field::year && !(digits && value.size() == 4)) return "Is no year, four digits";
+    const bool is_number = digits && value.size() <= 2 && value.front() != u'0';
+    if (field == Field::players && !is_number) return "Is no number from 1 to 99";
+    return {};
+}
+
+std::u16string Worded(std::string_view layout, Field field, std::u16string_view code,
+                      std::u16string_view value, std::u16string_view neutral) {
+    const std::u16string text = Text_In(layout, field, value, code == NoLanguage ? neutral : code);
+    return Replace_All(text, u"\n", u"^");
+}
+
 std::string Set_Field(std::string layout, Field field, std::u16string_view code,
                       std::u16string_view value, std::u16string_view neutral) {
     const std::u16string_view wording = code == NoLanguage ? neutral : code;

@@ -35,6 +35,14 @@ std::u16string Korean_Number(std::u16string_view text, std::size_t most);
 /// The bare value that a field shows of a stored text of the language. The name is shown as it is.
 std::u16string Bare_Value(Field field, std::u16string_view text, std::u16string_view code);
 
+/// Why a value cannot be one of the field, "Is no year, four digits"; empty where it can. A year
+/// has four digits, players are 1 to 99, a name or a rating is not empty.
+std::string Refused_Value(Field field, std::u16string_view value);
+
+/// The display text that `Set_Field` writes for a value, line feeds as "^".
+std::u16string Worded(std::string_view layout, Field field, std::u16string_view code,
+                      std::u16string_view value, std::u16string_view neutral);
+
 /// The layout with `value` written into the field's box of one language, in its wording. A Korean
 /// year keeps the line above it, which tells of which country's release it is. With the code "NONE"
 /// the neutral box is written, in the wording of `neutral`, which is a code or empty.

@@ -185,7 +185,12 @@ void Write_Json(const FileReport& report, const Output& output) {
     Write_Array("materials", info.materials, Material_Json, output);
     Write_Array("groups", info.groups, Group_Json, output);
     Write_Array("warnings", report.warnings, Warning_Json, output);
-    output("}");
+    output(", " + Member("values", "{"));
+    const char* between = "";
+    for (const auto& [option, value] : report.values) {
+        output(std::exchange(between, ", ") + Quoted(option) + ": " + Quoted(value));
+    }
+    output("}}");
 }
 
 }  // namespace bannersmith

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "inspect/archive_info.h"
+#include "inspect/values.h"
 #include "inspect/warnings.h"
 #include "layout/sections.h"
 
@@ -18,6 +19,7 @@ struct FileReport {
     std::optional<ArchiveInfo> archive;  ///< what the layout is packed in
     LayoutInfo info;
     std::vector<Warning> warnings;
+    std::vector<OptionValue> values = {};  ///< for scripts alone
 };
 
 /// Takes the next piece of a report, which can be long.

@@ -20,13 +20,17 @@ std::string Writing_Name(std::string_view name, Pieces::Test test) {
     return std::string(name) + '\0';
 }
 
-std::u16string Read(std::string_view data, const Pieces& pieces, std::string_view name) {
-    const auto offset = pieces.Find_Record(data, name, Pieces::Test::exact);
+/// The display text of the record at `offset`; empty where there is none that can be read.
+std::u16string Read_At(std::string_view data, std::optional<std::size_t> offset) {
     if (!offset) return {};
     const std::string_view record = record::At(data, *offset);
     const auto tail = record::Tail_Length(record);
     if (!tail) return {};
     return Decode_Text(record.substr(record.size() - *tail));
+}
+
+std::u16string Read(std::string_view data, const Pieces& pieces, std::string_view name) {
+    return Read_At(data, pieces.Find_Record(data, name, Pieces::Test::exact));
 }
 
 /// The record with `text` in place of its old text; nothing when it cannot hold one.
@@ -63,6 +67,16 @@ void Write(std::string& data, Pieces& pieces, std::string_view name, std::u16str
 
 std::u16string Get_Text(std::string_view data, std::string_view name) {
     return Read(data, Pieces(data), name);
+}
+
+std::vector<std::u16string> Get_Texts(std::string_view data,
+                                      std::span<const std::string_view> names) {
+    std::vector<std::u16string> texts;
+    texts.reserve(names.size());
+    for (const auto& offset : Pieces(data).Find_Records(data, names, Pieces::Test::exact)) {
+        texts.push_back(Read_At(data, offset));
+    }
+    return texts;
 }
 
 std::string Set_Text(std::string data, std::string_view name, std::u16string_view text) {

@@ -21,6 +21,11 @@ namespace bannersmith {
 /// the same section size, the same four bytes after it and the same name is the one read.
 std::u16string Get_Text(std::string_view data, std::string_view name);
 
+/// What `Get_Text` returns for each of `names`, in time that grows with the data and the names, not
+/// with their product.
+std::vector<std::u16string> Get_Texts(std::string_view data,
+                                      std::span<const std::string_view> names);
+
 /// `data` with the text of one box replaced, its section size, buffer length and text length made
 /// right, and the record padded to a multiple of four bytes. The box is the last piece whose name
 /// begins with `name`; a name ending in "_NONE" stands for the language-neutral box of its kind.

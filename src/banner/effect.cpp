@@ -1,4 +1,4 @@
-#include "banner/lacks.h"
+#include "banner/effect.h"
 
 #include <algorithm>
 
@@ -86,10 +86,67 @@ struct Lacking {
     }
 };
 
+struct Holding {
+    const Banner& banner;
+
+    bool operator()(const SetField& edit) const { return Holds(edit.field, edit.code, edit.value); }
+
+    bool operator()(const SetFieldEverywhere& edit) const {
+        const auto codes = Codes_For(banner.Bytes());
+        return std::all_of(codes.begin(), codes.end(), [&](std::u16string_view code) {
+            return !Has_Box(banner.Bytes(), Box_Of(edit.field, code)) ||
+                   Holds(edit.field, code, edit.value);
+        });
+    }
+
+    bool operator()(const WriteBox& edit) const {
+        return Read_Box(banner.Bytes(), edit.name) == edit.text;
+    }
+
+    bool operator()(const SetColors& edit) const {
+        for (const auto& [element, colors] : edit.pairs) {
+            for (const std::string& name : Materials_Of(banner.Bytes(), element)) {
+                if (Get_Mat_Colors(banner.Bytes(), name) != colors) return false;
+            }
+        }
+        return true;
+    }
+
+    bool operator()(const SetChannelName& edit) const {
+        const auto names = banner.Names();
+        const auto language = std::find(NameLanguages.begin(), NameLanguages.end(), edit.code);
+        return names && language != NameLanguages.end() && edit.line < NameLines &&
+               (*names)[static_cast<std::size_t>(language - NameLanguages.begin())][edit.line] ==
+                   edit.text;
+    }
+
+    bool operator()(const SetChannelNames& edit) const {
+        const auto names = banner.Names();
+        return names && std::all_of(names->begin(), names->end(), [&](const auto& lines) {
+                   return lines[0].empty() || lines[0] == edit.text;
+               });
+    }
+
+    template <typename Other>
+    bool operator()(const Other& /*edit*/) const {
+        return false;
+    }
+
+ private:
+    bool Holds(Field field, std::u16string_view code, const std::u16string& value) const {
+        return Read_Box(banner.Bytes(), Box_To_Read(field, code)) ==
+               Worded(banner.Bytes(), field, code, value, banner.Neutral());
+    }
+};
+
 }  // namespace
 
 std::string Lacks(const Banner& banner, const Edit& edit) {
     return std::visit(Lacking{banner}, edit);
+}
+
+bool Holds_Already(const Banner& banner, const Edit& edit) {
+    return std::visit(Holding{banner}, edit);
 }
 
 }  // namespace bannersmith

@@ -1,3 +1,4 @@
+// What an edit would do to a banner, told without doing it.
 #pragma once
 
 #include <string>
@@ -10,5 +11,10 @@ namespace bannersmith {
 /// nothing whatever its value: "no text box T_VCTitle_*". Empty where there is something to change,
 /// even if that holds the value already. Throws where memory lacks.
 std::string Lacks(const Banner& banner, const Edit& edit);
+
+/// Whether the texts, colours or names that an edit would write stand there already, all of them.
+/// Applied all the same it might still make lengths right. Always false for other kinds of edits.
+/// Throws where memory lacks.
+bool Holds_Already(const Banner& banner, const Edit& edit);
 
 }  // namespace bannersmith
