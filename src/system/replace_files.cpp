@@ -1,6 +1,8 @@
 #include "system/replace_files.h"
 
+#include <map>
 #include <optional>
+#include <set>
 #include <utility>
 #include <vector>
 
@@ -19,26 +21,91 @@ fs::path Folder_Of(const fs::path& file) {
     return folder.empty() ? fs::path(".") : folder;
 }
 
-/// The files of one call, each with the folder that it lies in.
+/// The folders of one call, each freed of what killed runs have left there when it is first used.
+class Folders {
+ public:
+    explicit Folders(const FolderLock& lock) : lock_(lock) {}
+
+    /// The folder at `path`, held.
+    Result<const FolderLock::Folder*> Take(const fs::path& path) {
+        const FolderLock::Folder* folder = lock_.Find(path);
+        if (folder == nullptr) {
+            const auto taken = own_.Take_Folder(path);
+            if (!taken) return taken;
+            folder = *taken;
+        }
+        if (used_.insert(folder).second) Remove_Leftovers(*folder);
+        return folder;
+    }
+
+ private:
+    const FolderLock& lock_;
+    FolderLock own_;
+    std::set<const FolderLock::Folder*> used_;
+};
+
+/// The files of one set, each with the folder that it lies in.
 class Replacing {
  public:
-    Replacing(std::span<const NewContents> files, const FolderLock& lock)
-        : files_(files), lock_(lock) {}
+    explicit Replacing(std::span<const NewContents> files) : files_(files) {}
+    Replacing(Replacing&&) = default;
     ~Replacing() { Put_Back({}); }  // after an exception
     Replacing(const Replacing&) = delete;
     Replacing& operator=(const Replacing&) = delete;
 
-    Result<> Run() {
-        if (auto prepared = Prepare(); !prepared) return prepared;
+    Result<> Look() {
+        for (const NewContents& file : files_) {
+            auto looked_at = Run_Steps(file.path, [&](const fs::path& native) -> Result<> {
+                all_.push_back(std::make_unique<Replacement>());
+                return all_.back()->Look_At(native);
+            });
+            if (!looked_at) return looked_at;
+        }
+        return {};
+    }
+
+    /// From the last to the first, as the layout's folder is held before that of its textures.
+    Result<> Take_Folders(Folders& folders) {
+        folders_.resize(files_.size());
+        for (std::size_t i = files_.size(); i-- > 0;) {
+            auto taken = Step(i, [&]() -> Result<> {
+                const auto folder = folders.Take(all_[i]->Folder_Path());
+                if (!folder) return folder.Why();
+                folders_[i] = *folder;
+                return {};
+            });
+            if (!taken) return taken;
+        }
+        return {};
+    }
+
+    Result<> Write() {
+        return For_Each(
+            [&](std::size_t i) { return all_[i]->Write(*folders_[i], files_[i].bytes); });
+    }
+
+    Result<> Bring_To_Disk() {
+        return For_Each([&](std::size_t i) { return all_[i]->Bring_To_Disk(); });
+    }
+
+    Result<> Put_In_Place() {
         for (; placed_ < all_.size(); ++placed_) {
             const bool others_follow = placed_ + 1 < all_.size();
             auto placed = Step(placed_, [&] { return all_[placed_]->Put_In_Place(others_follow); });
             if (!placed) return placed;
         }
-        for (std::size_t i = 0; i < all_.size(); ++i) {
-            if (auto safe = Step(i, [&] { return all_[i]->Make_Safe(); }); !safe) return safe;
-        }
         return {};
+    }
+
+    /// `synced`: the folders that were synced since, and how that went.
+    Result<> Make_Safe(std::map<const FolderLock::Folder*, Result<>>& synced) {
+        auto folders = For_Each([&](std::size_t i) {
+            const auto known = synced.find(folders_[i]);
+            if (known != synced.end()) return known->second;
+            return synced.emplace(folders_[i], folders_[i]->Sync()).first->second;
+        });
+        if (!folders) return folders;
+        return For_Each([&](std::size_t i) { return all_[i]->Make_Safe(); });
     }
 
     /// After a failure: takes out again what was put into place, newest first, so that a file that
@@ -65,65 +132,62 @@ class Replacing {
     }
 
  private:
-    /// What can fail without a trace.
-    Result<> Prepare() {
-        for (const NewContents& file : files_) {
-            auto looked_at = Run_Steps(file.path, [&](const fs::path& native) -> Result<> {
-                all_.push_back(std::make_unique<Replacement>());
-                return all_.back()->Look_At(native);
-            });
-            if (!looked_at) return looked_at;
-        }
-        // From the last to the first, as the layout's folder is held before that of its textures.
-        std::vector<const FolderLock::Folder*> folders(files_.size());
-        for (std::size_t i = files_.size(); i-- > 0;) {
-            auto taken = Step(i, [&] { return Take_Folder(all_[i]->Folder_Path(), folders[i]); });
-            if (!taken) return taken;
-        }
-        for (std::size_t i = 0; i < files_.size(); ++i) {
-            auto written = Step(i, [&] { return all_[i]->Write(*folders[i], files_[i].bytes); });
-            if (!written) return written;
-        }
-        if (InterruptionsHeld::Pending()) return Failure{files_.back().path, "Interrupted"};
-        return {};
-    }
-
-    /// Lets `folder` be the one at `path`, held.
-    Result<> Take_Folder(const fs::path& path, const FolderLock::Folder*& folder) {
-        std::error_code error;
-        if (lock_.Held() != nullptr && fs::equivalent(lock_.Held()->path, path, error)) {
-            folder = lock_.Held();
-            Remove_Leftovers(*folder);
-            return {};
-        }
-        for (const auto& held : folders_) {
-            if (error) break;
-            if (fs::equivalent(held->path, path, error)) {
-                folder = held.get();
-                return {};
-            }
-        }
-        if (error) return Because(error.message());
-        folders_.push_back(std::make_unique<FolderLock::Folder>());
-        FolderLock::Folder& fresh = *folders_.back();
-        if (auto opened = fresh.Open(path); !opened) return opened;
-        if (auto locked = fresh.Lock(); !locked) return locked;
-        Remove_Leftovers(fresh);
-        folder = &fresh;
-        return {};
-    }
-
     template <typename Action>
     Result<> Step(std::size_t i, Action action) {
         return Run_Steps(files_[i].path, [&](const fs::path&) { return action(); });
     }
 
+    template <typename Action>
+    Result<> For_Each(Action action) {
+        for (std::size_t i = 0; i < files_.size(); ++i) {
+            if (auto done = Step(i, [&] { return action(i); }); !done) return done;
+        }
+        return {};
+    }
+
     std::span<const NewContents> files_;
-    const FolderLock& lock_;
-    std::vector<std::unique_ptr<FolderLock::Folder>> folders_;
-    std::vector<std::unique_ptr<Replacement>> all_;  // in front of the folders that they use
+    std::vector<std::unique_ptr<Replacement>> all_;
+    std::vector<const FolderLock::Folder*> folders_;
     std::size_t placed_ = 0;
 };
+
+/// All steps of the sets. `interrupted`: tells before the first file changes whether that ends it.
+std::vector<Result<>> Replace(std::span<const std::span<const NewContents>> sets,
+                              const FolderLock& lock, const SetNotice& notice,
+                              bool (*interrupted)()) {
+    Folders folders(lock);
+    std::vector<Replacing> all;
+    std::vector<Result<>> results(sets.size());
+    for (const auto& files : sets) all.emplace_back(files);
+    const auto each = [&](auto step) {
+        for (std::size_t i = 0; i < all.size(); ++i) {
+            if (results[i]) results[i] = step(all[i]);
+        }
+    };
+    each([](Replacing& set) { return set.Look(); });
+    each([&](Replacing& set) { return set.Take_Folders(folders); });
+    each([](Replacing& set) { return set.Write(); });
+    each([](Replacing& set) { return set.Bring_To_Disk(); });
+    if (interrupted()) {
+        for (std::size_t i = 0; i < all.size(); ++i) {
+            if (results[i]) results[i] = Failure{sets[i].back().path, "Interrupted"};
+        }
+    }
+    each([](Replacing& set) { return set.Put_In_Place(); });
+    std::map<const FolderLock::Folder*, Result<>> synced;
+    each([&](Replacing& set) { return set.Make_Safe(synced); });
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        const Notice told = notice ? [&](const Failure& loss) { notice(i, loss); } : Notice();
+        if (results[i]) {
+            all[i].Finish(told);
+        } else if (!all[i].Put_Back(told)) {
+            results[i] =
+                Failure{results[i].Why().subject,
+                        "Written, but not safe from a power failure. " + results[i].Why().reason};
+        }
+    }
+    return results;
+}
 
 }  // namespace
 
@@ -134,27 +198,50 @@ FolderLock::~FolderLock() = default;
 
 Result<> FolderLock::Take(const std::u16string& path) {
     return Run_Steps(path, [&](const fs::path& native) -> Result<> {
-        folder_.reset();
         const auto file = Follow_Links(native);
         if (!file) return {};
         auto folder = std::make_unique<Folder>();
-        if (!folder->Open(Folder_Of(*file))) return {};
-        folder_ = std::move(folder);
-        return folder_->Lock();
+        std::error_code error;
+        const fs::path canonical = fs::canonical(Folder_Of(*file), error);
+        if (error || folders_.contains(canonical) || !folder->Open(canonical)) return {};
+        return Hold(canonical, std::move(folder));
     });
+}
+
+Result<const FolderLock::Folder*> FolderLock::Take_Folder(const fs::path& path) {
+    std::error_code error;
+    const fs::path canonical = fs::canonical(path, error);
+    if (error) return Because(error.message());
+    if (const Folder* held = Find(canonical)) return held;
+    auto folder = std::make_unique<Folder>();
+    if (auto opened = folder->Open(canonical); !opened) return opened.Why();
+    if (auto locked = Hold(canonical, std::move(folder)); !locked) return locked.Why();
+    return Find(canonical);
+}
+
+Result<> FolderLock::Hold(const fs::path& canonical, std::unique_ptr<Folder> folder) {
+    if (auto locked = folder->Lock(); !locked) return locked;
+    folders_.emplace(canonical, std::move(folder));
+    return {};
+}
+
+const FolderLock::Folder* FolderLock::Find(const fs::path& path) const {
+    std::error_code error;
+    const auto held = folders_.find(fs::canonical(path, error));
+    return error || held == folders_.end() ? nullptr : held->second.get();
 }
 
 Result<> Replace_Files(std::span<const NewContents> files, const FolderLock& lock,
                        const Notice& notice) {
-    Replacing replacing(files, lock);
-    auto done = replacing.Run();
-    if (done) {
-        replacing.Finish(notice);
-    } else if (!replacing.Put_Back(notice)) {
-        return Failure{done.Why().subject,
-                       "Written, but not safe from a power failure. " + done.Why().reason};
-    }
-    return done;
+    const auto told = [&](std::size_t, const Failure& loss) { notice(loss); };
+    return Replace({&files, 1}, lock, notice ? SetNotice(told) : SetNotice(),
+                   InterruptionsHeld::Pending)[0];
+}
+
+std::vector<Result<>> Replace_Sets(std::span<const std::vector<NewContents>> sets,
+                                   const FolderLock& lock, const SetNotice& notice) {
+    const std::vector<std::span<const NewContents>> files(sets.begin(), sets.end());
+    return Replace(files, lock, notice, [] { return false; });
 }
 
 Result<> Replace_File(const std::u16string& path, std::string_view bytes, const Notice& notice) {

@@ -2,21 +2,24 @@
 // at any moment, and only one run of Bannersmith in a folder at a time.
 #pragma once
 
+#include <filesystem>
 #include <functional>
+#include <map>
 #include <memory>
 #include <span>
 #include <string>
+#include <vector>
 
 #include "base/result.h"
 
 namespace bannersmith {
 
-/// Keeps other runs of Bannersmith from changing files of one folder, from `Take` to the end of the
-/// object. Advisory: other programs do not know of it, and where the file system has no locks it
-/// keeps nobody out.
+/// Keeps other runs of Bannersmith, and other threads of this one, from changing files of some
+/// folders, from `Take` to the end of the object, which is to be in the same thread. Advisory:
+/// other programs do not know of it, and where the file system has no locks it keeps nobody out.
 class FolderLock {
  public:
-    /// The system's part: the folder, held open.
+    /// The system's part: a folder, held open.
     struct Folder;
 
     FolderLock();
@@ -24,16 +27,22 @@ class FolderLock {
     FolderLock& operator=(FolderLock&& other) noexcept;
     ~FolderLock();
 
-    /// Takes the folder of the file at `path`, or of the one that a link there leads to, in place
-    /// of the folder held before. Waits for other runs, ten seconds at the most, and fails then. A
-    /// folder that cannot be opened is not held, which is no failure.
+    /// Takes the folder of the file at `path`, or of the one that a link there leads to, beside
+    /// those that are held. Waits for other runs, ten seconds at the most, and fails then. A folder
+    /// that cannot be opened is not held, which is no failure. Whoever takes several takes them in
+    /// the order of their paths, so that two never wait for each other.
     Result<> Take(const std::u16string& path);
 
-    /// The folder held, or null.
-    const Folder* Held() const { return folder_.get(); }
+    /// The folder at `path`, opened and held where it was not yet. Fails where that cannot be done.
+    Result<const Folder*> Take_Folder(const std::filesystem::path& path);
+
+    /// The folder at `path` if it is held, or null.
+    const Folder* Find(const std::filesystem::path& path) const;
 
  private:
-    std::unique_ptr<Folder> folder_;
+    Result<> Hold(const std::filesystem::path& canonical, std::unique_ptr<Folder> folder);
+
+    std::map<std::filesystem::path, std::unique_ptr<Folder>> folders_;  ///< by canonical path
 };
 
 /// What a file is to hold from now on.
@@ -63,6 +72,16 @@ using Notice = std::function<void(const Failure& loss)>;
 /// `InterruptionsHeld`, one that arrives before the first file changes ends the call there.
 Result<> Replace_Files(std::span<const NewContents> files, const FolderLock& lock = {},
                        const Notice& notice = {});
+
+/// Told of what could not be kept for the set of that index.
+using SetNotice = std::function<void(std::size_t set, const Failure& loss)>;
+
+/// The same for several sets of files: each is put in place all or none, whatever becomes of the
+/// others, and has its own result. They share the waits: all files of all sets are written first,
+/// then brought to the disk together, then put in place, and each folder is synced once. No file is
+/// in two sets. An interruption does not end the call.
+std::vector<Result<>> Replace_Sets(std::span<const std::vector<NewContents>> sets,
+                                   const FolderLock& lock = {}, const SetNotice& notice = {});
 
 /// `Replace_Files` for one file.
 Result<> Replace_File(const std::u16string& path, std::string_view bytes,

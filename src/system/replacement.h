@@ -34,6 +34,9 @@ struct FolderLock::Folder {
     /// Waits until no other run holds the folder, which is open.
     Result<> Lock();
 
+    /// Makes safe which files the folder has, where the system can do that and has not done it.
+    Result<> Sync() const;
+
     std::filesystem::path path;
     std::intptr_t handle = NoHandle;  ///< a descriptor of the folder, or a mutex of its name
     bool alone = false;               ///< no other run can be at work in it
@@ -55,15 +58,19 @@ class Replacement {
     /// The folder of the file itself, where links to it have been followed.
     std::filesystem::path Folder_Path() const;
 
-    /// Writes a temporary file with `bytes`, as like the old file as can be, safe on the disk.
-    /// `folder` is the file's own and stays open.
+    /// Writes a temporary file with `bytes`, as like the old file as can be. `folder` is the file's
+    /// own and stays open.
     Result<> Write(const FolderLock::Folder& folder, std::string_view bytes);
+
+    /// Makes what was written safe on the disk.
+    Result<> Bring_To_Disk();
 
     /// Puts the temporary file in the place of the old one. `others_follow`: the old file can then
     /// come back even where that costs a copy of it.
     Result<> Put_In_Place(bool others_follow);
 
-    /// Makes the new file in its new place safe from a crash of the machine.
+    /// Makes the new file in its new place safe from a crash of the machine, once its folder is
+    /// synced.
     Result<> Make_Safe();
 
     /// Brings back what was there before `Put_In_Place`, if it can.

@@ -210,6 +210,11 @@ Result<> FolderLock::Folder::Lock() {
     }
 }
 
+Result<> FolderLock::Folder::Sync() const {
+    if (bannersmith::Sync(static_cast<int>(handle))) return {};
+    return Because(std::string("Its folder cannot be synced: ") + std::strerror(errno));
+}
+
 struct Replacement::State {
     std::string target, folder_path;
     const FolderLock::Folder* folder = nullptr;
@@ -217,6 +222,7 @@ struct Replacement::State {
     struct stat old {};
     Descriptor old_file;   ///< keeps the old file's room from being used again
     FileBeside temporary;  ///< the new file, or the old one that it traded places with
+    Descriptor written;    ///< the new file until it is safe on the disk
     FileBeside second_name;
     bool traded = false;
     std::string lost;
@@ -241,7 +247,7 @@ struct Replacement::State {
         if (!copy.Is_Open()) return Error_Of(errno);
         const auto bytes = Read_Whole(target);
         if (!bytes) return bytes.Why();
-        if (auto written = Write_All(copy, *bytes); !written) return written;
+        if (auto filled = Write_All(copy, *bytes); !filled) return filled;
         static_cast<void>(Take_Over(target, old, copy.Get()));
         return Sync_And_Close(copy);
     }
@@ -267,8 +273,7 @@ struct Replacement::State {
 
     /// The file again after its folder: on a card the folder has the new name, but only the file
     /// brings along where its contents are.
-    bool Sync_Place() const {
-        if (!Sync(static_cast<int>(folder->handle))) return false;
+    bool Sync_File() const {
         const auto open = [&] { return ::open(target.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK); };
         int file = open();
         while (file < 0 && errno == EINTR) file = open();
@@ -306,11 +311,15 @@ Result<> Replacement::Write(const FolderLock::Folder& folder, std::string_view b
     State& state = *state_;
     state.folder = &folder;
     const mode_t mode = state.exists ? S_IRUSR | S_IWUSR : 0666;
-    Descriptor file = state.temporary.Make(state.folder_path, mode);
-    if (!file.Is_Open()) return Error_Of(errno);
-    if (auto written = Write_All(file, bytes); !written) return written;
-    if (state.exists) state.lost = Take_Over(state.target, state.old, file.Get());
-    return state.Sync_And_Close(file);
+    state.written = state.temporary.Make(state.folder_path, mode);
+    if (!state.written.Is_Open()) return Error_Of(errno);
+    if (auto written = Write_All(state.written, bytes); !written) return written;
+    if (state.exists) state.lost = Take_Over(state.target, state.old, state.written.Get());
+    return {};
+}
+
+Result<> Replacement::Bring_To_Disk() {
+    return state_->Sync_And_Close(state_->written);
 }
 
 Result<> Replacement::Put_In_Place(bool others_follow) {
@@ -327,7 +336,7 @@ Result<> Replacement::Put_In_Place(bool others_follow) {
 }
 
 Result<> Replacement::Make_Safe() {
-    if (state_->Sync_Place()) return {};
+    if (state_->Sync_File()) return {};
     return Because(std::string("Its folder cannot be synced: ") + std::strerror(errno));
 }
 
@@ -355,7 +364,7 @@ Result<> Replacement::Put_Back() {
                        kept.Keep(state.folder_path));
     }
     if (!state.traded) kept.Forget();
-    static_cast<void>(state.Sync_Place());
+    if (state.folder->Sync()) static_cast<void>(state.Sync_File());
     return {};
 }
 

@@ -87,11 +87,17 @@ Result<> FolderLock::Folder::Lock() {
     return Because("Another run of Bannersmith is at work in its folder");
 }
 
+/// What puts a file in its place has done that.
+Result<> FolderLock::Folder::Sync() const {
+    return {};
+}
+
 struct Replacement::State {
     fs::path target;
     bool exists = false;
-    std::wstring temporary;  ///< the new file until it is in its place
-    std::wstring old_file;   ///< the old one from then on
+    Handle written{INVALID_HANDLE_VALUE};  ///< the new file until it is safe on the disk
+    std::wstring temporary;                ///< the new file until it is in its place
+    std::wstring old_file;                 ///< the old one from then on
 
     fs::path Folder() const { return target.parent_path(); }
 
@@ -112,6 +118,7 @@ struct Replacement::State {
 Replacement::Replacement() : state_(std::make_unique<State>()) {}
 
 Replacement::~Replacement() {
+    if (state_->written.Is_Open()) static_cast<void>(state_->written.Close());
     Remove_File(state_->temporary);
     Remove_File(state_->old_file);
 }
@@ -133,8 +140,9 @@ fs::path Replacement::Folder_Path() const {
 
 Result<> Replacement::Write(const FolderLock::Folder& /*folder*/, std::string_view bytes) {
     const std::wstring path = Unused_Path(state_->Folder(), LeftoverPrefix);
-    Handle file(::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
-                              FILE_ATTRIBUTE_NORMAL, nullptr));
+    Handle& file = state_->written;
+    file = Handle(::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                                FILE_ATTRIBUTE_NORMAL, nullptr));
     if (!file.Is_Open()) return Error_Of(::GetLastError());
     state_->temporary = path;
     while (!bytes.empty()) {
@@ -145,6 +153,11 @@ Result<> Replacement::Write(const FolderLock::Folder& /*folder*/, std::string_vi
         }
         bytes.remove_prefix(count);
     }
+    return {};
+}
+
+Result<> Replacement::Bring_To_Disk() {
+    Handle& file = state_->written;
     if (auto flushed = Require(::FlushFileBuffers(file.Get())); !flushed) return flushed;
     return file.Close();
 }
