@@ -143,6 +143,7 @@ int main(int argc, char** argv) {
     }
     if (files.size() == 3 && files[0] == u"--extract") return Extract(files[1], files[2]);
     const bool json = std::erase(files, u"--json") > 0;
-    if (files.empty()) return Print(Usage, stderr), 2;
+    const bool misused = !files.empty() && files[0] == u"--extract";
+    if (files.empty() || misused) return Print(Usage, stderr), 2;
     return Inspect_All(files, json);
 }

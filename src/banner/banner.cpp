@@ -129,7 +129,7 @@ struct Banner::Applying {
         if (!*texture) return {};
         auto logo = Read_Logo(edit.file);
         if (!logo) return logo.Why();
-        const bool is_picture = Is_Picture(*logo);
+        const bool is_picture = Is_Picture(*logo) || Is_Called_A_Picture(edit.file);
         if (is_picture) {
             const auto picture = Read_Picture(*logo).About(edit.file);
             if (!picture) return picture.Why();

@@ -15,6 +15,9 @@ inline constexpr std::u16string_view LogoTexture = u"my_Back";
 /// The picture that a file shows: PNG, JPEG, or a texture. The failure has the file's name.
 Result<Picture> Read_Picture_File(const std::u16string& file);
 
+/// Whether the ending of a file's name is one of pictures, also of kinds that cannot be read here.
+bool Is_Called_A_Picture(std::u16string_view file);
+
 /// What is to be said of a logo texture in the place of `old`: how it differs, which the console
 /// may draw wrongly then, "but the logo is I4 256 x 64 in place of I4 512 x 64"; of one that was
 /// made of a picture what it became, "the logo as I4 512 x 64". Empty where there is nothing to be

@@ -56,6 +56,13 @@ std::u16string In_Other_Part(std::u16string_view layout_path) {
     return other == part ? std::u16string() : path.substr(0, begin) + other + path.substr(end);
 }
 
+/// By its ending. What stands in such a file and does not begin as an archive is one that is cut
+/// off or broken, and no layout.
+bool Is_Called_An_Archive(std::u16string_view path) {
+    const std::u16string name = Capitals(path);
+    return name.ends_with(u".APP") || name.ends_with(u".BNR") || name.ends_with(u".BIN");
+}
+
 }  // namespace
 
 std::u16string Layout_File_Of(const std::u16string& path) {
@@ -80,7 +87,10 @@ Result<std::string> BannerSource::Read() {
     archive_.reset();
     if (Is_Layout(*bytes)) return bytes;
     if (Is_Program(*bytes)) return Failure{name_, "Is a program, not a layout file"};
-    if (!Archive::Begins_As_One(*bytes)) return bytes;
+    if (!Archive::Begins_As_One(*bytes)) {
+        if (Is_Called_An_Archive(path_)) return Failure{name_, "Is no archive of a channel"};
+        return bytes;
+    }
     auto archive = Archive::Read(std::move(*bytes)).About(name_);
     if (!archive) return archive.Why();
     if (!archive->Refusal().empty()) return Failure{name_, archive->Refusal()};

@@ -35,7 +35,8 @@ class BannerSource {
     const Archive* Packed_In() const { return archive_ ? &*archive_ : nullptr; }
 
     /// The layout's bytes. A program of the system is refused, and so is an archive that is broken
-    /// on the way to the layout or whose checksums do not hold there.
+    /// on the way to the layout or whose checksums do not hold there, and a file that is called one
+    /// (".app", ".bnr", ".bin") and is neither archive nor layout.
     Result<std::string> Read();
 
     /// Whether the file holds something else than when it was read; `layout`, what `Read` returned.

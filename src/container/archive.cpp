@@ -154,6 +154,9 @@ void Archive::Judge() {
         const auto header = Read_Imet(*bytes_, *imet_);
         if (!header) warnings_.push_back(refusal_ = header.Why().reason);
         Judge_Sizes();
+        if (Has_Endless_Name(std::string_view(*bytes_).substr(*imet_))) {
+            warnings_.push_back("IMET header: a name has more characters than have room");
+        }
     }
     for (std::size_t i = 0; i < parts_.size(); ++i) {
         const StoredPart& stored = parts_[i];
@@ -161,6 +164,20 @@ void Archive::Judge() {
         if (stored.is_sound) continue;
         warnings_.push_back(Warn(stored.path, BrokenPart));
         if (i == layout_part_ && refusal_.empty()) refusal_ = warnings_.back();
+    }
+    Judge_Places();
+}
+
+/// What is odd of the two archives that a save rewrites, and of what lies behind them.
+void Archive::Judge_Places() {
+    const auto add = [&](const std::string& part, const std::vector<std::string>& odd) {
+        for (const std::string& what : odd) warnings_.push_back(Warn(part, what));
+    };
+    if (!members_.empty()) add("", Odd_In_U8(Outer(), members_));
+    const StoredPart& stored = parts_[layout_part_];
+    add(stored.path, Odd_In_U8(opened_->content.bytes, opened_->files));
+    if (Has_Bytes_Behind(stored.part, opened_->content)) {
+        add(stored.path, {"bytes behind its end"});
     }
 }
 
@@ -177,7 +194,7 @@ void Archive::Judge_Sizes() {
     judge("sound", said.sound, real.sound);
 }
 
-/// Of parts that are missing the header keeps what it says.
+/// Of parts that are missing, or whose content nobody here can read, the header keeps what it says.
 PartSizes Archive::Real_Sizes(const NewMembers& changed) const {
     PartSizes sizes = Sizes_Of(std::string_view(*bytes_).substr(*imet_));
     for (const auto& [name, size] : {std::pair{"icon.bin", &PartSizes::icon},
@@ -186,9 +203,11 @@ PartSizes Archive::Real_Sizes(const NewMembers& changed) const {
         const auto index = Find_Part(name);
         if (!index || !parts_[*index].fault.empty()) continue;
         const auto fresh = changed.find(parts_[*index].member);
-        const auto part =
-            fresh == changed.end() ? parts_[*index].part : Read_Part(fresh->second).Value_Or({});
-        sizes.*size = part.Content_Size();
+        if (fresh != changed.end()) {
+            sizes.*size = Read_Part(fresh->second).Value_Or({}).Content_Size();
+        } else {
+            sizes.*size = parts_[*index].part.Certain_Size(sizes.*size).value_or(sizes.*size);
+        }
     }
     return sizes;
 }
@@ -207,7 +226,7 @@ std::optional<std::string> Archive::Find_Texture(std::string_view beginning) con
     const std::string_view arc = Folder_Of(blyt.substr(0, blyt.size() - !blyt.empty()));
     for (const U8Member& file : opened_->files) {
         if (!Is_Texture_In(Small(arc) + "timg/", file)) continue;
-        if (Name_Of(file.path).starts_with(beginning)) {
+        if (Small(Name_Of(file.path)).starts_with(Small(beginning))) {
             return Joined(parts_[layout_part_].path, file.path);
         }
     }

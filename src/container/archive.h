@@ -61,8 +61,8 @@ class Archive {
     std::string Layout_Path() const { return Path_Of(layout_); }
 
     /// The path of the first file in the folder "timg" beside the layout's folder whose name begins
-    /// with `beginning`, compared as it stands, and ends in ".tpl"; nothing where there is none
-    /// with any bytes.
+    /// with `beginning` and ends in ".tpl", whatever the case of its letters; nothing where there
+    /// is none with any bytes.
     std::optional<std::string> Find_Texture(std::string_view beginning) const;
 
     /// The first in the folder arc/timg of any part, in the order of the file, whatever the case of
@@ -107,6 +107,7 @@ class Archive {
     Result<> Choose_Layout();
     void Judge();
     void Judge_Sizes();
+    void Judge_Places();
 
     std::string_view Outer() const { return std::string_view(*bytes_).substr(outer_at_); }
     std::string_view File_Bytes(std::size_t file) const;

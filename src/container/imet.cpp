@@ -1,5 +1,7 @@
 #include "container/imet.h"
 
+#include <algorithm>
+
 #include "base/numbers.h"
 #include "container/md5.h"
 
@@ -79,6 +81,13 @@ ChannelNames Names_Of(std::string_view block) {
 
 PartSizes Sizes_Of(std::string_view block) {
     return {Read_U32(block, IconAt), Read_U32(block, BannerAt), Read_U32(block, SoundAt)};
+}
+
+bool Has_Endless_Name(std::string_view block) {
+    const ChannelNames names = Names_Of(block);
+    return std::any_of(names.begin(), names.end(), [](const auto& lines) {
+        return lines[0].size() > LongestNameLine || lines[1].size() > LongestNameLine;
+    });
 }
 
 std::string With_Name(std::string block, std::size_t language, std::size_t line,

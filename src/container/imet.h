@@ -45,6 +45,9 @@ Result<std::string_view> Read_Imet(std::string_view bytes, std::size_t block);
 ChannelNames Names_Of(std::string_view block);
 PartSizes Sizes_Of(std::string_view block);
 
+/// Whether a line of a name fills its place without a zero behind it.
+bool Has_Endless_Name(std::string_view block);
+
 /// The block with a line of a name, at most `LongestNameLine` code units. The line's other units
 /// become zero; where the text stands there already, nothing changes.
 std::string With_Name(std::string block, std::size_t language, std::size_t line,

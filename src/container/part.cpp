@@ -2,6 +2,7 @@
 
 #include "base/numbers.h"
 #include "container/md5.h"
+#include "container/u8.h"
 
 namespace bannersmith {
 
@@ -35,6 +36,16 @@ std::size_t Part::Content_Size() const {
     return packed ? Lz77_Declared_Size(payload).value_or(0) : payload.size();
 }
 
+std::optional<std::size_t> Part::Certain_Size(std::size_t said) const {
+    if (packed) {
+        if (Content_Size() == said) return said;
+        const auto contents = Lz77_Decompress(payload);
+        return contents ? std::optional(contents->bytes.size()) : std::nullopt;
+    }
+    if (Begins_As_U8(payload) || payload.starts_with("BNS ")) return payload.size();
+    return std::nullopt;
+}
+
 bool Begins_As_Part(std::string_view bytes) {
     return bytes.starts_with(Magic) || bytes.starts_with("LZ77") || Lz77_Form_Of(bytes);
 }
@@ -62,6 +73,11 @@ Result<PartContent> Unpack(const Part& part) {
     if (!contents) return contents.Why();
     return PartContent{std::move(contents->bytes),
                        std::string(part.payload.substr(contents->stream_size))};
+}
+
+bool Has_Bytes_Behind(const Part& part, const PartContent& content) {
+    return !part.tail.empty() ||
+           !Fills_Up(content.rest, content.rest.empty() ? 0 : part.payload.size());
 }
 
 std::string Pack(const Part& part, std::string_view content, const PartContent& old) {

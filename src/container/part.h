@@ -24,6 +24,10 @@ struct Part {
 
     /// Bytes of the content, for a packed one as it says itself.
     std::size_t Content_Size() const;
+
+    /// The same where it is certain: an archive, a sound, or a stream that unpacks to so many bytes
+    /// or says the same as `said`.
+    std::optional<std::size_t> Certain_Size(std::size_t said) const;
 };
 
 /// Whether `bytes` begin as a part does that can be told from anything else: with an IMD5 header or
@@ -42,6 +46,9 @@ struct PartContent {
 
 /// Unpacks a part. Fails as `Lz77_Decompress` does.
 Result<PartContent> Unpack(const Part& part);
+
+/// Whether the bytes behind a part's stream, or behind its payload, are more than a filling.
+bool Has_Bytes_Behind(const Part& part, const PartContent& content);
 
 /// The bytes of a part like `part`, which holds `old`, with `content` in its place: packed in the
 /// same form, as far as it is the same in the same way, with the bytes that stood behind its stream

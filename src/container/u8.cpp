@@ -13,7 +13,8 @@ namespace {
 using namespace std::string_view_literals;
 
 constexpr auto Magic = "\x55\xAA\x38\x2D"sv;
-constexpr std::size_t HeaderSize = 0x20, RootAt = 4, TableSizeAt = 8;
+constexpr std::size_t HeaderSize = 0x20, RootAt = 4, TableSizeAt = 8, DataAt = 12;
+constexpr std::size_t ReservedAt = 16;
 constexpr std::size_t NodeSize = 12, NodeOffsetAt = 4, NodeLengthAt = 8;
 constexpr std::size_t MostNodes = 4096, DeepestFolder = 16, LongestName = 255;
 constexpr std::size_t UsualAlignment = 32;
@@ -142,12 +143,10 @@ class Walk {
     std::vector<U8Member> members_;
 };
 
-/// The members that have bytes, by the place where they lie.
+/// The members by the place where they lie.
 std::vector<std::size_t> In_Order_Of_Bytes(const std::vector<U8Member>& members) {
-    std::vector<std::size_t> order;
-    for (std::size_t i = 0; i < members.size(); ++i) {
-        if (members[i].size > 0) order.push_back(i);
-    }
+    std::vector<std::size_t> order(members.size());
+    std::iota(order.begin(), order.end(), 0);
     std::stable_sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
         return members[a].offset < members[b].offset;
     });
@@ -157,6 +156,7 @@ std::vector<std::size_t> In_Order_Of_Bytes(const std::vector<U8Member>& members)
 Result<> Check_Overlap(const std::vector<U8Member>& members) {
     std::size_t end = 0;
     for (const std::size_t i : In_Order_Of_Bytes(members)) {
+        if (members[i].size == 0) continue;
         if (members[i].offset < end) {
             return Broken(members[i].path + " shares bytes with another member");
         }
@@ -189,10 +189,41 @@ Result<std::vector<U8Member>> Read_U8(std::string_view bytes) {
     return members;
 }
 
+std::vector<std::string> Odd_In_U8(std::string_view bytes, const std::vector<U8Member>& members) {
+    std::vector<std::string> odd;
+    const auto add = [&](const std::string& what) { odd.push_back(Broken(what).reason); };
+    const auto is_used = [](char byte) { return byte != '\0'; };
+    const std::size_t table_end = HeaderSize + Read_U32(bytes, TableSizeAt);
+    if (Read_U32(bytes, DataAt) != Align(table_end, UsualAlignment)) {
+        add("its header tells of another place for its first file");
+    }
+    std::string between(bytes.substr(ReservedAt, HeaderSize - ReservedAt));
+    std::size_t end = std::min(table_end, bytes.size());
+    std::size_t before = 0;
+    for (const U8Member& member : members) {
+        if (member.size == 0) continue;
+        if (member.offset < before) add(member.path + " lies in front of a file before it");
+        if (member.offset % UsualAlignment != 0) add(member.path + " lies at no multiple of 32");
+        before = member.offset;
+    }
+    for (const std::size_t i : In_Order_Of_Bytes(members)) {
+        if (members[i].offset > end) between += bytes.substr(end, members[i].offset - end);
+        end = std::max(end, members[i].offset + members[i].size);
+    }
+    between += bytes.substr(end);
+    if (std::any_of(between.begin(), between.end(), is_used)) {
+        add("bytes other than zero where no file is");
+    }
+    return odd;
+}
+
 std::string Replace_U8_Members(std::string before, std::string_view bytes,
                                const std::vector<U8Member>& members, const NewMembers& changed) {
-    const std::vector<std::size_t> order = In_Order_Of_Bytes(members);
+    std::vector<std::size_t> order = In_Order_Of_Bytes(members);
     const std::size_t alignment = Alignment(members);
+    // An empty member in front of the first byte of all lies nowhere, and stays there.
+    order.erase(order.begin(), std::find_if(order.begin(), order.end(),
+                                            [&](std::size_t i) { return members[i].size > 0; }));
     std::size_t old_end = order.empty() ? bytes.size() : members[order[0]].offset;
     const std::size_t start = before.size();
     std::string result = std::move(before);

@@ -30,6 +30,11 @@ bool Begins_As_U8(std::string_view bytes);
 /// there or lead out of their folder, and more of anything than an archive of a console has.
 Result<std::vector<U8Member>> Read_U8(std::string_view bytes);
 
+/// What is unlike the archives of the console's own tools without being in anybody's way: a wrong
+/// place of the first byte in the header, members out of order or between two multiples of 32, and
+/// bytes other than zero where nothing is. Each without the archive's name.
+std::vector<std::string> Odd_In_U8(std::string_view bytes, const std::vector<U8Member>& members);
+
 /// Behind `before` the archive `bytes`, of which `members` are the files, with other bytes for some
 /// of them. The files that follow a changed one move; each begins where the old one did from the
 /// next multiple of the archive's alignment, 32 or less, behind the one before. Nothing else

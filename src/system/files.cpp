@@ -125,6 +125,16 @@ Result<std::vector<std::u16string>> List_Files(const std::u16string& folder,
     return names;
 }
 
+bool Leads_Through_Link(const std::u16string& folder, const std::u16string& path) {
+    fs::path place = Native_Path(folder);
+    for (const fs::path& part : Native_Path(path).lexically_relative(place)) {
+        place /= part;
+        std::error_code ignored;
+        if (fs::is_symlink(fs::symlink_status(place, ignored))) return true;
+    }
+    return false;
+}
+
 Result<> Make_Folders_Of(const std::u16string& path) {
     std::error_code error;
     fs::create_directories(Native_Path(path).parent_path(), error);

@@ -39,6 +39,10 @@ Result<bool> Is_Folder(const std::u16string& path);
 Result<std::vector<std::u16string>> List_Files(const std::u16string& folder,
                                                const std::vector<std::string_view>& endings);
 
+/// Whether something on the way from `folder` to `path`, which begins with it, is a link, the end
+/// included.
+bool Leads_Through_Link(const std::u16string& folder, const std::u16string& path);
+
 /// Makes the folders that the path of a file leads through, as far as they are missing.
 Result<> Make_Folders_Of(const std::u16string& path);
 

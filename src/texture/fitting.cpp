@@ -112,7 +112,8 @@ Picture Dither_For(const TexelFormat& format, Picture picture, Dither dither) {
             for (std::size_t i = 0; i < 3; ++i) {
                 const unsigned most = is_short ? 15 : format.most[i];
                 double wanted = texel[i];
-                if (dither == Dither::ordered) wanted += Pattern(x, y) * 255 / most;
+                const bool is_exact = Expand(Reduce(texel[i], most), most) == texel[i];
+                if (dither == Dither::ordered && !is_exact) wanted += Pattern(x, y) * 255 / most;
                 if (dither == Dither::diffusion) wanted += row[x + 1][i];
                 const auto whole = static_cast<unsigned>(std::clamp(wanted + 0.5, 0.0, 255.0));
                 texel[i] = Expand(Reduce(whole, most), most);

@@ -7,6 +7,7 @@
 #include <optional>
 #include <utility>
 
+#include "banner/source.h"
 #include "base/text.h"
 #include "colors/materials.h"
 #include "colors/window/scheme_list.h"
@@ -89,11 +90,12 @@ void frmColor::cmbFileList_Click() {
 void frmColor::cmdGetScheme_Click() {
     std::u16string path = txtBannerPath.Text();
     if (path.starts_with(u'\\')) path.insert(0, program_folder_ + u"\\");
+    path = Layout_File_Of(path);
     if (!Ordinary_File_Exists(path)) {
         desktop_.Message(u"File Not Found!");
         return;
     }
-    const auto data = Read_File(path);
+    const auto data = BannerSource(path).Read();
     if (!data) {
         desktop_.Report(data.Why());
         return;
