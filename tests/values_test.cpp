@@ -1,0 +1,122 @@
+// What texts say: values, schemes, paddings, encodings; and the controls and fades, which hold and draw them.
+#include <gtest/gtest.h>
+
+#include "base/text.h"
+#include "colors/scheme.h"
+#include "colors/window/gradients.h"
+#include "forms/controls.h"
+#include "gameinfo/fields.h"
+#include "layout/file_length.h"
+
+using namespace bannersmith;
+
+namespace {
+
+TEST(Text, SurvivesTheWayThroughUtf8) {
+    for (const std::string bytes : {"", "plain", "\xE5\xB9\xB4\xF4\x8F\xBF\xBF", "bad \xFF\xC3 bytes", "\xC3"}) {
+        EXPECT_EQ(To_Utf8(From_Utf8(bytes)), bytes);
+    }
+    EXPECT_EQ(From_Utf8("\xF0\x9F\x98\x80"), u"\xD83D\xDE00");
+    EXPECT_EQ(To_Utf8(u"a\xD800z"), "a\xEF\xBF\xBDz");
+    EXPECT_EQ(To_Bytes(From_Bytes("\xFF\x41")), "\xFF\x41");
+    EXPECT_EQ(To_Bytes(u"\u0100"), std::nullopt);
+    EXPECT_EQ(Trim(u"  \ta b  "), u"\ta b");
+    EXPECT_EQ(Capitals(u"aZz\u00E9_9"), u"AZZ\u00E9_9");
+    EXPECT_EQ(Replace_All(u"aaa", u"aa", u"b"), u"ba");
+}
+
+TEST(Padding, IsAWholeNumberUpToItsLimit) {
+    EXPECT_EQ(Read_Padding(u"268435456")->count, 268435456U);
+    EXPECT_TRUE(Read_Padding(u"+007")->append && Read_Padding(u"+007")->count == 7 && !Read_Padding(u"7")->append);
+    for (const std::u16string text : {u"+", u"-1", u"1 2", u"\u0661", u"1:", u"268435457", u"+99999999999999999999"}) {
+        EXPECT_EQ(Read_Padding(text).Why().subject, u"Padding \"" + text + u"\"");
+    }
+}
+
+TEST(BareValue, IsTakenOutOfAnyText) {
+    struct Row {
+        const char16_t *text, *year, *players, *rating;
+    };
+    for (const Row& row : {Row{u"Released: 1985", u"1985", u"5", u"1985"},
+                           {u"ab", u"ab", u"", u""},
+                           {u"0123 and more", u"0123", u"3", u""},
+                           {u"9876 and more", u"9876", u"6", u""},
+                           {u"a: 3 :b", u"3 :b", u"3", u"3"},
+                           {u" 4 Spieler", u"eler", u"", u""},
+                           {u"x^1～2人^y", u"2人^y", u"2", u""},
+                           {u"x^", u"x^", u"", u""},
+                           {u"x y^1～2人", u"1～2人", u"x", u""},
+                           {u"a:  \tE10+ ", u"10+ ", u"+", u"\tE10+"}}) {
+        EXPECT_EQ(Bare_Value(Field::year, row.text, u"ENG"), row.year) << To_Utf8(row.text);
+        EXPECT_EQ(Bare_Value(Field::players, row.text, u"ENG"), row.players) << To_Utf8(row.text);
+        EXPECT_EQ(Bare_Value(Field::rating, row.text, u"ENG"), row.rating) << To_Utf8(row.text);
+        EXPECT_EQ(Bare_Value(Field::title, row.text, u"ENG"), row.text);
+    }
+}
+
+TEST(Scheme, IsReadWholeOrRefused) {
+    struct Row {
+        int count;  ///< of nines in front of the rest
+        std::string between, rest, reason;
+    };
+    for (const Row& row :
+         {Row{114, " , ", "", ""},
+          {114, ",\r\n", " and more", ""},
+          {113, "\r", "255", ""},
+          {113, " ", " \r\n,", "ends after 113 of 114 numbers"},
+          {113, " ", "256", "BackMask2: 256 is not between 0 and 255"},
+          {113, " ", "-1", "BackMask2: -1 is not between 0 and 255"},
+          {113, " ", "99999999999999999999", "BackMask2: 99999999999999999999 is not between 0 and 255"},
+          {0, "", "5,,", "PFLINE: \"\" is not a whole number"},
+          {2, "\t", "", "PFLINE: \"9\t9\t\" is not a whole number"},
+          {13, " ", "1.5", "Shade: \"1.5\" is not a whole number"},
+          {2, " ", "+7 +-0", "PFLINE: \"+-0\" is not a whole number"}}) {
+        std::string text;
+        for (int i = 0; i < row.count; ++i) text += "9" + row.between;
+        const auto scheme = Parse_Scheme(text + row.rest);
+        EXPECT_EQ(scheme ? "" : scheme.Why().reason, row.reason) << text + row.rest;
+        if (scheme) { EXPECT_EQ((*scheme)[18][0], Make_Color(9, 9, 9)); }
+    }
+    EXPECT_TRUE(Format_Scheme(Scheme{{{Make_Color(1, 20, 255), 0}}}).starts_with(" 1  20  255  0  0  0 \r\n 0  0 "));
+}
+
+TEST(Gradients, FadeBandByBand) {
+    Surface surface(1000, 500);
+    BackgroundVerticalGradient(surface, Make_Color(0, 0, 0), Make_Color(255, 255, 255), 256);
+    ASSERT_EQ(surface.Painted().size(), 256U);
+    const FilledRectangle first = surface.Painted()[0], last = surface.Painted()[255];
+    EXPECT_TRUE(first.color == 0 && first.x2 == 1000 && last.color == Make_Color(254, 254, 254));
+    EXPECT_FLOAT_EQ(first.y2, 500 / 256.F);
+    EXPECT_NEAR(last.y2, 500, 0.1);
+    surface.Clear();
+    BackgroundHorizontalGradient(surface, Make_Color(201, 10, 0), Make_Color(0, 11, 99), 4, 20, 0, 100, 300);
+    ASSERT_EQ(surface.Painted().size(), 4U);
+    const FilledRectangle& second = surface.Painted()[1];
+    EXPECT_EQ(second.color, Make_Color(151, 10, 24)) << "rounded towards the first";
+    EXPECT_EQ(std::vector<float>({second.x1, second.y1, second.x2, second.y2}),
+              std::vector<float>({150, 20, 200, 500}));
+}
+
+TEST(Controls, RaiseTheirEventsInTheCall) {
+    int changes = 0, clicks = 0;
+    TextBox box;
+    box.Change = [&] { ++changes; };
+    box.Set(u"a");
+    box.Set(u"a");
+    box.Set(u"");
+    EXPECT_EQ(changes, 2);
+    DropDownList list({u"x", u"y"});
+    list.Click = [&] { ++clicks; };
+    list.Select(1);
+    list.Select(1);
+    EXPECT_EQ(clicks, 1);
+    list.Pick(1);
+    EXPECT_EQ(clicks, 2) << "a person's pick counts even when nothing changes";
+    list.Select(7);
+    EXPECT_TRUE(list.Index() == DropDownList::NoSelection && list.Selected().empty());
+    list.Select(0);
+    list.Clear();
+    EXPECT_EQ(clicks, 4) << "emptying raises nothing";
+}
+
+}  // namespace
