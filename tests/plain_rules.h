@@ -86,16 +86,14 @@ inline const std::vector<std::string> Codes = Split("ENG GER FRA ITA SPA NED JPN
 
 /// The wording of a field ('T'itle, 'Y'ear, 'P'layers, 'E'SRB) with "#" for the value.
 inline std::u16string Wording(char field, const std::string& code) {
-    static const std::map<std::string, std::u16string> Wordings = {
-        {"YENG", u"Released: #"},       {"YGER", u"Erschienen: #"},   {"YFRA", u"Publié en #"},
-        {"YITA", u"Pubblicato: #"},     {"YSPA", u"Año: #"},          {"YNED", u"Release: #"},
-        {"YJPN", u"#年発売"},           {"PENG", u"Players: #"},      {"PGER", u"# Spieler"},
-        {"PFRA", u"Joueurs: #"},        {"PITA", u"Giocatori: #"},    {"PSPA", u"Jugadores: #"},
-        {"PNED", u"# speler(s)"},       {"PJPN", u"プレイ人数\n#人"}, {"EENG", u"ESRB Rating: #"},
-        {"EFRA", u"Classement ESRB: #"}};
-    if (field == 'T') return u"#";
-    const auto found = Wordings.find(field + code);
-    return found == Wordings.end() ? Wordings.at(field + "ENG"s) : found->second;
+    static const std::map<char, std::vector<std::string>> Wordings = {
+        {'T', {"#"}},
+        {'Y', Split("Released: #|Erschienen: #|Publié en #|Pubblicato: #|Año: #|Release: #|#年発売", "|")},
+        {'P', Split("Players: #|# Spieler|Joueurs: #|Giocatori: #|Jugadores: #|# speler(s)|プレイ人数\n#人", "|")},
+        {'E', Split("ESRB Rating: #|ESRB Rating: #|Classement ESRB: #", "|")}};
+    const std::vector<std::string>& words = Wordings.at(field);
+    const auto at = static_cast<std::size_t>(std::find(Codes.begin(), Codes.end(), code) - Codes.begin());
+    return From_Utf8(at < words.size() ? words[at] : words[0]);
 }
 
 inline std::u16string Compose(char field, std::u16string value, const std::string& code) {
@@ -254,6 +252,14 @@ inline std::string Difference(const std::string& file, const std::string& line, 
     if (plan && plan->Layout() != *expected) return "bytes saved";
     while (banner.Undo()) continue;
     if (banner.Bytes() != loaded) return "the way back";
+    std::string fields = loaded;
+    for (const auto& [field, letter] : {std::pair{Field::players, 'P'}, {Field::year, 'Y'}, {Field::rating, 'E'}}) {
+        for (const std::string code : {"NONE", "GER", "FRA"}) {
+            static_cast<void>(banner.Apply(SetField{field, From_Bytes(code), u"7"}));
+            fields = Set(fields, Prefix(letter) + code, Compose(letter, u"7", code == "NONE" ? Neutral(loaded) : code));
+        }
+    }
+    if (banner.Bytes() != fields) return "single fields";
     const std::vector<std::string> names = Text_Box_Names(file);
     if (names.size() + 1 != Split(file, "txt1").size()) return "number of boxes";
     for (const auto test : {Pieces::Test::exact, Pieces::Test::prefix}) {
