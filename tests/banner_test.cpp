@@ -33,24 +33,18 @@ auto Any(const Items& items) {
 
 /// A box may have another one's name as its beginning, user data behind the name, or a tag inside its text.
 const auto Names = plain::Split(
-    "T_VCTitle_ENG|T_VCTitle_GER|T_VCTitle_JPN|T_VCTitle|T_VCTitle_NONE|T_VCTitle_ENG\0x|"
-    "T_Year_ENG|T_Year_FRA|T_Year_NED|T_Year_JPN|T_Year|T_Yea|T_Year_ITA|T_Play_ENG|"
-    "T_Play_JPN|T_Play_NED|T_Play|T_ESRB_ENG|T_ESRB_FRA|T_ESRB|T_PF|T_PF2|L_GER|Years|"s,
-    "|");
+    "T_VCTitle_ENG|T_VCTitle_GER|T_VCTitle_JPN|T_VCTitle|T_VCTitle_NONE|T_VCTitle_ENG\0x|T_Year_ENG|T_Year_FRA|T_Year_"
+    "NED|"
+    "T_Year_JPN|T_Year|T_Yea|T_Year_ITA|T_Play_ENG|T_Play_JPN|T_Play_NED|T_Play|T_ESRB_ENG|T_ESRB|T_PF|T_PF2|L_GER|Years|"s);
 const auto Stored = plain::Split(
-    "Released: 1985|Erschienen: 1985|Publié en 1985|Pubblicato: 1985|Año: 1985|Game|"
-    "Release: 1985|1985年発売|1-2 Spieler|プレイ人数^1～2人|LENG T_YEAR_ENG||\0z|"
-    "x\u7478\u7431y|\u7478\u7431"s,
-    "|");
+    "Released: 1985|Erschienen: 1985|Publié en 1985|Pubblicato: 1985|Año: 1985|Release: 1985|1985年発売|1-2 Spieler|"
+    "プレイ人数^1～2人|Game|LENG T_YEAR_ENG||\0z|x\u7478\u7431y|\u7478\u7431"s);
 const auto Words = plain::Split(
-    "TITLE|title|YEAR|Play|PLAY|SYSTEM|ESRB|T_GER|T_ENG|t_jpn|Y_FRA|Y_SPA|Y_ITA|Y_NED|Y_JPN|"
-    "Y_XYZ|E_FRA|E_GER|H_T_Play_ENG|h_T_PF|H_Years|H_T_Year_NONE|H_|PAD|FORCE|COLOR|2|LOGO|"
-    "T_|X_GER||TITLES|Y_TOO_JPN",
-    "|");
+    "TITLE|title|YEAR|Play|PLAY|SYSTEM|ESRB|T_GER|T_ENG|t_jpn|Y_FRA|Y_SPA|Y_ITA|Y_NED|Y_JPN|Y_XYZ|E_FRA|E_GER|H_T_Play_"
+    "ENG|"
+    "h_T_PF|H_Years|H_T_Year_NONE|H_|PAD|PAD|FORCE|COLOR|2|LOGO|T_|X_GER||TITLES|Y_TOO_JPN");
 const auto Values = plain::Split(
-    "1985||1|4| A^B |\"quo\"ted\"|ita|JPN|NONE|+16|0|300|99|x|longer than what was there|"
-    "ENG|+",
-    "|");
+    "1985||1|4| A^B |\"quo\"ted\"|ita|JPN|NONE|+16|0|300|007|268435457|1:|1.5|x|longer than what was there|ENG|+");
 
 std::string Any_Material() {
     const std::string name = Any(plain::Materials);

@@ -23,7 +23,7 @@ namespace plain {
 
 using namespace std::string_literals;
 
-inline std::vector<std::string> Split(const std::string& data, const std::string& separator) {
+inline std::vector<std::string> Split(const std::string& data, const std::string& separator = "|") {
     std::vector<std::string> pieces;
     std::size_t start = 0;
     for (std::size_t at; (at = data.find(separator, start)) != data.npos; start = at + separator.size()) {
@@ -82,15 +82,15 @@ Text Replaced(Text text, const Text& old, const Text& fresh) {
     return text;
 }
 
-inline const std::vector<std::string> Codes = Split("ENG GER FRA ITA SPA NED JPN NONE", " ");
+inline const std::vector<std::string> Codes = Split("ENG|GER|FRA|ITA|SPA|NED|JPN|NONE");
 
 /// The wording of a field ('T'itle, 'Y'ear, 'P'layers, 'E'SRB) with "#" for the value.
 inline std::u16string Wording(char field, const std::string& code) {
     static const std::map<char, std::vector<std::string>> Wordings = {
         {'T', {"#"}},
-        {'Y', Split("Released: #|Erschienen: #|Publié en #|Pubblicato: #|Año: #|Release: #|#年発売", "|")},
-        {'P', Split("Players: #|# Spieler|Joueurs: #|Giocatori: #|Jugadores: #|# speler(s)|プレイ人数\n#人", "|")},
-        {'E', Split("ESRB Rating: #|ESRB Rating: #|Classement ESRB: #", "|")}};
+        {'Y', Split("Released: #|Erschienen: #|Publié en #|Pubblicato: #|Año: #|Release: #|#年発売")},
+        {'P', Split("Players: #|# Spieler|Joueurs: #|Giocatori: #|Jugadores: #|# speler(s)|プレイ人数\n#人")},
+        {'E', Split("ESRB Rating: #|ESRB Rating: #|Classement ESRB: #")}};
     const std::vector<std::string>& words = Wordings.at(field);
     const auto at = static_cast<std::size_t>(std::find(Codes.begin(), Codes.end(), code) - Codes.begin());
     return From_Utf8(at < words.size() ? words[at] : words[0]);
@@ -149,29 +149,28 @@ inline std::string Colored(std::string data, std::string name, const Six& six) {
 }
 
 inline const std::vector<std::string> Materials = Split(
-    "PFLine T_PF Shade Back0 Back1 Back2 Back3 Back4 YearLine PlayLine T_VCTitle_ T_Play_ T_Year_ T_ESRB_ VCPic "
-    "VCPicBase VCPicSha BackMask1 BackMask2",
-    " ");
+    "PFLine|T_PF|Shade|Back0|Back1|Back2|Back3|Back4|YearLine|PlayLine|T_VCTitle_|T_Play_|T_Year_|T_ESRB_|VCPic|"
+    "VCPicBase|"
+    "VCPicSha|BackMask1|BackMask2");
 
 /// `scheme`: 19 times six numbers.
 inline std::string Colored(std::string data, const std::vector<Six>& scheme) {
     for (std::size_t i = 0; i < Materials.size(); ++i) {
-        if (!Materials[i].ends_with('_')) data = Colored(data, Materials[i], scheme[i]);
-        for (std::size_t code = 0; Materials[i].ends_with('_') && code < 7; ++code) {
+        const bool is_text = Materials[i].ends_with('_');
+        if (!is_text) data = Colored(data, Materials[i], scheme[i]);
+        for (std::size_t code = 0; is_text && code < 7; ++code)
             data = Colored(data, Materials[i] + Codes[code], scheme[i]);
-        }
     }
     return data;
 }
 
 inline std::string Forced(std::string data, const std::string& region) {
-    if (region == "NONE" || !Get(data, "T_VCTitle_" + region).empty()) return data;
-    for (const std::string& code : Codes) {
-        if (code == "NONE" || Get(data, "T_VCTitle_" + code).empty()) continue;
-        for (const std::string stem : {"T_YEAR_", "T_PLAY_", "T_ESRB_", "L"})
-            data = Replaced(data, stem + code, stem + region);
-        break;
-    }
+    const auto has_title = [&](const std::string& code) {
+        return code != "NONE" && !Get(data, "T_VCTitle_" + code).empty();
+    };
+    const auto from = std::find_if(Codes.begin(), Codes.end(), has_title);
+    if (region == "NONE" || has_title(region) || from == Codes.end()) return data;
+    for (const char* stem : {"T_YEAR_", "T_PLAY_", "T_ESRB_", "L"}) data = Replaced(data, stem + *from, stem + region);
     return data;
 }
 
