@@ -64,23 +64,21 @@ TEST(Lz77, GivesBackWhatWasPacked) {
 
 /// Tokens of each kind, and streams that lie.
 TEST(Lz77, IsReadAsTheConsoleDoes) {
-    struct Row {
-        std::string stream, bytes, reason;
-    };
-    for (const Row& row :
-         {Row{"LZ77\x10\5\0\0\x20"s + "ab\x00\x01"s, "ababa", ""},
-          {"LZ77\x10\0\0\0\5\0\0\0\x20"s + "ab\x00\x01"s, "ababa", ""},
-          {"LZ77\x11\x05\0\0\x20"s + "ab\x20\x01"s, "ababa", ""},
-          {"LZ77\x11\x12\0\0\x40"s + "a\x00\x00\x00"s, std::string(18, 'a'), ""},
-          {"LZ77\x11\x12\x01\0\x40"s + "a\x10\x00\x00\x00"s, std::string(274, 'a'), ""},
-          {"LZ77\x10\4\0\0\x20"s + "ab\x00\x01"s, "", "LZ77 stream holds more than it says"},
-          {"LZ77\x10\5\0\0\x20"s + "ab\x00\x02"s, "", "LZ77 stream copies from before its start"},
-          {"LZ77\x10\5\0\0\x20"s + "ab\x00"s, "", "LZ77 stream ends too early"},
-          {"LZ77\x12\5\0\0\x20"s + "ab\x00\x01"s, "", "LZ77 stream is of an unknown kind"},
-          {"LZ77\x10\0\0\0\xFF\xFF\xFF\xFF\x20"s + "ab", "", "LZ77 stream says that it holds more than 32 MiB"}}) {
-        const auto read = Lz77_Decompress(row.stream);
-        EXPECT_EQ(read ? "" : read.Why().reason, row.reason);
-        EXPECT_EQ(read ? read->bytes : "", row.bytes);
+    const std::tuple<std::string, std::string, std::string> rows[] = {
+        {"LZ77\x10\5\0\0\x20"s + "ab\x00\x01"s, "ababa", ""},
+        {"LZ77\x10\0\0\0\5\0\0\0\x20"s + "ab\x00\x01"s, "ababa", ""},
+        {"LZ77\x11\x05\0\0\x20"s + "ab\x20\x01"s, "ababa", ""},
+        {"LZ77\x11\x12\0\0\x40"s + "a\x00\x00\x00"s, std::string(18, 'a'), ""},
+        {"LZ77\x11\x12\x01\0\x40"s + "a\x10\x00\x00\x00"s, std::string(274, 'a'), ""},
+        {"LZ77\x10\4\0\0\x20"s + "ab\x00\x01"s, "", "LZ77 stream holds more than it says"},
+        {"LZ77\x10\5\0\0\x20"s + "ab\x00\x02"s, "", "LZ77 stream copies from before its start"},
+        {"LZ77\x10\5\0\0\x20"s + "ab\x00"s, "", "LZ77 stream ends too early"},
+        {"LZ77\x12\5\0\0\x20"s + "ab\x00\x01"s, "", "LZ77 stream is of an unknown kind"},
+        {"LZ77\x10\0\0\0\xFF\xFF\xFF\xFF\x20"s + "ab", "", "LZ77 stream says that it holds more than 32 MiB"}};
+    for (const auto& [stream, bytes, reason] : rows) {
+        const auto read = Lz77_Decompress(stream);
+        EXPECT_EQ(read ? "" : read.Why().reason, reason);
+        EXPECT_EQ(read ? read->bytes : "", bytes);
     }
 }
 

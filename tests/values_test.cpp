@@ -31,47 +31,39 @@ TEST(Padding, IsAWholeNumberUpToItsLimit) {
 }
 
 TEST(BareValue, IsTakenOutOfAnyText) {
-    struct Row {
-        const char16_t *text, *year, *players, *rating;
-    };
-    for (const Row& row : {Row{u"Released: 1985", u"1985", u"5", u"1985"},
-                           {u"ab", u"ab", u"", u""},
-                           {u"0123 and more", u"0123", u"3", u""},
-                           {u"9876 and more", u"9876", u"6", u""},
-                           {u"a: 3 :b", u"3 :b", u"3", u"3"},
-                           {u" 4 Spieler", u"eler", u"", u""},
-                           {u"x^1～2人^y", u"2人^y", u"2", u""},
-                           {u"x^", u"x^", u"", u""},
-                           {u"x y^1～2人", u"1～2人", u"x", u""},
-                           {u"a:  \tE10+ ", u"10+ ", u"+", u"\tE10+"}}) {
-        EXPECT_EQ(Bare_Value(Field::year, row.text, u"ENG"), row.year) << To_Utf8(row.text);
-        EXPECT_EQ(Bare_Value(Field::players, row.text, u"ENG"), row.players) << To_Utf8(row.text);
-        EXPECT_EQ(Bare_Value(Field::rating, row.text, u"ENG"), row.rating) << To_Utf8(row.text);
-        EXPECT_EQ(Bare_Value(Field::title, row.text, u"ENG"), row.text);
+    const std::array<const char16_t*, 4> rows[] = {
+        {u"Released: 1985", u"1985", u"5", u"1985"}, {u"ab", u"ab", u"", u""},
+        {u"0123 and more", u"0123", u"3", u""},      {u"9876 and more", u"9876", u"6", u""},
+        {u"a: 3 :b", u"3 :b", u"3", u"3"},           {u" 4 Spieler", u"eler", u"", u""},
+        {u"x^1～2人^y", u"2人^y", u"2", u""},        {u"x^", u"x^", u"", u""},
+        {u"x y^1～2人", u"1～2人", u"x", u""},       {u"a:  \tE10+ ", u"10+ ", u"+", u"\tE10+"}};
+    for (const auto& [text, year, players, rating] : rows) {
+        EXPECT_EQ(Bare_Value(Field::year, text, u"ENG"), year) << To_Utf8(text);
+        EXPECT_EQ(Bare_Value(Field::players, text, u"ENG"), players) << To_Utf8(text);
+        EXPECT_EQ(Bare_Value(Field::rating, text, u"ENG"), rating) << To_Utf8(text);
+        EXPECT_EQ(Bare_Value(Field::title, text, u"ENG"), text);
     }
 }
 
 TEST(Scheme, IsReadWholeOrRefused) {
-    struct Row {
-        int count;  ///< of nines in front of the rest
-        std::string between, rest, reason;
-    };
-    for (const Row& row :
-         {Row{114, " , ", "", ""},
-          {114, ",\r\n", " and more", ""},
-          {113, "\r", "255", ""},
-          {113, " ", " \r\n,", "ends after 113 of 114 numbers"},
-          {113, " ", "256", "BackMask2: 256 is not between 0 and 255"},
-          {113, " ", "-1", "BackMask2: -1 is not between 0 and 255"},
-          {113, " ", "99999999999999999999", "BackMask2: 99999999999999999999 is not between 0 and 255"},
-          {0, "", "5,,", "PFLINE: \"\" is not a whole number"},
-          {2, "\t", "", "PFLINE: \"9\t9\t\" is not a whole number"},
-          {13, " ", "1.5", "Shade: \"1.5\" is not a whole number"},
-          {2, " ", "+7 +-0", "PFLINE: \"+-0\" is not a whole number"}}) {
+    // So many nines, what stands between them, what stands behind them, and the reason to refuse it all.
+    const std::tuple<int, std::string, std::string, std::string> rows[] = {
+        {114, " , ", "", ""},
+        {114, ",\r\n", " and more", ""},
+        {113, "\r", "255", ""},
+        {113, " ", " \r\n,", "ends after 113 of 114 numbers"},
+        {113, " ", "256", "BackMask2: 256 is not between 0 and 255"},
+        {113, " ", "-1", "BackMask2: -1 is not between 0 and 255"},
+        {113, " ", "99999999999999999999", "BackMask2: 99999999999999999999 is not between 0 and 255"},
+        {0, "", "5,,", "PFLINE: \"\" is not a whole number"},
+        {2, "\t", "", "PFLINE: \"9\t9\t\" is not a whole number"},
+        {13, " ", "1.5", "Shade: \"1.5\" is not a whole number"},
+        {2, " ", "+7 +-0", "PFLINE: \"+-0\" is not a whole number"}};
+    for (const auto& [count, between, rest, reason] : rows) {
         std::string text;
-        for (int i = 0; i < row.count; ++i) text += "9" + row.between;
-        const auto scheme = Parse_Scheme(text + row.rest);
-        EXPECT_EQ(scheme ? "" : scheme.Why().reason, row.reason) << text + row.rest;
+        for (int i = 0; i < count; ++i) text += "9" + between;
+        const auto scheme = Parse_Scheme(text + rest);
+        EXPECT_EQ(scheme ? "" : scheme.Why().reason, reason) << text + rest;
         if (scheme) { EXPECT_EQ((*scheme)[18][0], Make_Color(9, 9, 9)); }
     }
     EXPECT_TRUE(Format_Scheme(Scheme{{{Make_Color(1, 20, 255), 0}}}).starts_with(" 1  20  255  0  0  0 \r\n 0  0 "));
