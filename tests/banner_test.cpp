@@ -42,7 +42,7 @@ const auto Stored = plain::Split(
 const auto Words = plain::Split(
     "TITLE|title|YEAR|Play|PLAY|SYSTEM|ESRB|T_GER|T_ENG|t_jpn|Y_FRA|Y_SPA|Y_ITA|Y_NED|Y_JPN|Y_XYZ|E_FRA|E_GER|H_T_Play_"
     "ENG|"
-    "h_T_PF|H_Years|H_T_Year_NONE|H_|PAD|PAD|FORCE|COLOR|2|LOGO|T_|X_GER||TITLES|Y_TOO_JPN");
+    "h_T_PF|H_Years|H_T_Year_NONE|H_|PAD|PAD|FORCE|COLOR|COLOR|2|LOGO|T_|X_GER||TITLES|Y_TOO_JPN");
 const auto Values = plain::Split(
     "1985||1|4| A^B |\"quo\"ted\"|ita|JPN|NONE|+16|0|300|007|268435457|1:|1.5|x|longer than what was there|ENG|+");
 
@@ -74,7 +74,7 @@ std::string Any_File() {
     for (std::size_t i = Pick(3); i-- > 0;) sections.push_back(Empty_Section("gre1"));
     std::string file = Layout_File(sections) + std::string(Pick(3) * 50, '\0');
     if (Pick(20) == 0) file.erase(0, 16 + 4);  // so that a box's rest stands in front of the first tag
-    return Pick(10) ? file : file.substr(0, Pick(2) ? Pick(file.size()) : file.size() - std::min(file.size(), Pick(9)));
+    return Pick(5) ? file : file.substr(0, Pick(3) ? Pick(file.size()) : file.size() - std::min(file.size(), Pick(9)));
 }
 
 std::string Any_Line() {
