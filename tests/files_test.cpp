@@ -1,3 +1,4 @@
+// Files as the system has them: what is found, and what a replaced one keeps.
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -17,263 +18,164 @@ namespace {
 
 namespace fs = std::filesystem;
 
-TEST(Text, SurvivesTheWayThroughUtf8) {
-    for (const std::string bytes :
-         {"", "plain", "\xE5\xB9\xB4\xF0\x9F\x98\x80", "\xF4\x8F\xBF\xBF", "bad \xFF\xC3 bytes", "\xC3"}) {
-        EXPECT_EQ(To_Utf8(From_Utf8(bytes)), bytes);
+/// A folder with one file, "f".
+class ReplaceFile : public testing::Test {
+ protected:
+    ReplaceFile() { folder_.Write("f", "old"); }
+
+    std::string Native(const std::string& name) const { return (folder_.Path() / name).string(); }
+    struct stat Status(const std::string& name) const {
+        struct stat status {};
+        EXPECT_EQ(::stat(Native(name).c_str(), &status), 0);
+        return status;
     }
-    EXPECT_EQ(From_Utf8("\xF0\x9F\x98\x80"), u"\xD83D\xDE00");
-    EXPECT_EQ(To_Utf8(u"a\xD800"
-                      u"b"),
-              "a\xEF\xBF\xBD"
-              "b");
-    EXPECT_EQ(To_Bytes(u"\u00E9"), "\xE9");
-    EXPECT_EQ(To_Bytes(u"\u0100"), std::nullopt);
-    EXPECT_EQ(To_Bytes(u"\u00FF"), "\xFF");
-    EXPECT_EQ(From_Bytes("\xE9\x41"),
-              u"\u00E9"
-              u"A");
-    EXPECT_EQ(Trim(u"  \ta b  "), u"\ta b");
-    EXPECT_EQ(Trim(u" \na\t "), u"\na\t");
-    EXPECT_EQ(Capitals(u"aZz\u00E9_9"), u"AZZ\u00E9_9");
-    EXPECT_EQ(Replace_All(u"aaa", u"aa", u"b"), u"ba");
-}
+    mode_t Mode(const std::string& name) const { return Status(name).st_mode & 07777; }
+    void Set_Mode(const std::string& name, mode_t mode) const { ::chmod(Native(name).c_str(), mode); }
+    Result<> Replace(const std::string& name, std::string_view bytes, const Notice& notice = {}) const {
+        return Replace_File(folder_.Text() + u"/" + From_Utf8(name), bytes, notice);
+    }
+
+    const TempFolder folder_;
+};
 
 TEST(Paths, AreConvertedWhereTheyMeetTheFileSystem) {
     const TempFolder folder;
-    folder.Write("sub/File.TPL", "x");
-    EXPECT_TRUE(Ordinary_File_Exists(folder.Text() + u"\\sub/File.TPL"));
-    EXPECT_TRUE(Ordinary_File_Exists(folder.Text() + u"\\sub\\")) << "finds any file of the folder";
-    EXPECT_FALSE(Ordinary_File_Exists(folder.Text() + u"\\")) << "holds a folder only";
-    EXPECT_FALSE(Ordinary_File_Exists(folder.Text() + u"\\sub"));
-    EXPECT_FALSE(Ordinary_File_Exists(u""));
-    EXPECT_FALSE(Ordinary_File_Exists(folder.Text() + u"\\sub\\File.TPL" + std::u16string(1, 0) + u"x"));
-    fs::create_symlink("sub/File.TPL", folder.Path() / "link");
-    EXPECT_TRUE(Ordinary_File_Exists(folder.Text() + u"/link"));
-    EXPECT_EQ(Is_Folder(folder.Text() + u"\\sub\\").Value_Or(false), true);
-    EXPECT_EQ(Is_Folder(folder.Text() + u"\\sub\\File.TPL").Value_Or(true), false);
-    EXPECT_EQ(Is_Folder(folder.Text() + u"\\none").Value_Or(true), false);
-    EXPECT_EQ(Resolve(u"/prog", u"\\x"), u"/prog\\x");
-    EXPECT_EQ(Resolve(u"/prog", u"x\\y"), u"x\\y");
-    EXPECT_TRUE(Is_Full_Path(u"C:\\x") && Is_Full_Path(u"/x") && !Is_Full_Path(u"\\x"));
-}
-
-TEST(FileList, IsSortedWithoutCase) {
-    const TempFolder folder;
-    for (const char* name : {"b.tpl", "A.TPL", "Z.tpl", "a.tplx", "a.txt", ".hidden.tpl", "d.tpl/e"}) {
-        folder.Write(name, "");
-    }
+    for (const char* name : {"b.tpl", "A.TPL", "Z.tpl", "a.tplx", ".hidden.tpl", "d.tpl/sub/e"}) folder.Write(name, "");
     fs::create_symlink("self.tpl", folder.Path() / "self.tpl");
+    fs::create_symlink("d.tpl/sub/e", folder.Path() / "link");
     FileList list({".tpl"});
     EXPECT_TRUE(list.Set_Path(folder.Text()));
     EXPECT_EQ(list.Names(), (std::vector<std::u16string>{u"A.TPL", u"b.tpl", u"Z.tpl"}));
     EXPECT_FALSE(list.Set_Path(folder.Text() + u"/none"));
     EXPECT_TRUE(list.Names().empty());
+    EXPECT_TRUE(Ordinary_File_Exists(folder.Text() + u"\\d.tpl/sub\\e"));
+    EXPECT_TRUE(Ordinary_File_Exists(folder.Text() + u"\\d.tpl\\sub\\")) << "finds any file of the folder";
+    EXPECT_TRUE(Ordinary_File_Exists(folder.Text() + u"/link"));
+    EXPECT_FALSE(Ordinary_File_Exists(folder.Text() + u"\\d.tpl\\")) << "holds a folder only";
+    EXPECT_FALSE(Ordinary_File_Exists(folder.Text() + u"\\d.tpl\\sub"));
+    EXPECT_FALSE(Ordinary_File_Exists(u""));
+    EXPECT_FALSE(Ordinary_File_Exists(folder.Text() + u"\\b.tpl" + std::u16string(1, 0) + u"x"));
+    EXPECT_EQ(Is_Folder(folder.Text() + u"\\d.tpl\\").Value_Or(false), true);
+    EXPECT_EQ(Is_Folder(folder.Text() + u"\\b.tpl").Value_Or(true), false);
+    EXPECT_EQ(Is_Folder(folder.Text() + u"\\none").Value_Or(true), false);
+    EXPECT_EQ(Resolve(u"/prog", u"\\x") + Resolve(u"/prog", u"x\\y"), u"/prog\\xx\\y");
+    EXPECT_TRUE(Is_Full_Path(u"C:\\x") && Is_Full_Path(u"/x") && !Is_Full_Path(u"\\x"));
 }
 
-TEST(Controls, RaiseTheirEventsInTheCall) {
-    int changes = 0, clicks = 0;
-    TextBox box;
-    box.Change = [&] { ++changes; };
-    box.Set(u"a");
-    box.Set(u"a");
-    box.Set(u"");
-    EXPECT_EQ(changes, 2);
-    DropDownList list({u"x", u"y"});
-    list.Click = [&] { ++clicks; };
-    list.Select(1);
-    list.Select(1);
-    EXPECT_EQ(clicks, 1);
-    list.Pick(1);
-    EXPECT_EQ(clicks, 2) << "a person's pick counts even when nothing changes";
-    list.Select(7);
-    EXPECT_EQ(list.Index(), DropDownList::NoSelection);
-    EXPECT_EQ(list.Selected(), u"");
-    list.Select(0);
-    list.Clear();
-    EXPECT_EQ(clicks, 4) << "emptying raises nothing";
-}
-
-TEST(ReplaceFile, MakesAndReplacesFilesWhole) {
-    const TempFolder folder;
-    const std::u16string file = folder.Text() + u"/f";
-    EXPECT_TRUE(Replace_File(file, std::string(100000, 'a')));
-    struct stat made {};
-    ::stat((folder.Path() / "f").c_str(), &made);
+TEST_F(ReplaceFile, MakesAndReplacesFilesWhole) {
+    const std::string longest(255, 'n');
     const mode_t mask = ::umask(0);
     ::umask(mask);
-    EXPECT_EQ(made.st_mode & 07777, 0666 & ~mask);
-    EXPECT_TRUE(Replace_File(file, "short"));
-    EXPECT_EQ(folder.Read("f"), "short");
-    if (::geteuid() == 0) { EXPECT_EQ(::chown((folder.Path() / "f").c_str(), 65534, 65534), 0); }
-    struct stat owned {};
-    ::stat((folder.Path() / "f").c_str(), &owned);
-    ::chmod((folder.Path() / "f").c_str(), 03640);
-    EXPECT_TRUE(Replace_File(file, "b"));
-    struct stat info {};
-    ::stat((folder.Path() / "f").c_str(), &info);
-    EXPECT_EQ(info.st_mode & 07777, 01640U);
-    EXPECT_EQ(info.st_uid, owned.st_uid);
-    EXPECT_EQ(info.st_gid, owned.st_gid);
-    EXPECT_EQ(folder.Names(), std::vector<std::string>{"f"});
+    EXPECT_TRUE(Replace(longest, std::string(100000, 'a')));
+    EXPECT_EQ(Mode(longest), 0666 & ~mask);
+    if (::geteuid() == 0) { EXPECT_EQ(::chown(Native(longest).c_str(), 65534, 65534), 0); }
+    Set_Mode(longest, 03640);
+    const struct stat before = Status(longest);
+    EXPECT_TRUE(Replace(longest, "short"));
+    EXPECT_EQ(folder_.Read(longest), "short");
+    EXPECT_EQ(Mode(longest), 01640U);
+    EXPECT_TRUE(Status(longest).st_uid == before.st_uid && Status(longest).st_gid == before.st_gid);
+    EXPECT_FALSE(Replace(longest + "n", "x"));
+    EXPECT_EQ(folder_.Names(), (std::vector<std::string>{"f", longest}));
 }
 
-TEST(ReplaceFile, AFailedWriteLeavesTheOldFile) {
-    const TempFolder folder;
-    folder.Write("f", "old");
+TEST_F(ReplaceFile, AFailedWriteLeavesTheOldFile) {
     struct rlimit before {};
     ::getrlimit(RLIMIT_FSIZE, &before);
     const struct rlimit small { 1000, before.rlim_max };
     const auto handler = ::signal(SIGXFSZ, SIG_IGN);
     ::setrlimit(RLIMIT_FSIZE, &small);
-    const auto written = Replace_File(folder.Text() + u"/f", std::string(5000, 'x'));
+    const auto written = Replace("f", std::string(5000, 'x'));
     ::setrlimit(RLIMIT_FSIZE, &before);
     ::signal(SIGXFSZ, handler);
     EXPECT_TRUE(!written && written.Why().reason == "File too large");
-    EXPECT_EQ(folder.Read("f"), "old");
-    EXPECT_EQ(folder.Names(), std::vector<std::string>{"f"});
+    EXPECT_EQ(folder_.Read("f"), "old");
+    EXPECT_EQ(folder_.Names(), std::vector<std::string>{"f"});
 }
 
-/// A list in the kernel's own form: version 2, then tag, rights and identity of each entry.
-std::string Access_List() {
-    const auto entry = [](char tag, char rights, int user) {
-        return std::string{tag, 0, rights, 0} + (user < 0 ? std::string(4, '\xFF') : std::string{char(user), 0, 0, 0});
-    };
-    return "\2" + std::string(3, '\0') + entry(1, 6, -1) + entry(2, 4, 9) + entry(4, 4, -1) + entry(16, 6, -1) +
-           entry(32, 0, -1);
-}
-
-TEST(ReplaceFile, KeepsAttributesAndAccessLists) {
-    const std::pair<const char*, std::string> attributes[] = {
-        {"user.note", "kept"}, {"user.other", "as well"}, {"system.posix_acl_access", Access_List()}};
-    const TempFolder folder;
-    folder.Write("f", "old");
-    const std::string file = (folder.Path() / "f").string();
-    for (const auto& [name, value] : attributes) {
-        if (::setxattr(file.c_str(), name, value.data(), value.size(), 0) != 0) {
-            GTEST_SKIP() << name << ": none on this file system";
-        }
+TEST_F(ReplaceFile, KeepsAttributesAndAccessListsAndGainsNone) {
+    // A list in the kernel's own form: version 2, then tag, rights and identity of each entry.
+    std::string list("\2\0\0\0", 4);
+    for (const auto& [tag, rights, user] : {std::array{1, 6, -1}, {2, 4, 9}, {4, 4, -1}, {16, 6, -1}, {32, 0, -1}}) {
+        list += {static_cast<char>(tag), 0, static_cast<char>(rights), 0};
+        list += user < 0 ? std::string(4, '\xFF') : std::string{static_cast<char>(user), 0, 0, 0};
     }
-    const auto nothing_lost = [](const Failure& loss) { ADD_FAILURE() << loss.reason; };
-    EXPECT_TRUE(Replace_File(folder.Text() + u"/f", "new", nothing_lost));
+    const char* const access = "system.posix_acl_access";
+    const std::pair<const char*, std::string> attributes[] = {
+        {"user.note", "kept"}, {"user.other", "as well"}, {access, list}};
+    folder_.Write("d/f", "old");
+    Set_Mode("d/f", 0640);
+    const auto set = [&](const std::string& name, const char* attribute, const std::string& value) {
+        return ::setxattr(Native(name).c_str(), attribute, value.data(), value.size(), 0) == 0;
+    };
+    bool can = set("d", "system.posix_acl_default", list);
+    for (const auto& [name, value] : attributes) can = can && set("f", name, value);
+    if (!can) GTEST_SKIP() << "none on this file system";
+    EXPECT_TRUE(Replace("f", "new", [](const Failure& loss) { ADD_FAILURE() << loss.reason; }));
     for (const auto& [name, value] : attributes) {
-        std::string found(100, '\0');
-        found.resize(static_cast<std::size_t>(std::max<ssize_t>(0, ::getxattr(file.c_str(), name, found.data(), 100))));
+        std::string found(value.size(), '\0');
+        EXPECT_EQ(::getxattr(Native("f").c_str(), name, found.data(), found.size()), ssize_t(value.size()));
         EXPECT_EQ(found, value) << name;
     }
-    EXPECT_EQ(folder.Read("f"), "new");
+    EXPECT_TRUE(Replace("d/f", "new"));
+    EXPECT_LT(::getxattr(Native("d/f").c_str(), access, nullptr, 0), 0);
+    EXPECT_EQ(Mode("d/f"), 0640U);
 }
 
-TEST(ReplaceFile, GainsNoAccessListFromItsFolder) {
-    const TempFolder folder;
-    folder.Write("d/f", "old");
-    ::chmod((folder.Path() / "d/f").c_str(), 0640);
-    const std::string list = Access_List();
-    if (::setxattr((folder.Path() / "d").c_str(), "system.posix_acl_default", list.data(), list.size(), 0) != 0) {
-        GTEST_SKIP() << "no access lists on this file system";
+TEST_F(ReplaceFile, KeepsLinks) {
+    folder_.Write("real/x", "");
+    for (const auto& [to, name] : {std::pair{"f", "one"}, {"one", "two"}, {"real/new", "dangling"}, {"loop", "loop"}}) {
+        fs::create_symlink(to, Native(name));
     }
-    EXPECT_TRUE(Replace_File(folder.Text() + u"/d/f", "new"));
-    EXPECT_LT(::getxattr((folder.Path() / "d/f").c_str(), "system.posix_acl_access", nullptr, 0), 0);
-    struct stat info {};
-    ::stat((folder.Path() / "d/f").c_str(), &info);
-    EXPECT_EQ(info.st_mode & 07777, 0640U);
+    fs::create_symlink(Native("f"), Native("real/absolute"));
+    EXPECT_TRUE(Replace("two", "fresh"));
+    EXPECT_EQ(folder_.Read("f"), "fresh");
+    EXPECT_TRUE(fs::is_symlink(Native("two")) && fs::is_symlink(Native("one")));
+    EXPECT_TRUE(Replace("dangling", "made"));
+    EXPECT_EQ(folder_.Read("real/new"), "made");
+    EXPECT_TRUE(Replace("real/absolute", "again"));
+    EXPECT_EQ(folder_.Read("f"), "again");
+    EXPECT_FALSE(Replace("loop", "x"));
 }
 
-TEST(ReplaceFile, TakesNamesUpToTheLimit) {
-    const TempFolder folder;
-    EXPECT_TRUE(Replace_File(folder.Text() + u"/" + std::u16string(255, u'n'), "x"));
-    EXPECT_TRUE(Replace_File(folder.Text() + u"/" + std::u16string(255, u'n'), "y"));
-    EXPECT_EQ(folder.Read(std::string(255, 'n')), "y");
-    EXPECT_FALSE(Replace_File(folder.Text() + u"/" + std::u16string(256, u'n'), "x"));
-    EXPECT_EQ(folder.Names().size(), 1U);
-}
-
-TEST(ReplaceFile, KeepsLinks) {
-    const TempFolder folder;
-    folder.Write("real/f", "old");
-    fs::create_symlink("real/f", folder.Path() / "one");
-    fs::create_symlink("one", folder.Path() / "two");
-    fs::create_symlink("real/new", folder.Path() / "dangling");
-    fs::create_symlink("loop", folder.Path() / "loop");
-    EXPECT_TRUE(Replace_File(folder.Text() + u"/two", "fresh"));
-    EXPECT_EQ(folder.Read("real/f"), "fresh");
-    EXPECT_TRUE(fs::is_symlink(folder.Path() / "two") && fs::is_symlink(folder.Path() / "one"));
-    EXPECT_TRUE(Replace_File(folder.Text() + u"/dangling", "made"));
-    EXPECT_EQ(folder.Read("real/new"), "made");
-    fs::create_symlink(folder.Path() / "real/f", folder.Path() / "real/absolute");
-    EXPECT_TRUE(Replace_File(folder.Text() + u"/real/absolute", "again"));
-    EXPECT_EQ(folder.Read("real/f"), "again");
-    EXPECT_FALSE(Replace_File(folder.Text() + u"/loop", "x"));
-}
-
-TEST(ReplaceFile, RefusesWhatIsNoOrdinaryFile) {
-    const TempFolder folder;
-    folder.Write("dir/inside", "x");
-    ::mkfifo((folder.Path() / "pipe").c_str(), 0666);
-    const auto before = folder.Names();
-    for (const std::u16string name : {u"/dir", u"/pipe", u"/none/f"}) {
-        EXPECT_FALSE(Replace_File(folder.Text() + name, "x")) << To_Utf8(name);
-        const auto bytes = Read_File(folder.Text() + name);
+TEST_F(ReplaceFile, RefusesWhatIsNoOrdinaryFile) {
+    fs::create_directory(Native("dir"));
+    ::mkfifo(Native("pipe").c_str(), 0666);
+    const auto before = folder_.Names();
+    for (const std::string name : {"dir", "pipe", "none/f"}) {
+        EXPECT_FALSE(Replace(name, "x")) << name;
+        const auto bytes = Read_File(folder_.Text() + u"/" + From_Utf8(name));
         ASSERT_FALSE(bytes);
-        EXPECT_EQ(bytes.Why().subject, folder.Text() + name);
+        EXPECT_EQ(bytes.Why().subject, folder_.Text() + u"/" + From_Utf8(name));
         EXPECT_NE(bytes.Why().reason, "");
     }
-    EXPECT_EQ(folder.Names(), before);
+    EXPECT_EQ(folder_.Names(), before);
 }
 
-/// Runs as a user without privileges from here to the end of the scope, where the test may.
-class Unprivileged {
- public:
-    Unprivileged() {
-        if (privileged_) { EXPECT_EQ(::seteuid(65534), 0); }
+/// As a user without privileges, where the test may become one.
+TEST_F(ReplaceFile, RespectsPermissionsAndTellsWhatItCannotKeep) {
+    folder_.Write("closed/f", "old");
+    folder_.Write("readonly", "old");
+    for (const auto& [name, mode] : {std::pair{"f", 06666}, {"readonly", 0444}, {"closed/f", 0666}, {"closed", 0555}}) {
+        Set_Mode(name, static_cast<mode_t>(mode));
     }
-    ~Unprivileged() {
-        if (privileged_) { EXPECT_EQ(::seteuid(0), 0); }
-    }
-    Unprivileged(const Unprivileged&) = delete;
-    Unprivileged& operator=(const Unprivileged&) = delete;
-
- private:
-    const bool privileged_ = ::geteuid() == 0;
-};
-
-TEST(ReplaceFile, TellsWhatItCannotKeep) {
-    const TempFolder folder;
-    folder.Write("f", "old");
-    ::chmod((folder.Path() / "f").c_str(), 06666);
-    ::chmod(folder.Path().c_str(), 0777);
-    if (::geteuid() != 0) GTEST_SKIP() << "needs a file of another user";
+    Set_Mode("", 0777);
+    const auto before = folder_.Names();
+    const bool privileged = ::geteuid() == 0;
+    if (privileged) { ASSERT_EQ(::seteuid(65534), 0); }
+    const auto readonly = Replace("readonly", "x"), closed = Replace("closed/f", "x");
     std::string told;
-    const Unprivileged user;
-    EXPECT_TRUE(Replace_File(folder.Text() + u"/f", "new",
-                             [&](const Failure& loss) { told = loss.reason + " " + folder.Read("f"); }));
-    EXPECT_EQ(told, "Saved, but could not keep its owner new") << "and told when it is there";
-    struct stat info {};
-    ::stat((folder.Path() / "f").c_str(), &info);
-    EXPECT_EQ(info.st_mode & 07777, 0666U) << "without the rights of the one who had it";
-}
-
-TEST(ReplaceFile, RespectsPermissions) {
-    const TempFolder folder;
-    folder.Write("open/readonly", "old");
-    folder.Write("closed/f", "old");
-    ::chmod((folder.Path() / "open/readonly").c_str(), 0444);
-    ::chmod((folder.Path() / "open").c_str(), 0777);
-    ::chmod((folder.Path() / "closed/f").c_str(), 0666);
-    ::chmod((folder.Path() / "closed").c_str(), 0555);
-    ::chmod(folder.Path().c_str(), 0755);
-    const auto before = folder.Names();
-    {
-        const Unprivileged user;
-        for (const std::u16string name : {u"/open/readonly", u"/closed/f"}) {
-            const auto written = Replace_File(folder.Text() + name, "x");
-            ASSERT_FALSE(written) << To_Utf8(name);
-            EXPECT_EQ(written.Why().reason, "Permission denied");
-        }
-    }
-    EXPECT_EQ(folder.Read("open/readonly") + folder.Read("closed/f"), "oldold");
-    ::chmod((folder.Path() / "closed").c_str(), 0755);
-    EXPECT_EQ(folder.Names(), before);
+    const auto replaced = Replace("f", "new", [&](const Failure& loss) { told = loss.reason + folder_.Read("f"); });
+    if (privileged) { ASSERT_EQ(::seteuid(0), 0); }
+    Set_Mode("closed", 0755);
+    EXPECT_EQ(readonly ? "" : readonly.Why().reason, "Permission denied");
+    EXPECT_EQ(closed ? "" : closed.Why().reason, "Permission denied");
+    EXPECT_EQ(folder_.Read("readonly") + folder_.Read("closed/f"), "oldold");
+    EXPECT_EQ(folder_.Names(), before);
+    if (!privileged) GTEST_SKIP() << "the rest needs a file of another user";
+    EXPECT_TRUE(replaced);
+    EXPECT_EQ(told, "Saved, but could not keep its ownernew") << "and told when it is there";
+    EXPECT_EQ(Mode("f"), 0666U) << "without the rights of the one who had it";
 }
 
 }  // namespace

@@ -6,8 +6,15 @@
 #include <string>
 #include <vector>
 
+#include "banner/banner.h"
 #include "base/numbers.h"
+#include "base/text.h"
+#include "inspect/report.h"
+#include "inspect/warnings.h"
+#include "layout/kind.h"
+#include "layout/pieces.h"
 #include "layout/text_box.h"
+#include "mainwindow/command_line.h"
 
 namespace bannersmith {
 
@@ -16,10 +23,10 @@ namespace plain {
 
 using namespace std::string_literals;
 
-inline std::vector<std::string> Split(const std::string& data) {
+inline std::vector<std::string> Split(const std::string& data, const std::string& separator = "|") {
     std::vector<std::string> pieces;
     std::size_t start = 0;
-    for (std::size_t at; (at = data.find("txt1", start)) != data.npos; start = at + 4) {
+    for (std::size_t at; (at = data.find(separator, start)) != data.npos; start = at + separator.size()) {
         pieces.push_back(data.substr(start, at - start));
     }
     pieces.push_back(data.substr(start));
@@ -28,7 +35,7 @@ inline std::vector<std::string> Split(const std::string& data) {
 
 inline std::string Find(const std::string& data, const std::string& name, const std::string& wanted) {
     std::string key;
-    for (const std::string& piece : Split(data)) {
+    for (const std::string& piece : Split(data, "txt1")) {
         if (wanted.empty() || (piece.size() >= 8 + wanted.size() && piece.substr(8, wanted.size()) == wanted)) {
             key = "txt1" + piece.substr(0, 8 + name.size());
         }
@@ -75,20 +82,18 @@ Text Replaced(Text text, const Text& old, const Text& fresh) {
     return text;
 }
 
-inline const std::vector<std::string> Codes = {"ENG", "GER", "FRA", "ITA", "SPA", "NED", "JPN", "NONE"};
+inline const std::vector<std::string> Codes = Split("ENG|GER|FRA|ITA|SPA|NED|JPN|NONE");
 
 /// The wording of a field ('T'itle, 'Y'ear, 'P'layers, 'E'SRB) with "#" for the value.
 inline std::u16string Wording(char field, const std::string& code) {
-    static const std::map<std::string, std::u16string> Wordings = {
-        {"YENG", u"Released: #"},       {"YGER", u"Erschienen: #"},   {"YFRA", u"Publié en #"},
-        {"YITA", u"Pubblicato: #"},     {"YSPA", u"Año: #"},          {"YNED", u"Release: #"},
-        {"YJPN", u"#年発売"},           {"PENG", u"Players: #"},      {"PGER", u"# Spieler"},
-        {"PFRA", u"Joueurs: #"},        {"PITA", u"Giocatori: #"},    {"PSPA", u"Jugadores: #"},
-        {"PNED", u"# speler(s)"},       {"PJPN", u"プレイ人数\n#人"}, {"EENG", u"ESRB Rating: #"},
-        {"EFRA", u"Classement ESRB: #"}};
-    if (field == 'T') return u"#";
-    const auto found = Wordings.find(field + code);
-    return found == Wordings.end() ? Wordings.at(field + "ENG"s) : found->second;
+    static const std::map<char, std::vector<std::string>> Wordings = {
+        {'T', {"#"}},
+        {'Y', Split("Released: #|Erschienen: #|Publié en #|Pubblicato: #|Año: #|Release: #|#年発売")},
+        {'P', Split("Players: #|# Spieler|Joueurs: #|Giocatori: #|Jugadores: #|# speler(s)|プレイ人数\n#人")},
+        {'E', Split("ESRB Rating: #|ESRB Rating: #|Classement ESRB: #")}};
+    const std::vector<std::string>& words = Wordings.at(field);
+    const auto at = static_cast<std::size_t>(std::find(Codes.begin(), Codes.end(), code) - Codes.begin());
+    return From_Utf8(at < words.size() ? words[at] : words[0]);
 }
 
 inline std::u16string Compose(char field, std::u16string value, const std::string& code) {
@@ -143,30 +148,29 @@ inline std::string Colored(std::string data, std::string name, const Six& six) {
     return data;
 }
 
-inline const std::vector<std::string> Materials = {"PFLine",     "T_PF",     "Shade",     "Back0",    "Back1",
-                                                   "Back2",      "Back3",    "Back4",     "YearLine", "PlayLine",
-                                                   "T_VCTitle_", "T_Play_",  "T_Year_",   "T_ESRB_",  "VCPic",
-                                                   "VCPicBase",  "VCPicSha", "BackMask1", "BackMask2"};
+inline const std::vector<std::string> Materials = Split(
+    "PFLine|T_PF|Shade|Back0|Back1|Back2|Back3|Back4|YearLine|PlayLine|T_VCTitle_|T_Play_|T_Year_|T_ESRB_|VCPic|"
+    "VCPicBase|"
+    "VCPicSha|BackMask1|BackMask2");
 
 /// `scheme`: 19 times six numbers.
 inline std::string Colored(std::string data, const std::vector<Six>& scheme) {
     for (std::size_t i = 0; i < Materials.size(); ++i) {
-        if (!Materials[i].ends_with('_')) data = Colored(data, Materials[i], scheme[i]);
-        for (std::size_t code = 0; Materials[i].ends_with('_') && code < 7; ++code) {
+        const bool is_text = Materials[i].ends_with('_');
+        if (!is_text) data = Colored(data, Materials[i], scheme[i]);
+        for (std::size_t code = 0; is_text && code < 7; ++code)
             data = Colored(data, Materials[i] + Codes[code], scheme[i]);
-        }
     }
     return data;
 }
 
 inline std::string Forced(std::string data, const std::string& region) {
-    if (region == "NONE" || !Get(data, "T_VCTitle_" + region).empty()) return data;
-    for (const std::string& code : Codes) {
-        if (code == "NONE" || Get(data, "T_VCTitle_" + code).empty()) continue;
-        for (const std::string stem : {"T_YEAR_", "T_PLAY_", "T_ESRB_", "L"})
-            data = Replaced(data, stem + code, stem + region);
-        break;
-    }
+    const auto has_title = [&](const std::string& code) {
+        return code != "NONE" && !Get(data, "T_VCTitle_" + code).empty();
+    };
+    const auto from = std::find_if(Codes.begin(), Codes.end(), has_title);
+    if (region == "NONE" || has_title(region) || from == Codes.end()) return data;
+    for (const char* stem : {"T_YEAR_", "T_PLAY_", "T_ESRB_", "L"}) data = Replaced(data, stem + *from, stem + region);
     return data;
 }
 
@@ -175,55 +179,48 @@ inline std::string Trimmed(const std::string& text) {
     return first == text.npos ? "" : text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
+inline std::string Capitals(std::string text) {
+    for (char& c : text) c = c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c;
+    return text;
+}
+
 /// What a batch run makes of a file; nothing where it fails. The line has no path, each character of it is a byte, and
 /// every scheme that it names is `scheme`.
-inline std::optional<std::string> Batch(const std::string& file, const std::u16string& line,
+inline std::optional<std::string> Batch(const std::string& file, const std::string& line,
                                         const std::vector<Six>& scheme = {}) {
     std::string data = Cut(file), force = "NONE", pad = "12000";
     const std::string neutral = Neutral(data);
-    std::vector<std::string> pieces(1);
-    for (const char16_t unit : line) {
-        if (unit > 0xFF) return std::nullopt;
-        unit == u'-' ? pieces.emplace_back() : pieces.back() += static_cast<char>(unit);
-    }
-    for (std::size_t i = 1; i < pieces.size(); ++i) {
-        const std::string typed = pieces[i].substr(0, pieces[i].find(' '));
-        std::string word = typed;
-        for (char& c : word) c = c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c;
-        const auto value = [&](std::size_t skipped, bool quotes = false) {
-            const std::string text = Trimmed(pieces[i].substr(skipped));
-            const std::string kept = quotes ? text : Replaced<std::string>(text, "\"", "");
-            std::u16string units;
-            for (const char c : kept) units += static_cast<unsigned char>(c);
-            return units;
-        };
-        const auto room = [&](std::size_t skipped) { return pieces[i].size() >= skipped; };
-        const auto narrow = [](const std::u16string& text) { return std::string(text.begin(), text.end()); };
-        const std::string code = word.size() < 3 ? word : word.substr(word.size() - 3);
-        if (word == "LOGO") continue;
+    const std::vector<std::string> pieces = Split(line, "-");
+    for (auto piece = pieces.begin() + 1; piece != pieces.end(); ++piece) {
+        const std::string typed = piece->substr(0, piece->find(' ')), word = Capitals(typed), start = word.substr(0, 2);
+        const std::string code = word.substr(word.size() - std::min<std::size_t>(word.size(), 3));
+        const bool of_a_language = start == "T_" || start == "Y_" || start == "E_";
+        const std::size_t skipped = of_a_language ? 6 : word.size() + (word == "FORCE" || start == "H_" ? 0 : 1);
+        if (piece->size() < skipped) continue;
+        std::string value = Trimmed(piece->substr(skipped));
+        if (word != "YEAR") value = Replaced<std::string>(value, "\"", "");
         if (word == "FORCE") {
-            std::string region = room(5) ? narrow(value(5)) : "";
-            for (char& c : region) c = c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c;
-            if (std::find(Codes.begin(), Codes.end(), region) != Codes.end()) force = region;
+            if (std::find(Codes.begin(), Codes.end(), Capitals(value)) != Codes.end()) force = Capitals(value);
         } else if (word == "COLOR") {
-            if (room(6)) data = Colored(data, scheme);
+            data = Colored(data, scheme);
         } else if (word == "TITLE" || word == "YEAR" || word == "PLAY" || word == "ESRB") {
-            if (room(word.size() + 1)) {
-                data = Set_All(data, word[0], value(word.size() + 1, word == "YEAR"), neutral);
-            }
+            data = Set_All(data, word[0], From_Bytes(value), neutral);
         } else if (word == "SYSTEM") {
-            if (room(7)) data = Set(data, "T_PF", value(7));
+            data = Set(data, "T_PF", From_Bytes(value));
         } else if (word == "PAD") {
-            if (room(4)) pad = narrow(value(4));
-        } else if ((word.starts_with("T_") || word.starts_with("Y_") || word.starts_with("E_")) && room(6)) {
-            data = Set(data, Prefix(word[0]) + code, Compose(word[0], value(6), code));
-        } else if (word.starts_with("H_")) {
-            data = Set(data, typed.substr(2), value(typed.size()));
+            pad = value;
+        } else if (of_a_language) {
+            data = Set(data, Prefix(word[0]) + code, Compose(word[0], From_Bytes(value), code));
+        } else if (start == "H_") {
+            data = Set(data, typed.substr(2), From_Bytes(value));
         }
     }
     const bool add = pad.starts_with('+');
     if (add) pad.erase(0, 1);
-    if ((pad.empty() && add) || pad.find_first_not_of("0123456789") != pad.npos || pad.size() > 6) return std::nullopt;
+    if ((pad.empty() && add) || pad.find_first_not_of("0123456789") != pad.npos) return std::nullopt;
+    pad = "0" + pad;
+    pad.erase(0, std::min(pad.find_first_not_of('0'), pad.size() - 1));
+    if (pad.size() > 9 || std::stoul(pad) > 268435456) return std::nullopt;
     for (const std::string& code : Codes) {
         for (const char field : {'T', 'Y', 'P', 'E'})
             data = Set(data, Prefix(field) + code, Get(data, Prefix(field) + code));
@@ -231,8 +228,52 @@ inline std::optional<std::string> Batch(const std::string& file, const std::u16s
     data = Set(data, "T_PF", Get(data, "T_PF"));
     Write_U32(data, 8, static_cast<std::uint32_t>(data.size()));
     data = Forced(data, force);
-    const std::size_t wanted = (pad.empty() ? 0 : std::stoul(pad)) + (add ? data.size() : 0);
+    const std::size_t wanted = std::stoul(pad) + (add ? data.size() : 0);
     return data + std::string(std::max(wanted, data.size()) - data.size(), '\0');
+}
+
+/// What the editor does otherwise than the rules say with a file and a command line, where every scheme named is
+/// `scheme`, or there is none; empty where it keeps to them.
+inline std::string Difference(const std::string& file, const std::string& line, const std::u16string& folder,
+                              const std::vector<Six>& scheme = {}) {
+    Banner banner = Banner::From_Bytes(file, BannerSource(folder + u"/a/b/c"));
+    const std::string loaded = banner.Bytes();
+    for (const Edit& edit : ParseClo(From_Bytes(line), folder).edits) {
+        const std::string before = banner.Bytes();
+        if (!banner.Apply(edit)) return scheme.empty() && std::holds_alternative<ApplyScheme>(edit) ? "" : "a failure";
+        if (before == banner.Bytes()) continue;
+        if (!banner.Undo() || banner.Bytes() != before || !banner.Redo() || banner.Redo()) return "undo, or redo";
+    }
+    if (banner.Has_Unsaved_Changes() != (banner.Bytes() != loaded)) return "unsaved changes";
+    const auto plan = banner.Plan_Save();
+    const auto expected = loaded.size() < 12 ? std::nullopt : Batch(file, line, scheme);
+    if (static_cast<bool>(plan) != expected.has_value()) return "what fails";
+    if (plan && plan->Layout() != *expected) return "bytes saved";
+    while (banner.Undo()) continue;
+    if (banner.Bytes() != loaded) return "the way back";
+    std::string fields = loaded;
+    for (const auto& [field, letter] : {std::pair{Field::players, 'P'}, {Field::year, 'Y'}, {Field::rating, 'E'}}) {
+        for (const std::string code : {"NONE", "GER", "FRA"}) {
+            static_cast<void>(banner.Apply(SetField{field, From_Bytes(code), u"7"}));
+            fields = Set(fields, Prefix(letter) + code, Compose(letter, u"7", code == "NONE" ? Neutral(loaded) : code));
+        }
+    }
+    if (banner.Bytes() != fields) return "single fields";
+    const std::vector<std::string> names = Text_Box_Names(file);
+    if (names.size() + 1 != Split(file, "txt1").size()) return "number of boxes";
+    for (const auto test : {Pieces::Test::exact, Pieces::Test::prefix}) {
+        const auto found =
+            Pieces(file).Find_Records(file, std::vector<std::string_view>(names.begin(), names.end()), test);
+        for (std::size_t i = 0; i < names.size(); ++i) {
+            if (found[i] != Pieces(file).Find_Record(file, names[i], test)) return "records found at once";
+        }
+    }
+    if (!Is_Layout(file)) return "";
+    const LayoutInfo layout = Read_Layout(file);
+    for (const auto write : {Write_Json, Write_Text}) {
+        write({"any", {}, layout, Find_Warnings(file, layout)}, [](std::string_view) {});
+    }
+    return "";
 }
 
 }  // namespace plain

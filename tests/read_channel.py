@@ -17,28 +17,24 @@ def check(holds, what):
 
 
 def u8(data):
-    """Paths and bytes of an archive, in order; every byte of it is accounted for."""
-    check(word(data, 0) == 0x55AA382D and word(data, 4) == 0x20, "no U8 archive")
-    count, table = word(data, 0x28), word(data, 8)
-    names, place = 0x20 + 12 * count, (0x20 + table + 31) // 32 * 32
-    check(word(data, 12) == place, "U8 data offset")
-    check(not any(data[0x20 + table:place]), "U8 padding")
-    files, folders = [], [("", count)]
+    """The bytes of an archive's files by their paths, in order; every byte of it is accounted for."""
+    count, end = word(data, 0x28), 0x20 + word(data, 8)
+    names, place = 0x20 + 12 * count, (end + 31) // 32 * 32
+    check(data[:8] == b"U\xaa8-\0\0\0 " and word(data, 12) == place, "U8 header")
+    files, folders = {}, [("", count)]
     for node in range(1, count):
         while node >= folders[-1][1]:
             folders.pop()
-        kind, offset, size = word(data, 0x20 + 12 * node), word(data, 0x24 + 12 * node), word(data, 0x28 + 12 * node)
+        kind, offset, size = struct.unpack_from(">III", data, 0x20 + 12 * node)
         start = names + (kind & 0xFFFFFF)
         path = folders[-1][0] + data[start:data.index(0, start)].decode()
         if kind >> 24:
             folders.append((path + "/", size))
             continue
-        check(offset == place, path + " is not behind the file before it")
-        files.append((path, data[offset:offset + size]))
-        check(len(files[-1][1]) == size, path + " is cut off")
-        place = (offset + size + 31) // 32 * 32
-        check(not any(data[offset + size:place]), "padding behind " + path)
-    check(len(data) <= place, "bytes behind the last file")
+        check(offset == place and not any(data[end:place]), path + " is not behind the file before it, filled up")
+        files[path], end = data[offset:offset + size], offset + size
+        place = (end + 31) // 32 * 32
+    check(end <= len(data) <= place and not any(data[end:]), "end of the last file")
     return files
 
 
@@ -53,17 +49,14 @@ def unpacked(part, name):
     while len(out) < size:
         flags, at = part[at], at + 1
         for bit in range(7, -1, -1):
-            if len(out) >= size:
-                break
-            if not flags >> bit & 1:
+            if flags >> bit & 1 and len(out) < size:
+                pair, at = part[at] << 8 | part[at + 1], at + 2
+                check(pair & 0xFFF < len(out), name + ": LZ77 distance")
+                for _ in range((pair >> 12) + 3):
+                    out.append(out[-1 - (pair & 0xFFF)])
+            elif len(out) < size:
                 out.append(part[at])
                 at += 1
-                continue
-            pair, at = part[at] << 8 | part[at + 1], at + 2
-            distance = (pair & 0xFFF) + 1
-            check(distance <= len(out), name + ": LZ77 distance")
-            for _ in range((pair >> 12) + 3):
-                out.append(out[-distance])
     check(len(out) == size and not any(part[at:]) and len(part) - at < 4, name + ": LZ77 end")
     return bytes(out)
 
@@ -75,12 +68,12 @@ def channel(path):
     header = data[0x40:0x640]
     check(header[0x40:0x44] == b"IMET" and word(header, 0x44) == 0x600, "no IMET header")
     check(hashlib.md5(header[:0x5F0] + bytes(16)).digest() == header[0x5F0:], "IMET checksum")
-    parts, files, sizes = dict(u8(data[0x640:])), {}, []
+    parts, files, sizes = u8(data[0x640:]), {}, []
     for name in ("meta/icon.bin", "meta/banner.bin", "meta/sound.bin"):
         content = unpacked(parts[name], name)
         sizes.append(len(content))
-        inner = u8(content) if content[:4] == b"U\xaa8-" else [("", content)]
-        files.update({name + "/" + inner_name: inner_bytes for inner_name, inner_bytes in inner})
+        inner = u8(content) if content[:4] == b"U\xaa8-" else {"": content}
+        files.update({name + "/" + path: inner[path] for path in inner})
     check(sizes == [word(header, at) for at in (0x4C, 0x50, 0x54)], "IMET sizes")
     rest = data[:0x40] + header[:0x4C] + header[0x58:0x5C] + header[0x3A4:0x5F0]
     return header[0x5C:0x3A4], rest, parts, files

@@ -1,0 +1,66 @@
+// The fuzz targets. Each is built as a program of its own, which calls its function.
+#include <cstdlib>
+
+#include "colors/scheme.h"
+#include "container/archive.h"
+#include "plain_rules.h"
+#include "texture/fitting.h"
+
+using namespace bannersmith;
+
+namespace {
+
+void Require(bool holds) {
+    if (!holds) std::abort();
+}
+
+/// A command line, up to a line feed, on any layout beside the plain rules; where files are named there are none.
+[[maybe_unused]] void Fuzz_layout(const std::string& bytes) {
+    const std::size_t end = std::min(bytes.find('\n'), bytes.size());
+    const std::string layout = bytes.substr(std::min(end + 1, bytes.size()));
+    Require(plain::Difference(layout, "-" + bytes.substr(0, end), u"/nowhere").empty());
+}
+
+/// Any bytes as an archive: what is read is given back as it was, and holds what is put into it.
+[[maybe_unused]] void Fuzz_archive(const std::string& bytes) {
+    const auto archive = Archive::Read(bytes);
+    Require(archive || !archive.Why().reason.empty());
+    if (!archive) return;
+    static_cast<void>(archive->Visit_Files([](const std::string&, std::string_view content) {
+        static_cast<void>(Decode_Texture(content));
+        return Result<>();
+    }));
+    Require(*archive->With({}, archive->Names()) == bytes);
+    const std::string layout(archive->Layout());
+    const auto saved = archive->With({{archive->Layout_Path(), layout + "more"}}, {});
+    Require(saved || !archive->Warnings().empty());
+    if (!saved || layout.empty()) return;
+    const auto again = Archive::Read(*saved);
+    Require(again && again->Layout() == layout + "more");
+}
+
+/// Any bytes as a texture or as a picture; what could be read becomes textures again.
+[[maybe_unused]] void Fuzz_texture(const std::string& bytes) {
+    const auto picture = Is_Picture(bytes) ? Read_Picture(bytes) : Decode_Texture(bytes);
+    if (!picture || picture->width * picture->height > 1U << 12) return;
+    const auto like = Make_Texture_Like(bytes, *picture);
+    Require(!like || *Decode_Texture(*like) == *picture);
+    const std::size_t size = bytes.size();
+    for (const TexelFormat& format : Texel_Formats()) {
+        const auto made = Make_Texture(*picture, {&format, 1 + size % 40, 1 + size % 23}, {.fit = Fit(size % 3)});
+        Require(!made || Decode_Texture(*made));
+    }
+}
+
+/// A text as a scheme is refused with a reason, or is read, and then survives being written and read again.
+[[maybe_unused]] void Fuzz_scheme(const std::string& bytes) {
+    const auto scheme = Parse_Scheme(bytes);
+    Require(scheme ? *Parse_Scheme(Format_Scheme(*scheme)) == *scheme : !scheme.Why().reason.empty());
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char* bytes, std::size_t size) {
+    TARGET({reinterpret_cast<const char*>(bytes), size});
+    return 0;
+}
