@@ -9,6 +9,7 @@
 #include "generate/texture.h"
 
 using namespace bannersmith;
+using namespace std::string_literals;
 
 int main(int argc, char** argv) {
     if (argc != 2) return 1;
@@ -24,6 +25,8 @@ int main(int argc, char** argv) {
     const std::pair<const char*, std::string> seeds[] = {
         {"layout/fields", "TITLE A \"b\"-YEAR 1985-PLAY 4-ESRB E-SYSTEM X^Y-PAD +4\n" + small},
         {"layout/others", "T_ENG t-Y_ENG 1-E_ENG e-H_T_PF raw-FORCE jpn-LOGO x-3\n" + Banner_Without_Closing_Group()},
+        // Broke the reader once: sections that tell of more materials than they have room for.
+        {"layout/many_materials", "x\n" + Layout_File(std::vector(300, "mat1\0\0\0\x0C\xFF\xFF\0\0"s))},
         {"archive/part", Channel_Part(archive)},
         {"archive/bare", archive},
         {"archive/channel", Channel_File("x", {}, {0, archive.size(), 0}, U8_Archive({{"meta/banner.bin", archive}}))},

@@ -329,7 +329,7 @@ TEST(Inspect, ReportsAsTextAndAsJson) {
         Layout_File({Material_Section({{"Shade", {1, 2, 3, 4}, {5, 6, 7, -8}}}),
                      Text_Box_Section(Clean_Text_Box("A\x1b\x7f\xc2\x9b", u"\"\n\u3042\xD800\u0085", 0)),
                      Group_Section("ENG", {"A", "B"}), Group_Section("R\\", {})});
-    const FileReport report{"odd\x1b", {}, Read_Layout(data), {{"first"}, {"second"}}};
+    const FileReport report{"odd\x1b", {}, Read_Layout(data), {{"first"}, {"second"}}, {{"title-eng", u"\""}}};
     std::string text, json;
     Write_Text(report, [&](std::string_view part) { text += part; });
     Write_Json(report, [&](std::string_view part) { json += part; });
@@ -343,7 +343,7 @@ TEST(Inspect, ReportsAsTextAndAsJson) {
                     R"("buffer_length": 12, "text_length": 12}], "materials": [{)"
                     R"("name": "Shade", "first": [1, 2, 3, 4], "second": [5, 6, 7, -8]}], )"
                     R"("groups": [{"name": "ENG", "members": ["A", "B"]}, {"name": "R\\", "members": []}], )"
-                    R"("warnings": ["first", "second"]})");
+                    R"("warnings": ["first", "second"], "values": {"title-eng": "\""}})");
 }
 
 }  // namespace

@@ -145,6 +145,22 @@ TEST(Archive, TellsOfChecksumsAndSizesThatDoNotHold) {
     EXPECT_TRUE(Archive::Read(*liar.With({{Layout, "new"}}, {}))->Warnings().empty());
 }
 
+/// As home-made ones are: empty files, a sound that nobody here can read, capitals, bytes where none should be.
+TEST(Archive, IsSavedRightlyWhereItIsUnusual) {
+    const std::string part =
+        U8_Archive({{"ARC/BLYT/BANNER.BRLYT", std::string(99, 'x')}, {"ARC/TIMG/MY_BACK.TPL", "x"}, {"arc/zz", ""}});
+    const std::string file = Channel_File(
+        "", {}, {7, part.size(), 9},
+        U8_Archive({{"meta/BANNER.BIN", Channel_Part(part)}, {"meta/sound.bin", "odd"}, {"meta/none", ""}}));
+    const Archive archive = *Archive::Read(file + "!");
+    EXPECT_EQ(archive.Warnings(), std::vector<std::string>{"U8 archive: bytes other than zero where no file is"});
+    EXPECT_EQ(archive.Find_Texture("my_Back"), "meta/BANNER.BIN/ARC/TIMG/MY_BACK.TPL");
+    const std::string saved = *archive.With({{archive.Layout_Path(), "short"}}, {});
+    const auto again = Archive::Read(saved);
+    ASSERT_TRUE(again) << again.Why().reason;
+    EXPECT_EQ(Sizes_Of(saved.substr(Block)), (PartSizes{7, part.size() - 96, 9})) << "what cannot be told stays";
+}
+
 TEST(Archive, IsRefusedWhereItIsCutOrLeadsOut) {
     const std::string file = Sample_Channel();
     for (std::size_t size = 0; size < file.size() - 32; size += 16) {
