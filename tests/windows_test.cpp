@@ -1,6 +1,7 @@
 // The logic of the three windows, worked with as a person does, without a toolkit.
 #include <gtest/gtest.h>
 
+#include <map>
 #include <sstream>
 
 #include "generate/banners.h"
@@ -18,10 +19,6 @@ namespace {
 
 using namespace std::string_literals;
 
-std::string Shown(std::u16string_view text) { return Line_Of(text); }
-std::string Shown(const TextBox& box) { return Shown(box.Text()); }
-std::string Shown(const DropDownList& list) { return Shown(list.Selected()); }
-std::string Shown(const Label& label) { return Shown(label.Caption()); }
 std::string Shown(Color color) { return To_Utf8(VbColor2RGB(color)); }
 
 /// A layout of text boxes, "NAME TEXT" each.
@@ -53,45 +50,122 @@ class Windows : public testing::Test {
         home.Write("b/arc/blyt/x", Boxes(boxes));
         ASSERT_TRUE(main.Form_Load());
     }
-    /// What was said since the last call, the program's folder being "HOME".
-    std::string Said() {
-        return To_Utf8(Replace_All(From_Utf8(std::exchange(desktop.said, {})), home.Text(), u"HOME"));
-    }
-    std::string Fields() const {
-        std::string line;
-        for (const TextBox* box : {&info.txtName, &info.txtYear, &info.txtPlayers, &info.txtESRB, &info.txtSystem}) {
-            line += Shown(*box) + "|";
+
+    /// What a person does step by step: "name New" types into a box, "logo 1" picks from a list, "set 0" presses a
+    /// button, and "?name" looks at something. Returns what was said and seen, commas between, the program's folder
+    /// being "HOME".
+    std::string Do(const std::u16string& steps) {
+        std::string seen;
+        const auto note = [&](const std::string& text) { seen += text + ", "; };
+        for (std::size_t at = 0, end = 0; end != steps.npos; at = end + 2) {
+            end = steps.find(u"; ", at);
+            const std::u16string step = steps.substr(at, end - at), word = step.substr(0, step.find(u' ')),
+                                 to = step.substr(std::min(step.size(), word.size() + 1));
+            if (word.starts_with(u'?')) {
+                note(Look(word.substr(1), to));
+            } else if (Boxes_Now().contains(word)) {
+                Boxes_Now()[word]->Set(to);
+            } else if (Lists_Now().contains(word)) {
+                Lists_Now()[word]->Pick(std::stoi(To_Utf8(to)));
+            } else {
+                Press(word, to);
+            }
+            if (!desktop.said.empty()) note(In_Home(std::exchange(desktop.said, {})));
+            if (word == u"set" || word == u"all" || word == u"save" || word == u"write") note(Look(u"told", u""));
         }
-        for (const DropDownList& list : info.cmbRegion) line += Shown(list) + " ";
-        return line;
+        return seen.substr(0, seen.rfind(", "));
     }
-    std::string Box(std::string_view name) const { return Shown(Get_Text(main.BrlytData, name)); }
-    std::string Told() const { return Shown(main.lblLastCommand); }
+    void Walk(const std::vector<std::pair<std::u16string, std::string>>& ways, const std::u16string& then = {}) {
+        for (const auto& [steps, seen] : ways) EXPECT_EQ(Do(steps + then), seen) << To_Utf8(steps);
+    }
+    std::string In_Home(std::string_view text) const {
+        return Line_Of(Replace_All(From_Utf8(text), home.Text(), u"HOME"));
+    }
     static std::string Entries(const DropDownList& list) {
         std::string line;
-        for (const std::u16string& entry : list.Entries()) line += Shown(entry) + "|";
+        for (const std::u16string& entry : list.Entries()) line += To_Utf8(entry) + "|";
         return line;
     }
+    frmColor& Window() { return *main.ColorWindow; }
 
     TempFolder home;
     NotingDesktop desktop;
     Form1 main{{home.Text(), u""}, desktop};
     GameInfo& info = main.info;
+
+ private:
+    std::map<std::u16string, TextBox*> Boxes_Now() {
+        std::map<std::u16string, TextBox*> boxes = {{u"path", &main.txtSrc},        {u"pad", &main.txtPad},
+                                                    {u"name", &info.txtName},       {u"year", &info.txtYear},
+                                                    {u"players", &info.txtPlayers}, {u"rating", &info.txtESRB},
+                                                    {u"system", &info.txtSystem}};
+        if (main.TextEditor) boxes[u"text"] = &main.TextEditor->txtHC;
+        if (!main.ColorWindow) return boxes;
+        boxes.merge(decltype(boxes){{u"red", &Window().txtR}, {u"green", &Window().txtG}, {u"blue", &Window().txtB}});
+        boxes[u"source"] = &Window().txtBannerPath;
+        return boxes;
+    }
+    std::map<std::u16string, DropDownList*> Lists_Now() {
+        std::map<std::u16string, DropDownList*> lists = {
+            {u"scheme", &main.cmbFileList}, {u"logo", &main.cmbLogo}, {u"force", &main.cmbForce}};
+        for (std::size_t i = 0; i < 4; ++i) lists[u"language" + From_Utf8(std::to_string(i))] = &info.cmbRegion[i];
+        if (main.TextEditor) lists[u"box"] = &main.TextEditor->cmbHC;
+        if (main.ColorWindow) lists[u"colors"] = &Window().cmbFileList;
+        return lists;
+    }
+    void Press(const std::u16string& word, const std::u16string& to) {
+        const auto number = [&] { return static_cast<std::int16_t>(std::stoi(To_Utf8(to))); };
+        const std::map<std::u16string, std::function<void()>> buttons = {
+            {u"answer", [&] { desktop.answer = to; }},
+            {u"set", [&] { main.cmdSet_Click(number()); }},
+            {u"all", [&] { main.cmdSetAll_Click(number()); }},
+            {u"save", [&] { main.cmdSave_Click(); }},
+            {u"browse", [&] { main.cmdFileBrowse_Click(); }},
+            {u"texts", [&] { main.TextEditor ? main.Close_Text_Editor() : main.cmdHC_Click(); }},
+            {u"write", [&] { main.TextEditor->cmdSet_Click(); }},
+            {u"window", [&] { main.ColorWindow ? main.Close_Color_Window() : main.cmdEditColor_Click(); }},
+            {u"edit", [&] { Window().pic_Click(to.substr(2), static_cast<std::int16_t>(to[0] - u'0')); }},
+            {u"choose", [&] { Window().picClr_Click(); }},
+            {u"use", [&] { Window().cmdColor_Click(); }},
+            {u"get", [&] { Window().cmdGetScheme_Click(); }},
+            {u"keep", [&] { Window().cmdSaveScheme_Click(); }},
+            {u"refresh", [&] { Window().RefreshColorList(); }},
+            {u"", [] {}}};
+        buttons.at(word)();
+    }
+    std::string Look(const std::u16string& word, const std::u16string& at) {
+        if (Boxes_Now().contains(word)) return Line_Of(Boxes_Now()[word]->Text());
+        if (Lists_Now().contains(word)) return Line_Of(Lists_Now()[word]->Selected());
+        if (word == u"told") return Line_Of(main.lblLastCommand.Caption());
+        if (word == u"loaded") return Line_Of(main.lblLoaded.Caption());
+        if (word == u"file") return In_Home(home.Read(To_Utf8(at)));
+        if (word == u"config") return In_Home(home.Read("cfgs/vcinfopath.cfg"));
+        if (word == u"may") return main.form.Enabled() ? "enabled" : "disabled";
+        if (word == u"close") return main.May_Close() ? "closes" : "stays";
+        if (word == u"is") return Line_Of(Get_Text(main.BrlytData, To_Utf8(at)));
+        if (word == u"swatch") return Shown(Window().picClr.Value()) + " " + Line_Of(Window().lblEdit.Caption());
+        if (word == u"fields") {
+            std::string line = Do(u"?name; ?year; ?players; ?rating; ?system");
+            for (const DropDownList& list : info.cmbRegion) line += " " + Line_Of(list.Selected());
+            return line;
+        }
+        const auto& boxes = Window().pic[Element_Index(word)];
+        return Shown(boxes[0].Value()) + " " + Shown(boxes[1].Value());
+    }
 };
 
 TEST_F(Windows, StartWithWhatTheConfigurationNames) {
     home.Write("cfgs/vcinfopath.cfg", "");
     EXPECT_FALSE(main.Form_Load());
-    EXPECT_EQ(Said(), "{HOME\\cfgs\\vcinfopath.cfg: Holds no line; write one with any path into it}");
+    EXPECT_EQ(Do(u""), "{HOME\\cfgs\\vcinfopath.cfg: Holds no line; write one with any path into it}");
     home.Write("cfgs/vcinfopath.cfg", "\\b/arc/blyt/x\nsecond");
     EXPECT_TRUE(main.Form_Load() && main.form.Visible());
-    EXPECT_EQ(home.Read("cfgs/vcinfopath.cfg"), "\\b/arc/blyt/x\r\n");
-    EXPECT_EQ(Shown(main.txtSrc) + Shown(main.txtPad), "\\b/arc/blyt/x12000");
-    EXPECT_EQ(Fields(), "Starlight Courier|1991|2|E|SUPER 16|ENG ENG ENG ENG ");
     EXPECT_EQ(Entries(main.cmbFileList) + Entries(main.cmbLogo) + Entries(main.cmbForce),
               "Current Brlyt|Aurora|Cherry Cola|Current Logo|Comet.tpl|ENG|GER|FRA|ITA|SPA|NED|JPN|NONE|");
-    EXPECT_EQ(Shown(main.cmbFileList) + Shown(main.cmbLogo) + Shown(main.cmbForce), "Current BrlytCurrent LogoNONE");
-    EXPECT_EQ(Shown(main.lblLoaded), "x  |  texts as in the file  |  ENG GER FRA ITA SPA NED JPN  |  10876 bytes");
+    Walk({{u"?config; ?path; ?pad", "\\b/arc/blyt/x/, \\b/arc/blyt/x, 12000"},
+          {u"?scheme; ?logo; ?force", "Current Brlyt, Current Logo, NONE"},
+          {u"?fields", "Starlight Courier, 1991, 2, E, SUPER 16 ENG ENG ENG ENG"},
+          {u"?loaded", "x  |  texts as in the file  |  ENG GER FRA ITA SPA NED JPN  |  10876 bytes"}});
 }
 
 TEST_F(Windows, TakePathsAsTheyAreTyped) {
@@ -99,233 +173,159 @@ TEST_F(Windows, TakePathsAsTheyAreTyped) {
     home.Write("text", "no layout, but long enough");
     home.Write("program", "MZ");
     home.Write("x\r", Boxes({u"T_PF P"}));
-    struct Row {
-        const char16_t* path;
-        const char *name, *loaded, *stored;
-    };
-    for (const Row& row :
-         {Row{u"\\b/arc/blyt/x", "One", "x  |  texts as in the file  |  ENG  |  148 bytes", "\\b/arc/blyt/x"},
-          {u"\\b/arc/blyt/", "One", "No layout loaded", "\\b/arc/blyt/"},
-          {u"\\b/arc/blyt", "One", "No layout loaded", "\\b/arc/blyt/"},
-          {u"\\program", "One", "No layout loaded: Is a program, not a layout file", "\\program"},
-          {u"\\x\r", "", "x\r  |  texts as in the file  |  no titles  |  144 bytes", "\\program"},
-          {u"\\text", "", "text  |  texts as in the file  |  not a layout file  |  26 bytes", "\\text"}}) {
-        main.txtSrc.Set(row.path);
-        EXPECT_EQ(Shown(info.txtName), row.name) << Shown(row.path);
-        EXPECT_EQ(Shown(main.lblLoaded), row.loaded) << Shown(row.path);
-        EXPECT_EQ(home.Read("cfgs/vcinfopath.cfg"), row.stored + "\r\n"s) << Shown(row.path);
+    Walk({{u"path \\b/arc/blyt/x", "One, x  |  texts as in the file  |  ENG  |  148 bytes, \\b/arc/blyt/x/"},
+          {u"path \\b/arc/blyt/", "One, No layout loaded, \\b/arc/blyt//"},
+          {u"path \\b/arc/blyt", "One, No layout loaded, \\b/arc/blyt//"},
+          {u"path \\program", "One, No layout loaded: Is a program, not a layout file, \\program/"},
+          {u"path \\x\r", ", x\r  |  texts as in the file  |  no titles  |  144 bytes, \\program/"},
+          {u"path \\text", ", text  |  texts as in the file  |  not a layout file  |  26 bytes, \\text/"}},
+         u"; ?name; ?loaded; ?config");
+    EXPECT_TRUE(Do(u"answer /dev/null; browse").ends_with("|Brlyt Files (*.brlyt)|*.brlyt|All Files (*.*)|*.*>"));
+    for (const auto& [file, taken] : {std::pair{u"/dev/null"s, u"/dev/null"s},
+                                      {home.Text() + u"\\d\\e/f", u"\\d\\e/f"},
+                                      {home.Text() + u"/a" + home.Text() + u"/b", u"\\a\\b"},
+                                      {u"", u"\\a\\b"}}) {
+        Do(u"answer " + file + u"; browse");
+        EXPECT_EQ(main.txtSrc.Text(), taken);
     }
-    for (const auto& [file, taken] : {std::pair{home.Text() + u"\\d\\e/f", "\\d\\e/f"},
-                                      {u"/dev/null", "/dev/null"},
-                                      {home.Text() + u"/a" + home.Text() + u"/b", "\\a\\b"},
-                                      {u"", "\\a\\b"}}) {
-        desktop.answer = file;
-        main.cmdFileBrowse_Click();
-        EXPECT_EQ(Shown(main.txtSrc), taken);
-    }
-    EXPECT_TRUE(Said().ends_with("|Brlyt Files (*.brlyt)|*.brlyt|All Files (*.*)|*.*>"));
 }
 
 TEST_F(Windows, ShowTheFirstValueOfEachField) {
     using Texts = std::vector<std::u16string>;
     const std::pair<Texts, std::string> rows[] = {
-        {{}, "  no titles  |||||NONE NONE NONE NONE "},
-        {{u"T_VCTitle_KOR Korea", u"T_Play_KOR x^1-4x"}, "  KOR  Korea||4|||KOR NONE KOR NONE "},
+        {{}, ", , , ,  NONE NONE NONE NONE, x  |  texts as in the file  |  no titles  |  24 bytes"},
+        {{u"T_VCTitle_KOR Korea", u"T_Play_KOR x^1-4x"},
+         "Korea, , 4, ,  KOR NONE KOR NONE, x  |  texts as in the file  |  KOR  |  284 bytes"},
         {{u"T_VCTitle N", u"T_Year Publié en 1990", u"T_Play Joueurs: 1-3", u"T_ESRB Classement ESRB: T"},
-         "  one text for all languages  N|1990|3|T||NONE NONE NONE NONE "},
+         "N, 1990, 3, T,  NONE NONE NONE NONE, x  |  texts as in the file  |  one text for all languages  |  592 "
+         "bytes"},
         {{u"T_PF SYS", u"T_VCTitle_JPN J", u"T_VCTitle_GER G", u"T_Year_ITA Pubblicato: 1990", u"T_Play_ENG novalue",
           u"T_Play_FRA Joueurs: 1-3", u"T_ESRB_NED ESRB Rating: T", u"T_Year Erschienen: 1"},
-         "  GER JPN  G|1990|3|T|SYS|GER ITA FRA NED "}};
-    for (const auto& [boxes, shown] : rows) {
-        main.txtSrc.Set(u"");
+         "G, 1990, 3, T, SYS GER ITA FRA NED, x  |  texts as in the file  |  GER JPN  |  1108 bytes"}};
+    for (const auto& [boxes, seen] : rows) {
+        Do(u"path ");
         Start(boxes);
-        EXPECT_EQ(Shown(Piece_Of(main.lblLoaded.Caption(), u'|', 2)) + Fields(), shown);
+        EXPECT_EQ(Do(u"?fields; ?loaded"), seen);
     }
-    for (DropDownList& list : info.cmbRegion) list.Pick(4);  // a language that has nothing
-    EXPECT_EQ(Fields(), "|1990|||SYS|SPA SPA SPA SPA ") << "only a year stays";
+    Walk({{u"language0 4; language1 4; language2 4; language3 4; ?fields", ", 1990, , , SYS SPA SPA SPA SPA"},
+          {u"name typed; language0 -1; ?name", "typed"},
+          {u"language0 1; ?name", "G"}});
     EXPECT_EQ(info.cmbRegion[0].Count(), 8) << "without Korean, which this layout does not have";
-    info.txtName.Set(u"typed");
     for (const int index : {4, -1}) main.cmbRegion_click(static_cast<std::int16_t>(index));
-    info.cmbRegion[0].Pick(-1);
-    EXPECT_EQ(Shown(info.txtName), "typed") << "no selection, no value";
-    info.cmbRegion[0].Pick(1);
-    EXPECT_EQ(Shown(info.txtName), "G");
 }
 
 TEST_F(Windows, TellWhatACommandChanged) {
     Start({u"T_VCTitle_ENG E", u"T_VCTitle_GER G", u"T_Year_GER Erschienen: 1", u"T_ESRB_FRA Classement ESRB: E",
            u"T_Play_ENG 1", u"T_PF P"});
-    info.cmbRegion[0].Pick(1);
-    info.txtName.Set(u"Neu");
-    info.txtYear.Set(u"2001");
-    info.txtPlayers.Set(u"3");
-    info.txtESRB.Set(u"T");
-    info.txtSystem.Set(u"Q");
-    std::string told;
-    for (const int set : {0, 1, 2, 2}) main.cmdSet_Click(static_cast<std::int16_t>(set)), told += Told() + ", ";
-    for (const int set : {0, 1, 2, 3, 4}) main.cmdSetAll_Click(static_cast<std::int16_t>(set)), told += Told() + ", ";
-    info.txtName.Set(u"");
-    main.cmdSet_Click(0);
-    EXPECT_EQ(told + Told(),
-              "Name: 1 text changed: T_VCTitle_GER, Year: 1 text changed: T_Year_GER, ESRB Rating: 1 text changed: "
-              "T_ESRB_FRA, ESRB Rating: nothing changed, Name: 1 text changed: T_VCTitle_ENG, Year: nothing changed, "
-              "Players: 1 text changed: T_Play_ENG, System: 1 text changed: T_PF, ESRB Rating: nothing changed, "
-              "Name: nothing changed");
-    EXPECT_EQ(Box("T_VCTitle_GER") + Box("T_Year_GER") + Box("T_ESRB_FRA") + Box("T_Play_ENG") + Box("T_PF"),
-              "NeuErschienen: 2001Classement ESRB: TPlayers: 1-3Q");
-    EXPECT_EQ(Shown(main.lblLoaded), "x  |  texts not saved  |  ENG GER  |  844 bytes");
+    Walk({{u"language0 1; name Neu; set 0", "Name: 1 text changed: T_VCTitle_GER"},
+          {u"year 2001; set 1", "Year: 1 text changed: T_Year_GER"},
+          {u"rating T; set 2; set 2", "ESRB Rating: 1 text changed: T_ESRB_FRA, ESRB Rating: nothing changed"},
+          {u"all 0; all 1", "Name: 1 text changed: T_VCTitle_ENG, Year: nothing changed"},
+          {u"players 3; all 2", "Players: 1 text changed: T_Play_ENG"},
+          {u"system Q; all 3; all 4", "System: 1 text changed: T_PF, ESRB Rating: nothing changed"},
+          {u"name ; set 0", "Name: nothing changed"},
+          {u"?is T_VCTitle_GER; ?is T_VCTitle_ENG; ?is T_Year_GER", "Neu, Neu, Erschienen: 2001"},
+          {u"?is T_ESRB_FRA; ?is T_Play_ENG; ?is T_PF", "Classement ESRB: T, Players: 1-3, Q"},
+          {u"?loaded", "x  |  texts not saved  |  ENG GER  |  844 bytes"}});
 }
 
 TEST_F(Windows, SaveWhatIsChosen) {
     Start({u"T_VCTitle_GER G", u"T_Year_GER 1990", u"T_PLAY_GER x"});
     const std::size_t size = main.BrlytData.size();
-    main.cmbLogo.Pick(1);
-    main.cmbForce.Pick(0);
-    main.txtPad.Set(u"+10");
-    info.txtYear.Set(u"typed and not set");
     home.Write("cfgs/vcinfopath.cfg", "spoilt");
-    main.cmdSave_Click();
-    EXPECT_EQ(Said(), "[File Successfully Saved!]");
-    EXPECT_EQ(Told() + Fields(), "SavedG|1990||||GER GER NONE NONE ");
-    EXPECT_EQ(home.Read("b/arc/timg/my_Back_x.tpl"), "comet");
-    EXPECT_EQ(home.Read("cfgs/vcinfopath.cfg"), "\\b/arc/blyt/x\r\n");
+    Walk({{u"logo 1; force 0; pad +10; year typed and not set; save", "[File Successfully Saved!], Saved"},
+          {u"?fields; ?logo; ?force", "G, 1990, , ,  GER GER NONE NONE, Comet.tpl, ENG"},
+          {u"?file b/arc/timg/my_Back_x.tpl; ?config", "comet, \\b/arc/blyt/x/"}});
     EXPECT_EQ(home.Read("b/arc/blyt/x").size(), size + 10);
-    EXPECT_EQ(Shown(Get_Text(home.Read("b/arc/blyt/x"), "T_PLAY_ENG")), "x");
+    EXPECT_EQ(Line_Of(Get_Text(home.Read("b/arc/blyt/x"), "T_PLAY_ENG")), "x");
     EXPECT_EQ(main.BrlytData.size(), size);
-    EXPECT_EQ(Shown(main.cmbLogo) + Shown(main.cmbForce), "Comet.tplENG");
-
     std::filesystem::remove(home.Path() / "b/arc/timg/my_Back_x.tpl");
-    std::string told;
-    for (const int logo : {1, 0}) main.cmbLogo.Pick(logo), main.cmdSave_Click(), told += Told() + ".";
-    EXPECT_EQ(told, "Saved; the banner has no logo texture to replace.Saved.");
+    Walk({{u"save", "[File Successfully Saved!], Saved; the banner has no logo texture to replace"},
+          {u"logo 0; save", "[File Successfully Saved!], Saved"}});
 }
 
 TEST_F(Windows, LeaveEverythingAsItWasWhenASaveFails) {
     const auto file = home.Path() / "b/arc/blyt/x";
     Start({u"T_VCTitle_GER G"});
-    main.cmbFileList.Pick(1);
-    main.cmbLogo.Pick(1);
-    info.txtName.Set(u"New");
-    main.cmdSetAll_Click(0);
+    Do(u"scheme 1; logo 1; name New; all 0");
     const std::string memory = main.BrlytData, disk = home.Read("b/arc/blyt/x");
     const auto fails = [&](const std::string& how) {
-        main.cmdSave_Click();
-        EXPECT_EQ(Said(), how);
+        EXPECT_EQ(Do(u"save; ?loaded; ?file b/arc/timg/my_Back_x.tpl"),
+                  "{" + how + "}, Not saved, x  |  texts not saved  |  GER  |  148 bytes, old");
         EXPECT_TRUE(main.BrlytData == memory);
-        EXPECT_EQ(Told() + Shown(main.lblLoaded), "Not savedx  |  texts not saved  |  GER  |  148 bytes");
-        EXPECT_EQ(home.Read("b/arc/timg/my_Back_x.tpl"), "old");
     };
-    main.txtPad.Set(u"12k");
-    fails("{Padding \"12k\": Not a whole number up to 268435456, with or without + in front of it}");
-    main.txtPad.Set(u"");
+    Do(u"pad 12k");
+    fails("Padding \"12k\": Not a whole number up to 268435456, with or without + in front of it");
+    Do(u"pad ");
     for (const std::string name : {"schemes/Aurora.vccs", "logos/Comet.tpl"}) {
         std::filesystem::rename(home.Path() / name, home.Path() / "away");
-        fails("{HOME\\" + Shown(Replace_All(From_Utf8(name), u"/", u"\\")) + ": No such file or directory}");
+        fails("HOME\\" + To_Utf8(Replace_All(From_Utf8(name), u"/", u"\\")) + ": No such file or directory");
         std::filesystem::rename(home.Path() / "away", home.Path() / name);
     }
     EXPECT_EQ(home.Read("b/arc/blyt/x"), disk);
     std::filesystem::remove(file);
     std::filesystem::create_directory(file);
-    fails("{HOME\\b/arc/blyt/x: Is a directory}");
+    fails("HOME\\b/arc/blyt/x: Is a directory");
     std::filesystem::remove(file);
     home.Write("short", "RLYT1234567");
-    for (const auto& [path, reason] : {std::pair{u"\\none", "{\\none: No such file or directory}"},
-                                       {u"\\short", "{\\short: Too short to be a layout}"},
-                                       {u"", "{File: Names no layout file}"}}) {
-        main.txtSrc.Set(path);
-        main.cmdSave_Click();
-        EXPECT_EQ(Said(), reason);
-    }
-    EXPECT_EQ(home.Read("short") + home.Read("none"), "RLYT1234567(none)");
+    Walk({{u"path \\none; save", "{\\none: No such file or directory}, Not saved"},
+          {u"path \\short; save", "{\\short: Too short to be a layout}, Not saved"},
+          {u"path ; save", "{File: Names no layout file}, Not saved"},
+          {u"?file short; ?file none", "RLYT1234567, (none)"}});
 }
 
 TEST_F(Windows, AskBeforeSomethingIsLost) {
     Start({u"T_VCTitle_ENG One", u"T_PF X"});
-    EXPECT_TRUE(main.May_Close());
-    info.txtSystem.Set(u"New");
-    main.cmdSetAll_Click(3);
-    EXPECT_FALSE(main.May_Close());
-    EXPECT_EQ(Said(), "<question: \\b/arc/blyt/x does not have the latest changes. Close without saving?>");
-    desktop.answer = u"/dev/null";
-    main.cmdFileBrowse_Click();
-    EXPECT_TRUE(Said().ends_with(
-        "<question: \\b/arc/blyt/x does not have the latest changes. Take another file without saving?>"));
-    EXPECT_EQ(Shown(main.txtSrc), "\\b/arc/blyt/x");
-    desktop.answer = u"yes";
-    EXPECT_TRUE(main.May_Close());
-    main.cmdHC_Click();
-    EXPECT_FALSE(main.May_Close()) << "it is behind another window";
-    main.Close_Text_Editor();
+    Walk({{u"?close; system New; all 3", "closes, System: 1 text changed: T_PF"},
+          {u"?close", "stays, <question: \\b/arc/blyt/x does not have the latest changes. Close without saving?>"}});
+    EXPECT_TRUE(Do(u"answer /dev/null; browse; ?path")
+                    .ends_with("<question: \\b/arc/blyt/x does not have the latest changes. Take another file without "
+                               "saving?>, \\b/arc/blyt/x"));
+    EXPECT_TRUE(Do(u"answer yes; ?close").starts_with("closes"));
+    EXPECT_EQ(Do(u"texts; ?close; texts"), "stays") << "it is behind another window";
     main.Take_File(u"\\b/arc/blyt/x");
-    EXPECT_EQ(Shown(info.txtSystem), "X") << "the same file once more is loaded anew";
+    EXPECT_EQ(main.info.txtSystem.Text(), u"X") << "the same file once more is loaded anew";
 
-    // Each save asks, without an answer and with one.
-    const auto asks = [&](const std::string& question, const std::string& kept) {
-        const std::string name = Shown(main.txtSrc).substr(1);
-        for (const char16_t* answer : {u"", u"yes"}) {
-            Said();
-            desktop.answer = answer;
-            main.cmdSave_Click();
-            const bool saved = Told() != "Not saved";
-            EXPECT_EQ(Said(), "<question: " + question + ">" + (saved ? "[File Successfully Saved!]" : ""));
-            EXPECT_EQ(saved, *answer == u'y');
-            EXPECT_EQ(home.Read(name) == kept, !saved);
-        }
+    // Each save asks; without an answer it leaves the file as it is.
+    const auto asks = [&](const std::string& file, const std::string& question) {
+        const std::string kept = home.Read(file);
+        Do(u"answer ");
+        EXPECT_EQ(Do(u"save"), "<question: " + question + ">, Not saved");
+        EXPECT_TRUE(home.Read(file) == kept);
+        Do(u"answer yes");
+        EXPECT_TRUE(Do(u"save").starts_with("<question: " + question + ">[File Successfully Saved!], Saved"));
+        EXPECT_FALSE(home.Read(file) == kept);
     };
     home.Write("b/arc/blyt/x", "other");
-    asks("\\b/arc/blyt/x was changed by another program since it was loaded. Save over it?", "other");
+    asks("b/arc/blyt/x", "\\b/arc/blyt/x was changed by another program since it was loaded. Save over it?");
     std::filesystem::remove(home.Path() / "b/arc/blyt/x");
-    main.cmdSave_Click();
-    EXPECT_EQ(Said(), "[File Successfully Saved!]") << "nothing is lost where no file is";
-    EXPECT_EQ(Box("T_VCTitle_ENG"), "One");
+    EXPECT_EQ(Do(u"save; ?name"), "[File Successfully Saved!], Saved, One") << "nothing is lost where no file is";
     home.Write("two", German_Japanese_Banner());
-    main.txtSrc.Set(u"\\two");
-    main.cmbForce.Select(0);
-    asks("\\two: region force leaves the group GER. Force the region all the same?", German_Japanese_Banner());
+    Do(u"path \\two; force 0");
+    asks("two", "\\two: region force leaves the group GER. Force the region all the same?");
     home.Write("named", "rLYT123456789012");
-    main.txtSrc.Set(u"\\named");
-    main.txtPad.Set(u"");
-    asks("\\named is not a layout file. Save it all the same?", "rLYT123456789012");
+    Do(u"path \\named; pad ");
+    asks("named", "\\named is not a layout file. Save it all the same?");
     EXPECT_EQ(home.Read("named"), "rLYT1234\0\0\0\x10"s + "9012");
-    main.txtPad.Set(u"much");
-    main.cmdSave_Click();
-    EXPECT_EQ(Said().find("question"), std::string::npos) << "what cannot be done is not asked about";
+    EXPECT_EQ(Do(u"pad much; save").find("question"), std::string::npos) << "what cannot be done is not asked about";
 }
 
 TEST_F(Windows, EditAnyTextByItsName) {
     Start({u"T_PF S", u"T_Year 11", u"caf\u00E9 x", u"T_Year_ENG 22222", u"T_VCTitle_ENG name", u"T_PF longer",
            u"T_Play_ENG Players: 1", u"T_ESRB_ENG ESRB Rating: E"});
-    main.cmdHC_Click();
-    frmHC& editor = *main.TextEditor;
-    EXPECT_FALSE(main.form.Enabled());
-    EXPECT_EQ(Entries(editor.cmbHC), "T_PF|T_Year|café|T_Year_ENG|T_VCTitle_ENG|T_PF|T_Play_ENG|T_ESRB_ENG|");
-    EXPECT_EQ(Shown(editor.cmbHC) + Shown(editor.txtHC), "T_PFlonger");
-    std::string told;
-    for (const auto& [entry, text] :
-         {std::pair{2, u"a^b"}, {1, u"1999"}, {1, u""}, {0, u"New"}, {4, u"renamed"}, {6, u"1-4"}, {7, u"x: T"}}) {
-        editor.cmbHC.Pick(entry);
-        told += Shown(editor.txtHC) + " - ";
-        editor.txtHC.Set(text);
-        editor.cmdSet_Click();
-        told += Told() + "\n";
-    }
-    EXPECT_EQ(told, R"(x - Text editor: other texts changed
-11 - Text editor: 1 text changed: T_Year_ENG
-11 - Text editor: nothing changed
-longer - Text editor: 1 text changed: T_PF
-name - Text editor: 1 text changed: T_VCTitle_ENG
-Players: 1 - Text editor: 1 text changed: T_Play_ENG
-ESRB Rating: E - Text editor: 1 text changed: T_ESRB_ENG
-)");
-    EXPECT_EQ(Fields(), "name|2222|1|E|longer|ENG ENG ENG ENG ");
-    main.Close_Text_Editor();
-    EXPECT_TRUE(main.form.Enabled());
-    EXPECT_EQ(Fields(), "renamed|1999||T|New|ENG ENG ENG ENG ");
-    main.txtSrc.Set(u"");
-    main.cmdHC_Click();
-    main.TextEditor->txtHC.Set(u"x");
-    main.TextEditor->cmdSet_Click();
-    EXPECT_EQ(main.BrlytData + Told(), "");
+    EXPECT_EQ(Do(u"texts; ?may; ?box; ?text"), "disabled, T_PF, longer");
+    EXPECT_EQ(Entries(main.TextEditor->cmbHC), "T_PF|T_Year|café|T_Year_ENG|T_VCTitle_ENG|T_PF|T_Play_ENG|T_ESRB_ENG|");
+    Walk({{u"box 2; ?text; text a^b; write", "x, Text editor: other texts changed"},
+          {u"box 1; ?text; text 1999; write", "11, Text editor: 1 text changed: T_Year_ENG"},
+          {u"box 1; ?text; text ; write", "11, Text editor: nothing changed"},
+          {u"box 0; ?text; text New; write", "longer, Text editor: 1 text changed: T_PF"},
+          {u"box 4; ?text; text renamed; write", "name, Text editor: 1 text changed: T_VCTitle_ENG"},
+          {u"box 6; ?text; text 1-4; write", "Players: 1, Text editor: 1 text changed: T_Play_ENG"},
+          {u"box 7; ?text; text x: T; write", "ESRB Rating: E, Text editor: 1 text changed: T_ESRB_ENG"},
+          {u"?fields", "name, 2222, 1, E, longer ENG ENG ENG ENG"},
+          {u"texts; ?may; ?fields", "enabled, renamed, 1999, , T, New ENG ENG ENG ENG"},
+          {u"path ; texts; text x; write", ""}});
+    EXPECT_EQ(main.BrlytData, "");
 }
 
 /// What a preview shows, a line each; a fade by its first, second and last band.
@@ -337,7 +337,7 @@ std::ostream& operator<<(std::ostream& out, const Shape& shape) {
                << " " << shape.thickness << "\n";
 }
 std::ostream& operator<<(std::ostream& out, const DrawnLabel& label) {
-    return out << Shown(label.color) << " " << Shown(label.text) << " " << Shown(label.font.family) << " "
+    return out << Shown(label.color) << " " << Line_Of(label.text) << " " << Line_Of(label.font.family) << " "
                << label.font.points << " " << static_cast<int>(label.alignment) << label.wraps << label.area << "\n";
 }
 std::ostream& operator<<(std::ostream& out, const Surface& surface) {
@@ -366,13 +366,7 @@ class Colors : public Windows {
     /// Opens the colour window over the sample with seven languages.
     void Open() {
         ASSERT_TRUE(main.Form_Load());
-        main.cmdEditColor_Click();
-    }
-    frmColor& Window() { return *main.ColorWindow; }
-    /// The colours of an element's two boxes.
-    std::string Pair(std::u16string_view key) {
-        const auto& boxes = Window().pic[Element_Index(key)];
-        return Shown(boxes[0].Value()) + " " + Shown(boxes[1].Value());
+        Do(u"window");
     }
     /// A scheme of 114 numbers in sequence.
     void Make_Scheme(const std::string& name, int first, int step) const {
@@ -380,26 +374,16 @@ class Colors : public Windows {
         for (int i = 0; i < 114; ++i) numbers += std::to_string(first + step * i) + " ";
         home.Write("schemes/" + name + ".vccs", numbers);
     }
-    std::string Swatch() {
-        return Shown(Window().txtR) + " " + Shown(Window().txtG) + " " + Shown(Window().txtB) + " " +
-               Shown(Window().picClr.Value()) + " " + Shown(Window().lblEdit);
-    }
 };
 
 TEST_F(Colors, ComeFromTheLayoutOrAScheme) {
     Open();
-    EXPECT_FALSE(main.form.Enabled());
-    EXPECT_EQ(Shown(Window().txtBannerPath) + Shown(Window().cmbFileList), "\\b/arc/blyt/xCurrent Brlyt");
-    EXPECT_EQ(Swatch(), "0 0 0 224|224|224 ");
-    EXPECT_EQ(Pair(u"PFLINE") + Pair(u"T_VCTitle"), "53|214|168 14|59|743|8|13 143|240|207");
-    Window().cmbFileList.Pick(2);
-    EXPECT_EQ(Pair(u"PFLINE") + Pair(u"BackMask2"), "217|71|90 122|15|2822|4|6 58|10|16");
-    main.Close_Color_Window();
-    EXPECT_TRUE(main.form.Enabled());
-    EXPECT_EQ(Shown(main.cmbFileList), "Cherry Cola");
-    main.cmdEditColor_Click();
-    EXPECT_EQ(Shown(Window().cmbFileList) + Pair(u"PFLINE"), "Cherry Cola217|71|90 122|15|28");
-
+    Walk({{u"?may; ?source; ?colors", "disabled, \\b/arc/blyt/x, Current Brlyt"},
+          {u"?red; ?green; ?blue; ?swatch", "0, 0, 0, 224|224|224 "},
+          {u"?PFLINE; ?T_VCTitle", "53|214|168 14|59|74, 3|8|13 143|240|207"},
+          {u"colors 2; ?PFLINE; ?BackMask2", "217|71|90 122|15|28, 22|4|6 58|10|16"},
+          {u"window; ?may; ?scheme", "enabled, Cherry Cola"},
+          {u"window; ?colors; ?PFLINE", "Cherry Cola, 217|71|90 122|15|28"}});
     // A text's colours are those of the language shown, or else those for all; what is missing stays.
     std::vector<Material> materials;
     for (const char* name :
@@ -408,35 +392,20 @@ TEST_F(Colors, ComeFromTheLayoutOrAScheme) {
         materials.push_back({name, {red, -1, 2, 9}, {static_cast<std::int16_t>(256 + red), 3, 4, 9}, -1});
     }
     home.Write("other", Layout_File({Material_Section(materials)}));
-    const int picks[] = {1, 5, 2, 3};
-    for (std::size_t i = 0; i < 4; ++i) info.cmbRegion[i].Pick(picks[i]);
-    Window().txtBannerPath.Set(u"\\other");
-    Window().cmdGetScheme_Click();
-    EXPECT_EQ(Pair(u"T_VCTitle") + "," + Pair(u"T_Play") + "," + Pair(u"T_Year") + "," + Pair(u"T_ESRB") + "," +
-                  Pair(u"Shade"),
-              "1|255|2 1|3|4,3|255|2 3|3|4,4|255|2 4|3|4,22|4|6 244|185|169,6|255|2 6|3|4");
-    info.cmbRegion[0].Pick(6);
-    info.cmbRegion[3].Pick(7);
-    Window().cmdGetScheme_Click();
-    EXPECT_EQ(Pair(u"T_VCTitle") + Pair(u"T_ESRB"), "2|255|2 2|3|45|255|2 5|3|4");
-    EXPECT_EQ(Said(), "");
-    for (const char16_t* path : {u"\\none", u"\\schemes\\"}) {
-        Window().txtBannerPath.Set(path);
-        Window().cmdGetScheme_Click();
-    }
-    EXPECT_EQ(Said(), "[File Not Found!]{HOME\\\\schemes\\: Is a directory}");
-    EXPECT_EQ(Box("T_VCTitle_ENG"), "Starlight Courier") << "the layout that is edited is still the same";
+    Walk({{u"language0 1; language1 5; language2 2; language3 3; source \\other; get", ""},
+          {u"?T_VCTitle; ?T_Play; ?T_Year", "1|255|2 1|3|4, 3|255|2 3|3|4, 4|255|2 4|3|4"},
+          {u"?T_ESRB; ?Shade", "22|4|6 244|185|169, 6|255|2 6|3|4"},
+          {u"language0 6; language3 7; get; ?T_VCTitle; ?T_ESRB", "2|255|2 2|3|4, 5|255|2 5|3|4"},
+          {u"source \\none; get", "[File Not Found!]"},
+          {u"source \\schemes\\; get", "{HOME\\\\schemes\\: Is a directory}"}});
+    EXPECT_EQ(Do(u"?is T_VCTitle_ENG"), "Starlight Courier") << "the layout that is edited is still the same";
 }
 
 TEST_F(Colors, AreEditedBoxByBox) {
     Make_Scheme("Black", 0, 0);
     Open();
-    Window().cmbFileList.Pick(2);
-    Window().pic_Click(u"Back0", 0);
-    EXPECT_EQ(Swatch(), "0 0 0 0|0|0 Back0 0") << "although the numbers are the same as before";
-    Window().cmbFileList.Pick(1);
-    Window().pic_Click(u"T_ESRB", 1);
-    EXPECT_EQ(Swatch(), "185 217 230 185|217|230 T_ESRB 1");
+    EXPECT_EQ(Do(u"colors 2; edit 0 Back0; ?swatch"), "0|0|0 Back0 0") << "although the numbers stay";
+    EXPECT_EQ(Do(u"colors 1; edit 1 T_ESRB; ?red; ?green; ?blue; ?swatch"), "185, 217, 230, 185|217|230 T_ESRB 1");
     std::string swatches;
     for (const char16_t* red : {u"7", u"300", u"a", u"2.5", u"3.5", u"", u"32767", u"1", u"32768", u"-5", u" 9 ", u"9x",
                                 u"nan", u"-32769", u"+-8", u"+8"}) {
@@ -444,82 +413,54 @@ TEST_F(Colors, AreEditedBoxByBox) {
         swatches += std::to_string(Red_Of(Window().picClr.Value())) + " ";
     }
     EXPECT_EQ(swatches, "7 255 255 2 4 4 255 1 1 0 9 9 9 9 9 8 ");
-    Window().cmdColor_Click();
-    EXPECT_EQ(Pair(u"T_ESRB"), "3|8|13 8|217|230");
-    Window().picClr_Click();
-    EXPECT_EQ(Swatch(), "8 217 230 8|217|230 T_ESRB 1") << "no choice, no change";
-    desktop.answer = u"a color";
-    Window().picClr_Click();
-    Window().pic_Click(u"none", 0);
-    for (const int index : {2, -1}) Window().pic_Click(u"Shade", static_cast<std::int16_t>(index));
-    EXPECT_EQ(Swatch(), "1 2 3 1|2|3 T_ESRB 1");
-    Window().pic_Click(u"PFLINE", 0);
-    Window().txtG.Set(u"a");
-    Window().txtB.Set(u"7");
-    EXPECT_EQ(Swatch(), "53 a 7 53|214|168 PFLINE 0");
-    Window().txtG.Set(u"300");
-    EXPECT_EQ(Shown(Window().picClr.Value()), "53|255|7");
+    Walk({{u"use; ?T_ESRB", "3|8|13 8|217|230"},
+          {u"choose; ?red; ?swatch", "8, 8|217|230 T_ESRB 1"},
+          {u"answer a color; choose; edit 0 none; edit 2 Shade; edit / Shade", ""},
+          {u"?red; ?green; ?blue; ?swatch", "1, 2, 3, 1|2|3 T_ESRB 1"},
+          {u"edit 0 PFLINE; green a; blue 7; ?red; ?swatch", "53, 53|214|168 PFLINE 0"},
+          {u"green 300; ?swatch", "53|255|7 PFLINE 0"}});
 }
 
 TEST_F(Colors, AreSavedAsASchemeThatBothListsHave) {
-    const auto save_as = [&](const char16_t* name) {
-        desktop.answer = name;
-        Window().cmdSaveScheme_Click();
-        return Said();
-    };
     std::filesystem::rename(home.Path() / "schemes/Aurora.vccs", home.Path() / "schemes/Aurora.VCCS");
+    const std::string asked = "<Save Scheme: Type a Name for the New Scheme>";
     Open();
-    EXPECT_EQ(save_as(u""), "<Save Scheme: Type a Name for the New Scheme>");
-    EXPECT_EQ(save_as(u"Aurora"), "<Save Scheme: Type a Name for the New Scheme>[Color Scheme saved as Aurora]");
-    EXPECT_EQ(home.Read("schemes/Aurora.vccs"), "(none)") << "the name that is there is in other letters";
-    save_as(u"Bright");
-    EXPECT_EQ(Entries(Window().cmbFileList) + Entries(main.cmbFileList),
-              "Current Brlyt|Aurora|Bright|Cherry Cola|Current Brlyt|Aurora|Bright|Cherry Cola|");
-    EXPECT_EQ(Shown(Window().cmbFileList) + Shown(main.cmbFileList), "");
+    Walk({{u"keep", asked},
+          {u"answer Aurora; keep; ?file schemes/Aurora.vccs", asked + "[Color Scheme saved as Aurora], (none)"},
+          {u"answer Bright; keep; ?colors; ?scheme", asked + "[Color Scheme saved as Bright], , "}});
+    EXPECT_EQ(Entries(Window().cmbFileList), "Current Brlyt|Aurora|Bright|Cherry Cola|");
+    EXPECT_EQ(Entries(main.cmbFileList), Entries(Window().cmbFileList));
     EXPECT_TRUE(home.Read("schemes/Bright.vccs")
                     .starts_with(" 53  214  168  14  59  74 \r\n 33  136  121  232  255  246 \r\n"));
     EXPECT_EQ(home.Read("schemes/Bright.vccs"), home.Read("schemes/Aurora.VCCS"));
-    main.Close_Color_Window();
-    EXPECT_EQ(Shown(main.cmbFileList), "");
-    main.cmdEditColor_Click();
-    EXPECT_EQ(Shown(Window().cmbFileList) + Pair(u"PFLINE"), "224|224|224 224|224|224");
     home.Write("schemes/Bright.vccs", "broken");
-    Window().cmbFileList.Pick(2);
-    EXPECT_EQ(Said() + Pair(u"PFLINE"),
-              "{HOME\\schemes\\Bright.vccs: PFLINE: \"broken\" is not a whole number}224|224|224 224|224|224");
-    for (const char16_t* name : {u"a/b", u"a\\b", u".hidden"}) {
-        EXPECT_TRUE(
-            save_as(name).ends_with("{" + Shown(name) + ": A scheme's name cannot begin with . or hold \\ or /}"));
-    }
+    const std::string wrong = ": A scheme's name cannot begin with . or hold \\ or /}";
+    Walk({{u"window; ?scheme; window; ?colors; ?PFLINE", ", , 224|224|224 224|224|224"},
+          {u"colors 2", "{HOME\\schemes\\Bright.vccs: PFLINE: \"broken\" is not a whole number}"},
+          {u"?PFLINE", "224|224|224 224|224|224"},
+          {u"answer a/b; keep", asked + "{a/b" + wrong},
+          {u"answer a\\b; keep", asked + "{a\\b" + wrong},
+          {u"answer .hidden; keep", asked + "{.hidden" + wrong}});
     // A scheme may have the name of the first entry; its place tells them apart.
     Make_Scheme("Current Brlyt", 100, 1);
-    Window().RefreshColorList();
-    Window().cmbFileList.Pick(4);
-    EXPECT_EQ(Shown(Window().cmbFileList) + Pair(u"BackMask2"), "Current Brlyt208|209|210 211|212|213");
-    main.Close_Color_Window();
-    main.cmdSave_Click();
-    main.cmdEditColor_Click();
-    Window().cmbFileList.Pick(0);
-    EXPECT_EQ(Pair(u"VCPic"), "184|185|186 187|188|189") << "as the layout has it now";
+    Walk({{u"refresh; colors 4; ?colors; ?BackMask2", "Current Brlyt, 208|209|210 211|212|213"},
+          {u"window; save", "[File Successfully Saved!], Saved"},
+          {u"window; colors 0; ?VCPic", "184|185|186 187|188|189"}});
 }
 
 TEST_F(Colors, NeedNeitherALayoutNorSchemes) {
     std::filesystem::remove_all(home.Path() / "schemes");
     home.Write("cfgs/vcinfopath.cfg", "\\none\r\n");
-    Open();
-    Window().cmdColor_Click();
-    EXPECT_EQ(Entries(Window().cmbFileList) + Pair(u"Back0"), "Current Brlyt|224|224|224 224|224|224");
-    desktop.answer = u"x";
-    Window().cmdSaveScheme_Click();
-    EXPECT_EQ(Said(),
-              "[File Not Found!]<Save Scheme: Type a Name for the New Scheme>{HOME\\schemes\\x.vccs: No such "
-              "file or directory}");
+    ASSERT_TRUE(main.Form_Load());
+    EXPECT_EQ(Do(u"window; use; ?Back0"), "[File Not Found!], 224|224|224 224|224|224");
+    EXPECT_EQ(Entries(Window().cmbFileList), "Current Brlyt|");
+    EXPECT_TRUE(Do(u"answer x; keep").ends_with(">{HOME\\schemes\\x.vccs: No such file or directory}"));
 }
 
 TEST_F(Colors, AreDrawnInThePreview) {
     Make_Scheme("S", 1, 2);
     Open();
-    Window().cmbFileList.Pick(3);
+    Do(u"colors 3");
     EXPECT_EQ(Shown(Window().preview), R"(
 96|96|96 in 0|0|0 240 2400 11115 300 0
 49|51|53 in 0|0|0 360 2640 10815 3735 0
@@ -549,7 +490,7 @@ TEST_F(Colors, AreDrawnWithTheTextsOfTheMainWindow) {
         std::ostringstream out;
         for (const DrawnLabel* label :
              {&preview.lblT_PF, &preview.lblT_Year, &preview.lblT_Play, &preview.lblT_VCTitle, &preview.lblT_ESRB}) {
-            out << Shown(label->text) << "|";
+            out << Line_Of(label->text) << "|";
         }
         out << preview.lblT_PF.area << " " << preview.shpPFLine[1].area.left << " " << preview.lblT_Play.area.top;
         return out.str();
@@ -559,23 +500,15 @@ TEST_F(Colors, AreDrawnWithTheTextsOfTheMainWindow) {
     EXPECT_EQ(Shown(before.shpPFLine[1].fill) + Shown(before.lblT_PF.color), "255|255|2550|0|0");
     Start({u"T_VCTitle_ENG One^Two", u"T_Year_GER Erschienen^1", u"T_Play_ENG Players: 1", u"T_Play a^b: 1",
            u"T_ESRB_ENG x: ^y", u"T_ESRB neutral: r", u"T_Year 1985", u"T_PF AB"});
-    main.cmdEditColor_Click();
-    const Preview& preview = Window().preview;
-    EXPECT_EQ(texts(preview), "AB|Erschienen^1|Players: 1|One/Two|x: /y| 10245 3000 570 390 9720 4425");
-    info.txtName.Set(u"Typed^x");
-    info.txtSystem.Set(u"A^B");
-    info.cmbRegion[1].Pick(7);
-    info.cmbRegion[3].Pick(7);
-    Window().cmdColor_Click();
-    EXPECT_EQ(texts(preview), "A^B|1985|Players: 1|Typed/x|neutral: r| 9960 3000 855 390 9435 4425");
-    info.cmbRegion[1].Pick(4);
-    Window().cmdColor_Click();
-    info.cmbRegion[2].Pick(7);
-    for (TextBox* box : {&info.txtName, &info.txtYear, &info.txtESRB}) box->Set(u"");
-    info.txtSystem.Set(u"Aあ");
-    Window().cmdColor_Click();
-    EXPECT_EQ(texts(preview), "Aあ||a/b: 1|Typed/x|neutral: r| 9390 3000 1425 390 8865 4005")
-        << "a name that is not measured gets more room";
+    for (const auto& [steps, drawn] :
+         {std::pair{u"window", "AB|Erschienen^1|Players: 1|One/Two|x: /y| 10245 3000 570 390 9720 4425"},
+          {u"name Typed^x; system A^B; language1 7; language3 7; use",
+           "A^B|1985|Players: 1|Typed/x|neutral: r| 9960 3000 855 390 9435 4425"},
+          {u"language1 4; use; language2 7; name ; year ; rating ; system Aあ; use",  // not measured, so with more room
+           "Aあ||a/b: 1|Typed/x|neutral: r| 9390 3000 1425 390 8865 4005"}}) {
+        Do(steps);
+        EXPECT_EQ(texts(Window().preview), drawn);
+    }
 }
 
 std::size_t allocations_left = 0;  ///< until one fails that has room for a layout; none does at 0
@@ -586,7 +519,7 @@ class BatchRuns : public Windows {
     std::string Run(const std::u16string& line) {
         const Process process{home.Text(), Replace_All(line, u"HOME", home.Text())};
         const int status = BatchRun(process, [this](const Failure& told) { desktop.Report(told); }).Run();
-        return Said() + std::to_string(status);
+        return In_Home(std::exchange(desktop.said, {})) + std::to_string(status);
     }
 };
 
@@ -630,12 +563,12 @@ TEST_F(BatchRuns, TakePathsAndLogosAsTheyAreTyped) {
         home.Write("cfgs/vcinfopath.cfg", row.config);
         for (const char* name : textures) home.Write(name, "-");
         home.Write("b/arc/blyt/x", layout);
-        SCOPED_TRACE(Shown(row.line));
+        SCOPED_TRACE(To_Utf8(row.line));
         EXPECT_EQ(Run(row.line), row.told);
         std::string now;
         for (const char* name : textures) now += home.Read(name);
         EXPECT_EQ(now, row.textures);
-        EXPECT_EQ(Shown(Replace_All(From_Utf8(home.Read("cfgs/vcinfopath.cfg")), home.Text(), u"HOME")), row.stored);
+        EXPECT_EQ(In_Home(home.Read("cfgs/vcinfopath.cfg")), row.stored);
         if (!row.told.ends_with('0')) { EXPECT_TRUE(home.Read("b/arc/blyt/x") == layout); }
     }
     std::filesystem::current_path(before);
