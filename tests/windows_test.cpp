@@ -3,6 +3,7 @@
 
 #include <map>
 #include <sstream>
+#include <variant>
 
 #include "generate/banners.h"
 #include "generate/layout_builder.h"
@@ -51,27 +52,27 @@ class Windows : public testing::Test {
         ASSERT_TRUE(main.Form_Load());
     }
 
-    /// What a person does step by step: "name New" types into a box, "logo 1" picks from a list, "set 0" presses a
-    /// button, and "?name" looks at something. Returns what was said and seen, commas between, the program's folder
-    /// being "HOME".
+    /// What a person does step by step: "name New" types into a box, "logo 1" picks from a list, "save" presses a
+    /// button,
+    /// "?name" looks. Returns what was said and seen, commas between, the program's folder being "HOME".
     std::string Do(const std::u16string& steps) {
         std::string seen;
-        const auto note = [&](const std::string& text) { seen += text + ", "; };
         for (std::size_t at = 0, end = 0; end != steps.npos; at = end + 2) {
             end = steps.find(u"; ", at);
             const std::u16string step = steps.substr(at, end - at), word = step.substr(0, step.find(u' ')),
                                  to = step.substr(std::min(step.size(), word.size() + 1));
             if (word.starts_with(u'?')) {
-                note(Look(word.substr(1), to));
-            } else if (Boxes_Now().contains(word)) {
-                Boxes_Now()[word]->Set(to);
-            } else if (Lists_Now().contains(word)) {
-                Lists_Now()[word]->Pick(std::stoi(To_Utf8(to)));
-            } else {
+                seen += Look(word.substr(1), to) + ", ";
+            } else if (!Controls().contains(word)) {
                 Press(word, to);
+            } else if (const Either control = Controls()[word]; control.index() == 0) {
+                std::get<TextBox*>(control)->Set(to);
+            } else {
+                std::get<DropDownList*>(control)->Pick(std::stoi(To_Utf8(to)));
             }
-            if (!desktop.said.empty()) note(In_Home(std::exchange(desktop.said, {})));
-            if (word == u"set" || word == u"all" || word == u"save" || word == u"write") note(Look(u"told", u""));
+            if (!desktop.said.empty()) seen += In_Home(std::exchange(desktop.said, {})) + ", ";
+            if (word == u"set" || word == u"all" || word == u"save" || word == u"write")
+                seen += Look(u"told", u"") + ", ";
         }
         return seen.substr(0, seen.rfind(", "));
     }
@@ -94,63 +95,60 @@ class Windows : public testing::Test {
     GameInfo& info = main.info;
 
  private:
-    std::map<std::u16string, TextBox*> Boxes_Now() {
-        std::map<std::u16string, TextBox*> boxes = {{u"path", &main.txtSrc},        {u"pad", &main.txtPad},
-                                                    {u"name", &info.txtName},       {u"year", &info.txtYear},
-                                                    {u"players", &info.txtPlayers}, {u"rating", &info.txtESRB},
-                                                    {u"system", &info.txtSystem}};
-        if (main.TextEditor) boxes[u"text"] = &main.TextEditor->txtHC;
-        if (!main.ColorWindow) return boxes;
-        boxes.merge(decltype(boxes){{u"red", &Window().txtR}, {u"green", &Window().txtG}, {u"blue", &Window().txtB}});
-        boxes[u"source"] = &Window().txtBannerPath;
-        return boxes;
-    }
-    std::map<std::u16string, DropDownList*> Lists_Now() {
-        std::map<std::u16string, DropDownList*> lists = {
-            {u"scheme", &main.cmbFileList}, {u"logo", &main.cmbLogo}, {u"force", &main.cmbForce}};
-        for (std::size_t i = 0; i < 4; ++i) lists[u"language" + From_Utf8(std::to_string(i))] = &info.cmbRegion[i];
-        if (main.TextEditor) lists[u"box"] = &main.TextEditor->cmbHC;
-        if (main.ColorWindow) lists[u"colors"] = &Window().cmbFileList;
-        return lists;
+    using Either = std::variant<TextBox*, DropDownList*>;
+
+    std::map<std::u16string, Either> Controls() {
+        std::map<std::u16string, Either> all = {{u"path", &main.txtSrc},        {u"pad", &main.txtPad},
+                                                {u"name", &info.txtName},       {u"year", &info.txtYear},
+                                                {u"players", &info.txtPlayers}, {u"rating", &info.txtESRB},
+                                                {u"system", &info.txtSystem},   {u"scheme", &main.cmbFileList},
+                                                {u"logo", &main.cmbLogo},       {u"force", &main.cmbForce}};
+        for (std::size_t i = 0; i < 4; ++i) all[u"language" + From_Utf8(std::to_string(i))] = &info.cmbRegion[i];
+        if (frmHC* editor = main.TextEditor.get()) all.insert({{u"text", &editor->txtHC}, {u"box", &editor->cmbHC}});
+        if (frmColor* colors = main.ColorWindow.get())
+            all.insert({{u"red", &colors->txtR},
+                        {u"green", &colors->txtG},
+                        {u"blue", &colors->txtB},
+                        {u"source", &colors->txtBannerPath},
+                        {u"colors", &colors->cmbFileList}});
+        return all;
     }
     void Press(const std::u16string& word, const std::u16string& to) {
-        const auto number = [&] { return static_cast<std::int16_t>(std::stoi(To_Utf8(to))); };
-        const std::map<std::u16string, std::function<void()>> buttons = {
-            {u"answer", [&] { desktop.answer = to; }},
-            {u"set", [&] { main.cmdSet_Click(number()); }},
-            {u"all", [&] { main.cmdSetAll_Click(number()); }},
-            {u"save", [&] { main.cmdSave_Click(); }},
-            {u"browse", [&] { main.cmdFileBrowse_Click(); }},
-            {u"texts", [&] { main.TextEditor ? main.Close_Text_Editor() : main.cmdHC_Click(); }},
-            {u"write", [&] { main.TextEditor->cmdSet_Click(); }},
-            {u"window", [&] { main.ColorWindow ? main.Close_Color_Window() : main.cmdEditColor_Click(); }},
-            {u"edit", [&] { Window().pic_Click(to.substr(2), static_cast<std::int16_t>(to[0] - u'0')); }},
-            {u"choose", [&] { Window().picClr_Click(); }},
-            {u"use", [&] { Window().cmdColor_Click(); }},
-            {u"get", [&] { Window().cmdGetScheme_Click(); }},
-            {u"keep", [&] { Window().cmdSaveScheme_Click(); }},
-            {u"refresh", [&] { Window().RefreshColorList(); }},
-            {u"", [] {}}};
-        buttons.at(word)();
+        const auto index = static_cast<std::int16_t>(to.empty() ? 0 : to[0] - u'0');
+        if (word == u"answer") return static_cast<void>(desktop.answer = to);
+        if (word == u"set") return main.cmdSet_Click(index);
+        if (word == u"all") return main.cmdSetAll_Click(index);
+        if (word == u"save") return main.cmdSave_Click();
+        if (word == u"browse") return main.cmdFileBrowse_Click();
+        if (word == u"texts") return main.TextEditor ? main.Close_Text_Editor() : main.cmdHC_Click();
+        if (word == u"write") return main.TextEditor->cmdSet_Click();
+        if (word == u"window") return main.ColorWindow ? main.Close_Color_Window() : main.cmdEditColor_Click();
+        if (word == u"edit") return Window().pic_Click(to.substr(2), index);
+        if (word == u"choose") return Window().picClr_Click();
+        if (word == u"use") return Window().cmdColor_Click();
+        if (word == u"get") return Window().cmdGetScheme_Click();
+        if (word == u"keep") return Window().cmdSaveScheme_Click();
+        if (word == u"refresh") return Window().RefreshColorList();
+        if (!word.empty()) throw std::invalid_argument("no step is called " + To_Utf8(word));
     }
     std::string Look(const std::u16string& word, const std::u16string& at) {
-        if (Boxes_Now().contains(word)) return Line_Of(Boxes_Now()[word]->Text());
-        if (Lists_Now().contains(word)) return Line_Of(Lists_Now()[word]->Selected());
         if (word == u"told") return Line_Of(main.lblLastCommand.Caption());
         if (word == u"loaded") return Line_Of(main.lblLoaded.Caption());
         if (word == u"file") return In_Home(home.Read(To_Utf8(at)));
-        if (word == u"config") return In_Home(home.Read("cfgs/vcinfopath.cfg"));
         if (word == u"may") return main.form.Enabled() ? "enabled" : "disabled";
         if (word == u"close") return main.May_Close() ? "closes" : "stays";
         if (word == u"is") return Line_Of(Get_Text(main.BrlytData, To_Utf8(at)));
         if (word == u"swatch") return Shown(Window().picClr.Value()) + " " + Line_Of(Window().lblEdit.Caption());
         if (word == u"fields") {
-            std::string line = Do(u"?name; ?year; ?players; ?rating; ?system");
-            for (const DropDownList& list : info.cmbRegion) line += " " + Line_Of(list.Selected());
-            return line;
+            return Do(u"?name; ?year; ?players; ?rating; ?system; ?language0; ?language1; ?language2; ?language3");
         }
-        const auto& boxes = Window().pic[Element_Index(word)];
-        return Shown(boxes[0].Value()) + " " + Shown(boxes[1].Value());
+        if (!Controls().contains(word)) {
+            const auto& boxes = Window().pic.at(Element_Index(word));
+            return Shown(boxes[0].Value()) + " " + Shown(boxes[1].Value());
+        }
+        const Either control = Controls()[word];
+        return Line_Of(control.index() == 0 ? std::get<TextBox*>(control)->Text()
+                                            : std::get<DropDownList*>(control)->Selected());
     }
 };
 
@@ -162,9 +160,9 @@ TEST_F(Windows, StartWithWhatTheConfigurationNames) {
     EXPECT_TRUE(main.Form_Load() && main.form.Visible());
     EXPECT_EQ(Entries(main.cmbFileList) + Entries(main.cmbLogo) + Entries(main.cmbForce),
               "Current Brlyt|Aurora|Cherry Cola|Current Logo|Comet.tpl|ENG|GER|FRA|ITA|SPA|NED|JPN|NONE|");
-    Walk({{u"?config; ?path; ?pad", "\\b/arc/blyt/x/, \\b/arc/blyt/x, 12000"},
+    Walk({{u"?file cfgs/vcinfopath.cfg; ?path; ?pad", "\\b/arc/blyt/x/, \\b/arc/blyt/x, 12000"},
           {u"?scheme; ?logo; ?force", "Current Brlyt, Current Logo, NONE"},
-          {u"?fields", "Starlight Courier, 1991, 2, E, SUPER 16 ENG ENG ENG ENG"},
+          {u"?fields", "Starlight Courier, 1991, 2, E, SUPER 16, ENG, ENG, ENG, ENG"},
           {u"?loaded", "x  |  texts as in the file  |  ENG GER FRA ITA SPA NED JPN  |  10876 bytes"}});
 }
 
@@ -179,7 +177,7 @@ TEST_F(Windows, TakePathsAsTheyAreTyped) {
           {u"path \\program", "One, No layout loaded: Is a program, not a layout file, \\program/"},
           {u"path \\x\r", ", x\r  |  texts as in the file  |  no titles  |  144 bytes, \\program/"},
           {u"path \\text", ", text  |  texts as in the file  |  not a layout file  |  26 bytes, \\text/"}},
-         u"; ?name; ?loaded; ?config");
+         u"; ?name; ?loaded; ?file cfgs/vcinfopath.cfg");
     EXPECT_TRUE(Do(u"answer /dev/null; browse").ends_with("|Brlyt Files (*.brlyt)|*.brlyt|All Files (*.*)|*.*>"));
     for (const auto& [file, taken] : {std::pair{u"/dev/null"s, u"/dev/null"s},
                                       {home.Text() + u"\\d\\e/f", u"\\d\\e/f"},
@@ -193,21 +191,21 @@ TEST_F(Windows, TakePathsAsTheyAreTyped) {
 TEST_F(Windows, ShowTheFirstValueOfEachField) {
     using Texts = std::vector<std::u16string>;
     const std::pair<Texts, std::string> rows[] = {
-        {{}, ", , , ,  NONE NONE NONE NONE, x  |  texts as in the file  |  no titles  |  24 bytes"},
+        {{}, ", , , , , NONE, NONE, NONE, NONE, x  |  texts as in the file  |  no titles  |  24 bytes"},
         {{u"T_VCTitle_KOR Korea", u"T_Play_KOR x^1-4x"},
-         "Korea, , 4, ,  KOR NONE KOR NONE, x  |  texts as in the file  |  KOR  |  284 bytes"},
+         "Korea, , 4, , , KOR, NONE, KOR, NONE, x  |  texts as in the file  |  KOR  |  284 bytes"},
         {{u"T_VCTitle N", u"T_Year Publié en 1990", u"T_Play Joueurs: 1-3", u"T_ESRB Classement ESRB: T"},
-         "N, 1990, 3, T,  NONE NONE NONE NONE, x  |  texts as in the file  |  one text for all languages  |  592 "
+         "N, 1990, 3, T, , NONE, NONE, NONE, NONE, x  |  texts as in the file  |  one text for all languages  |  592 "
          "bytes"},
         {{u"T_PF SYS", u"T_VCTitle_JPN J", u"T_VCTitle_GER G", u"T_Year_ITA Pubblicato: 1990", u"T_Play_ENG novalue",
           u"T_Play_FRA Joueurs: 1-3", u"T_ESRB_NED ESRB Rating: T", u"T_Year Erschienen: 1"},
-         "G, 1990, 3, T, SYS GER ITA FRA NED, x  |  texts as in the file  |  GER JPN  |  1108 bytes"}};
+         "G, 1990, 3, T, SYS, GER, ITA, FRA, NED, x  |  texts as in the file  |  GER JPN  |  1108 bytes"}};
     for (const auto& [boxes, seen] : rows) {
         Do(u"path ");
         Start(boxes);
         EXPECT_EQ(Do(u"?fields; ?loaded"), seen);
     }
-    Walk({{u"language0 4; language1 4; language2 4; language3 4; ?fields", ", 1990, , , SYS SPA SPA SPA SPA"},
+    Walk({{u"language0 4; language1 4; language2 4; language3 4; ?fields", ", 1990, , , SYS, SPA, SPA, SPA, SPA"},
           {u"name typed; language0 -1; ?name", "typed"},
           {u"language0 1; ?name", "G"}});
     EXPECT_EQ(info.cmbRegion[0].Count(), 8) << "without Korean, which this layout does not have";
@@ -234,8 +232,8 @@ TEST_F(Windows, SaveWhatIsChosen) {
     const std::size_t size = main.BrlytData.size();
     home.Write("cfgs/vcinfopath.cfg", "spoilt");
     Walk({{u"logo 1; force 0; pad +10; year typed and not set; save", "[File Successfully Saved!], Saved"},
-          {u"?fields; ?logo; ?force", "G, 1990, , ,  GER GER NONE NONE, Comet.tpl, ENG"},
-          {u"?file b/arc/timg/my_Back_x.tpl; ?config", "comet, \\b/arc/blyt/x/"}});
+          {u"?fields; ?logo; ?force", "G, 1990, , , , GER, GER, NONE, NONE, Comet.tpl, ENG"},
+          {u"?file b/arc/timg/my_Back_x.tpl; ?file cfgs/vcinfopath.cfg", "comet, \\b/arc/blyt/x/"}});
     EXPECT_EQ(home.Read("b/arc/blyt/x").size(), size + 10);
     EXPECT_EQ(Line_Of(Get_Text(home.Read("b/arc/blyt/x"), "T_PLAY_ENG")), "x");
     EXPECT_EQ(main.BrlytData.size(), size);
@@ -322,8 +320,8 @@ TEST_F(Windows, EditAnyTextByItsName) {
           {u"box 4; ?text; text renamed; write", "name, Text editor: 1 text changed: T_VCTitle_ENG"},
           {u"box 6; ?text; text 1-4; write", "Players: 1, Text editor: 1 text changed: T_Play_ENG"},
           {u"box 7; ?text; text x: T; write", "ESRB Rating: E, Text editor: 1 text changed: T_ESRB_ENG"},
-          {u"?fields", "name, 2222, 1, E, longer ENG ENG ENG ENG"},
-          {u"texts; ?may; ?fields", "enabled, renamed, 1999, , T, New ENG ENG ENG ENG"},
+          {u"?fields", "name, 2222, 1, E, longer, ENG, ENG, ENG, ENG"},
+          {u"texts; ?may; ?fields", "enabled, renamed, 1999, , T, New, ENG, ENG, ENG, ENG"},
           {u"path ; texts; text x; write", ""}});
     EXPECT_EQ(main.BrlytData, "");
 }
