@@ -114,7 +114,7 @@ class Windows : public testing::Test {
         return all;
     }
     void Press(const std::u16string& word, const std::u16string& to) {
-        const auto index = static_cast<std::int16_t>(to.empty() ? 0 : to[0] - u'0');
+        const auto index = static_cast<std::int16_t>(to.empty() ? 0 : to[0] - u'0');  // "/" is -1
         if (word == u"answer") return static_cast<void>(desktop.answer = to);
         if (word == u"set") return main.cmdSet_Click(index);
         if (word == u"all") return main.cmdSetAll_Click(index);
@@ -547,7 +547,7 @@ TEST_F(BatchRuns, TakePathsAndLogosAsTheyAreTyped) {
            "{HOME\\x-y z: Is not edited, because a hyphen ends the path on a command line}"
            "{HOME\\x: Saved, but its other names (hard links) keep the old contents}0",
            "HOME\\x/"},
-          {u"C:/x -PAD 0 -TITLE x-y z", "0", "C:/x/"},
+          {u"C:/x-w -PAD 0", "0", "C:/x/"},
           {u"-LOGO Comet.tpl -COLOR none -COLOR none", "{HOME\\schemes\\none.vccs: No such file or directory}1"},
           {u"-TITLE x -LOGO C:\\None.tpl", "{C:\\None.tpl: No such file or directory}1"},
           {u"-LOGO \\other.tpl", "0", "\\b/arc/blyt/x/", "--other----"},
