@@ -1,33 +1,14 @@
 // The real widgets, shown offscreen and worked with as a person does.
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QComboBox>
-#include <QDropEvent>
-#include <QFileDialog>
-#include <QGroupBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QMimeData>
-#include <QPushButton>
-#include <QScrollArea>
-#include <QScrollBar>
-#include <QTabWidget>
-#include <QTest>
-#include <QTimer>
-#include <QWheelEvent>
+#include <QtTest/QtTest>
+#include <QtWidgets/QtWidgets>
 #include <cstdlib>
-#include <memory>
 
-#include "base/text.h"
-#include "desktop/color_window_view.h"
-#include "desktop/game_picture_view.h"
 #include "desktop/main_window_view.h"
 #include "desktop/preview_view.h"
 #include "desktop/qt_desktop.h"
 #include "desktop/text.h"
-#include "desktop/text_editor_view.h"
 #include "desktop/widgets.h"
 #include "generate/banners.h"
 #include "generate/channel.h"
@@ -35,44 +16,74 @@
 #include "generate/texture.h"
 #include "mainwindow/batch_run.h"
 #include "mainwindow/form1.h"
+#include "noting_desktop.h"
 #include "support.h"
 
 using namespace bannersmith;
 
 namespace {
 
+using namespace std::string_literals;
+
 constexpr char Layout[] = "b/arc/blyt/banner.brlyt";
 constexpr char Texture[] = "b/arc/timg/my_BackX.tpl";
 
-/// Notes what it is shown and answers what it is told to.
-class TestDesktop : public QtDesktop {
- public:
-    std::vector<std::u16string> messages, failures;
-    std::u16string answer, file;
-    Color color = 0;
+/// The list, box or button that has this name, or a tooltip that begins so.
+QWidget& Named(QWidget& window, const QString& name) {
+    for (QWidget* widget : window.findChildren<QWidget*>()) {
+        const bool button = qobject_cast<QAbstractButton*>(widget) != nullptr;
+        if (button ? widget->toolTip().startsWith(name) : widget->accessibleName() == name) return *widget;
+    }
+    throw std::runtime_error("nothing is called " + name.toStdString());
+}
 
-    std::u16string Open_File(const std::u16string& /*filter*/, const std::u16string& /*last*/) override { return file; }
-    std::u16string Save_File(const std::u16string& /*filter*/, const std::u16string& /*name*/) override { return file; }
-    Color Choose_Color(Color /*color*/) override { return color; }
-    void Message(const std::u16string& text) override { messages.push_back(text); }
-    void Report(const Failure& failure) override { failures.push_back(failure.subject); }
-    std::u16string Ask(const std::u16string& /*prompt*/, const std::u16string& /*title*/) override { return answer; }
-    bool Confirm(const std::u16string& /*question*/) override { return true; }
-};
+/// What a list or a box shows.
+std::string Value(QWidget& window, const QString& name) {
+    const QWidget& widget = Named(window, name);
+    return widget.metaObject()->userProperty().read(&widget).toString().toStdString();
+}
+
+/// Step by step as a person does: "NAME=VALUE" types it into the box or chooses it in the list of that name, anything
+/// else presses the button of that name.
+void Do(QWidget& window, const QString& steps) {
+    for (const QString& step : steps.split("; ")) {
+        QWidget& widget = Named(window, step.section('=', 0, 0));
+        const QString value = step.section('=', 1);
+        if (qobject_cast<QAbstractButton*>(&widget)) {
+            QTest::mouseClick(&widget, Qt::LeftButton);
+        } else if (auto* list = qobject_cast<QComboBox*>(&widget)) {
+            list->setFocus();
+            QTest::keyClick(list, Qt::Key_Home);
+            for (int i = 0; i <= list->count() && list->currentText() != value; ++i)
+                QTest::keyClick(list, Qt::Key_Down);
+            EXPECT_EQ(list->currentText(), value);
+        } else {
+            widget.setFocus();
+            QTest::keyClick(&widget, Qt::Key_A, Qt::ControlModifier);
+            QTest::keyClicks(&widget, value);
+        }
+    }
+}
+
+/// The window that is shown beside the main one.
+QWidget& Opened(const QString& title) {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->isVisible() && window->windowTitle() == title) return *window;
+    }
+    throw std::runtime_error("no window is called " + title.toStdString());
+}
 
 class Widgets : public testing::Test {
  public:
     Widgets() {
         Fill(folder);
-        window = std::make_unique<Form1>(Process{folder.Text(), u""}, desktop);
-        view = std::make_unique<MainWindowView>(*window);
-        window->Form_Load();
-        view->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(view.get()));
+        desktop.answer = u"yes";
+        window.Form_Load();
+        view.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&view));
     }
     ~Widgets() override {
-        if (window->ColorWindow) Find<ColorWindowView>()->close();
-        if (window->TextEditor) Find<TextEditorView>()->close();
+        for (QDialog* other : view.findChildren<QDialog*>()) other->close();
     }
 
     static void Fill(const TempFolder& folder) {
@@ -82,82 +93,27 @@ class Widgets : public testing::Test {
         folder.Write("logos/New.tpl", "new");
         folder.Write("schemes/Mine.vccs", Format_Scheme(Shipped_Schemes()[2].scheme));
     }
-
-    template <typename View>
-    static View* Find() {
-        for (QWidget* widget : QApplication::topLevelWidgets()) {
-            auto* found = dynamic_cast<View*>(widget);
-            if (found != nullptr && found->isVisible()) return found;
-        }
-        return nullptr;
-    }
-
-    template <typename Widget>
-    static Widget& Named(QWidget& parent, const QString& name) {
-        for (Widget* widget : parent.findChildren<Widget*>()) {
-            if (widget->accessibleName() == name) return *widget;
-        }
-        throw std::runtime_error("no widget is called " + name.toStdString());
-    }
-
-    static void Type(QLineEdit& edit, const QString& text) {
-        edit.setFocus();
-        edit.selectAll();
-        QTest::keyClicks(&edit, text);
-    }
-
-    static void Choose(QComboBox& list, const QString& entry) {
-        list.setFocus();
-        QTest::keyClick(&list, Qt::Key_Home);
-        for (int i = 0; i <= list.count() && list.currentText() != entry; ++i) QTest::keyClick(&list, Qt::Key_Down);
-        EXPECT_EQ(list.currentText(), entry);
-    }
-
-    static void Press(QWidget& parent, const QString& tooltip) {
-        for (QAbstractButton* button : parent.findChildren<QAbstractButton*>()) {
-            if (!button->toolTip().startsWith(tooltip)) continue;
-            QTest::mouseClick(button, Qt::LeftButton);
-            return;
-        }
-        FAIL() << "no button does " << tooltip.toStdString();
-    }
+    void Control(Qt::Key key) { QTest::keyClick(&view, key, Qt::ControlModifier); }
 
     TempFolder folder;
-    TestDesktop desktop;
-    std::unique_ptr<Form1> window;
-    std::unique_ptr<MainWindowView> view;
+    NotingDesktop desktop;
+    Form1 window{{folder.Text(), u""}, desktop};
+    MainWindowView view{window};
 };
 
 TEST_F(Widgets, WriteTheSameBytesAsABatchRun) {
-    EXPECT_EQ(Named<QLineEdit>(*view, "Name").text(), "Der Sternenbote");
-    Type(Named<QLineEdit>(*view, "Name"), "All");
-    Press(*view, "Write the name for every");
-    Choose(Named<QComboBox>(*view, "Language of the name"), "JPN");
-    EXPECT_EQ(Named<QLineEdit>(*view, "Name").text(), "All");
-    Type(Named<QLineEdit>(*view, "Name"), "One^Two");
-    Press(*view, "Write the name for this");
-    Type(Named<QLineEdit>(*view, "Year"), "2001");
-    Press(*view, "Write the year for every");
-    Choose(Named<QComboBox>(*view, "Language of the year"), "JPN");
-    Type(Named<QLineEdit>(*view, "Year"), "1999");
-    Press(*view, "Write the year for this");
-    Type(Named<QLineEdit>(*view, "Players"), "4");
-    Press(*view, "Write the number of players");
-    Type(Named<QLineEdit>(*view, "System"), "MEGA");
-    Press(*view, "Write the console");
-    Type(Named<QLineEdit>(*view, "ESRB Rating"), "T");
-    Press(*view, "Write the rating for every");
-    Choose(Named<QComboBox>(*view, "Language of the rating"), "GER");
-    Type(Named<QLineEdit>(*view, "ESRB Rating"), "M");
-    Press(*view, "Write the rating for this");
-    EXPECT_TRUE(view->isWindowModified());
-    Choose(Named<QComboBox>(*view, "Colors"), "Mine");
-    Choose(Named<QComboBox>(*view, "Logo"), "New.tpl");
-    Choose(Named<QComboBox>(*view, "Region Force"), "ITA");
-    Type(Named<QLineEdit>(*view, "Padding (fixes corrupted images)"), "+16");
-    QTest::keyClick(view.get(), Qt::Key_S, Qt::ControlModifier);
-    EXPECT_EQ(desktop.messages, std::vector<std::u16string>{u"File Successfully Saved!"});
-    EXPECT_FALSE(view->isWindowModified());
+    EXPECT_EQ(Value(view, "Name"), "Der Sternenbote");
+    Do(view, "Name=All; Write the name for every; Language of the name=JPN");
+    EXPECT_EQ(Value(view, "Name"), "All");
+    Do(view, "Name=One^Two; Write the name for this; Year=2001; Write the year for every; Language of the year=JPN");
+    Do(view, "Year=1999; Write the year for this; Players=4; Write the number of players; System=MEGA");
+    Do(view, "Write the console; ESRB Rating=T; Write the rating for every; Language of the rating=GER");
+    Do(view, "ESRB Rating=M; Write the rating for this");
+    EXPECT_TRUE(view.isWindowModified());
+    Do(view, "Colors=Mine; Logo=New.tpl; Region Force=ITA; Padding (fixes corrupted images)=+16");
+    Control(Qt::Key_S);
+    EXPECT_TRUE(desktop.said.ends_with("[File Successfully Saved!]"));
+    EXPECT_FALSE(view.isWindowModified());
 
     const TempFolder batch;
     Fill(batch);
@@ -173,146 +129,97 @@ TEST_F(Widgets, WriteTheSameBytesAsABatchRun) {
 /// From the channel's file to the channel's file without another tool.
 TEST_F(Widgets, EditAWholeChannel) {
     const Picture sky{640, 448, std::string(std::size_t{640} * 448 * TexelSize, '\x70')};
-    folder.Write("before.app", Sample_Channel());
-    folder.Write("c/00000000.app", Sample_Channel());
+    for (const char* name : {"before.app", "c/00000000.app"}) folder.Write(name, Sample_Channel());
     folder.Write("logos/Sky.png", Write_Png(sky));
     folder.Write("game.jpg", Jpeg_File(sky));
-    window->RefreshLogoList();
-    Type(Named<QLineEdit>(*view, "File"), QString::fromStdString((folder.Path() / "c/00000000.app").string()));
-    auto* pages = view->findChild<QTabWidget*>();
+    window.RefreshLogoList();
+    Do(view, "File=" + Shown(folder.Text()) + "/c/00000000.app");
+    auto* pages = view.findChild<QTabWidget*>();
     ASSERT_EQ(pages->count(), 2);
-    for (const auto& [field, value, button] : {std::tuple{"Name", "Moonlight", "Write the name for every"},
-                                               {"Year", "2001", "Write the year for every"},
-                                               {"Players", "4", "Write the number of players"}}) {
-        Type(Named<QLineEdit>(*view, field), value);
-        Press(*view, button);
-    }
-    Choose(Named<QComboBox>(*view, "Colors"), "Mine");
-    Choose(Named<QComboBox>(*view, "Logo"), "Sky.png");
-    EXPECT_FALSE(window->cmbLogo.picture_of(0));
-    EXPECT_EQ(*window->cmbLogo.picture_of(window->cmbLogo.Index()), sky);
-    Press(*view, "See, replace");
-    auto* picture = Find<GamePictureView>();
-    desktop.file = folder.Text() + u"/game.jpg";
-    Press(*picture, "Take another");
-    desktop.file = folder.Text() + u"/out";
-    Press(*picture, "Write the picture");
-    EXPECT_FALSE(Named<QLabel>(*picture, "Picture of the game").pixmap(Qt::ReturnByValue).isNull());
-    picture->close();
+    Do(view,
+       "Name=Moonlight; Write the name for every; Year=2001; Write the year for every; Players=4; "
+       "Write the number of players; Colors=Mine; Logo=Sky.png; See, replace");
+    EXPECT_FALSE(window.cmbLogo.picture_of(0));
+    EXPECT_EQ(*window.cmbLogo.picture_of(window.cmbLogo.Index()), sky);
+    QWidget& picture = Opened("Game Picture");
+    desktop.answer = folder.Text() + u"/game.jpg";
+    Do(picture, "Take another");
+    desktop.answer = folder.Text() + u"/out";
+    Do(picture, "Write the picture");
+    EXPECT_FALSE(static_cast<QLabel&>(Named(picture, "Picture of the game")).pixmap(Qt::ReturnByValue).isNull());
+    picture.close();
     EXPECT_EQ(Read_Picture(folder.Read("out.png"))->width, 256U);
     pages->setCurrentIndex(1);
-    for (const char* line : {"ENG, line 1", "GER, line 2", "KOR, line 1"}) {
-        Type(Named<QLineEdit>(*view, line), QString(line).left(20));
-    }
-    Type(Named<QLineEdit>(*view, "FRA, line 1"), QString(21, 'x'));
-    Press(*view, "Write the names");
-    EXPECT_EQ(desktop.failures, std::vector<std::u16string>{u"Channel name FRA"});
-    EXPECT_EQ(window->lblLastCommand.Caption(), u"Channel names: 3 lines changed");
-    QTest::keyClick(view.get(), Qt::Key_S, Qt::ControlModifier);
-    EXPECT_EQ(desktop.messages, std::vector<std::u16string>{u"File Successfully Saved!"});
+    desktop.said.clear();
+    Do(view,
+       "ENG, line 1=ENG, line 1; GER, line 2=GER, line 2; KOR, line 1=KOR, line 1; "
+       "FRA, line 1=xxxxxxxxxxxxxxxxxxxxx; Write the names");
+    EXPECT_TRUE(desktop.said.starts_with("{Channel name FRA: ")) << desktop.said;
+    EXPECT_EQ(window.lblLastCommand.Caption(), u"Channel names: 3 lines changed");
+    Control(Qt::Key_S);
+    EXPECT_TRUE(desktop.said.ends_with("}[File Successfully Saved!]"));
     EXPECT_EQ((*Archive::Read(folder.Read("c/00000000.app"))->Names())[2][1], u"GER, line 2");
-    const std::string banner = " meta/banner.bin/arc/", icon = " meta/icon.bin/arc/";
-    const std::string read = "python3 '" READ_CHANNEL "' before.app c/00000000.app names" + banner +
-                             "blyt/banner.brlyt" + banner + "timg/VCPic.tpl" + banner + "timg/my_BackSample_a.tpl" +
-                             icon + "timg/IconVCPic.tpl";
-    EXPECT_EQ(std::system(("cd '" + folder.Path().string() + "' && " + read).c_str()), 0);
-    Type(Named<QLineEdit>(*view, "File"), "nothing");
+    const std::string read = "' && python3 '" READ_CHANNEL
+                             "' before.app c/00000000.app names meta/banner.bin/arc/blyt/banner.brlyt "
+                             "meta/banner.bin/arc/timg/VCPic.tpl meta/banner.bin/arc/timg/my_BackSample_a.tpl "
+                             "meta/icon.bin/arc/timg/IconVCPic.tpl";
+    EXPECT_EQ(std::system(("cd '" + folder.Path().string() + read).c_str()), 0);
+    Do(view, "File=nothing");
     EXPECT_EQ(pages->count(), 1);
 }
 
 TEST_F(Widgets, TakePathsKeyByKey) {
-    const QString path = "\\b\\arc\\blyt\\banner.brlyt";
-    QLineEdit& edit = Named<QLineEdit>(*view, "File");
-    EXPECT_EQ(edit.text(), path);
-    Type(edit, path + "x");
-    EXPECT_EQ(window->BrlytData, "");
-    QTest::keyClick(&edit, Qt::Key_Backspace);
-    EXPECT_EQ(window->BrlytData, German_Japanese_Banner());
-    Type(edit, "\\b\\");
-    Type(edit, "/dev/null");
-    EXPECT_TRUE(desktop.failures.empty() && desktop.messages.empty());
+    const std::string path = "\\b\\arc\\blyt\\banner.brlyt";
+    EXPECT_EQ(Value(view, "File"), path);
+    Do(view, "File=" + QString::fromStdString(path) + "x");
+    EXPECT_EQ(window.BrlytData, "");
+    QTest::keyClick(&Named(view, "File"), Qt::Key_Backspace);
+    EXPECT_EQ(window.BrlytData, German_Japanese_Banner());
+    Do(view, "File=\\b\\; File=/dev/null");
+    EXPECT_EQ(desktop.said, "");
 
     QMimeData dropped;
     dropped.setUrls({QUrl::fromLocalFile(Shown(folder.Text()) + "/" + Layout)});
     for (const Qt::DropActions actions : {Qt::DropActions(Qt::MoveAction), Qt::MoveAction | Qt::CopyAction}) {
         QDragEnterEvent enter(QPoint(5, 5), actions, &dropped, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(view.get(), &enter);
-        const bool copies = actions.testFlag(Qt::CopyAction);
-        EXPECT_EQ(enter.isAccepted(), copies) << "the file would be deleted where it was";
-        if (!copies) continue;
-        QDropEvent drop(QPointF(5, 5), actions, &dropped, Qt::LeftButton, Qt::NoModifier);
-        drop.setDropAction(Qt::MoveAction);
-        QApplication::sendEvent(view.get(), &drop);
-        EXPECT_EQ(drop.dropAction(), Qt::CopyAction);
+        QApplication::sendEvent(&view, &enter);
+        EXPECT_EQ(enter.isAccepted(), actions.testFlag(Qt::CopyAction)) << "the file would be deleted where it was";
     }
-    EXPECT_EQ(edit.text(), "/dev/null") << "before the drag has ended";
+    QDropEvent drop(QPointF(5, 5), Qt::MoveAction | Qt::CopyAction, &dropped, Qt::LeftButton, Qt::NoModifier);
+    drop.setDropAction(Qt::MoveAction);
+    QApplication::sendEvent(&view, &drop);
+    EXPECT_EQ(drop.dropAction(), Qt::CopyAction);
+    EXPECT_EQ(Value(view, "File"), "/dev/null") << "before the drag has ended";
     QApplication::processEvents();
-    EXPECT_EQ(edit.text(), QString("\\") + Layout);
-    EXPECT_EQ(window->BrlytData, German_Japanese_Banner());
-    desktop.file = u"chosen";
-    Press(*view, "Choose a layout file");
-    EXPECT_EQ(edit.text(), "chosen");
+    EXPECT_EQ(Value(view, "File"), "\\"s + Layout);
+    EXPECT_EQ(window.BrlytData, German_Japanese_Banner());
+    desktop.answer = u"chosen";
+    Do(view, "Choose a layout file");
+    EXPECT_EQ(Value(view, "File"), "chosen");
 }
 
 TEST_F(Widgets, KeepTheMainWindowBehindTheOthers) {
-    for (int way = 0; way < 2; ++way) {
-        Press(*view, "Edit colors");
-        auto* colors = Find<ColorWindowView>();
-        ASSERT_TRUE(colors);
-        EXPECT_FALSE(view->centralWidget()->isEnabled());
-        EXPECT_TRUE(colors->isEnabled());
-        EXPECT_FALSE(view->close());
-        Choose(Named<QComboBox>(*colors, "Select Scheme"), way ? "Current Brlyt" : "Mine");
-        if (way) {
-            colors->close();
-        } else {
-            QTest::keyClick(colors, Qt::Key_Escape);
-        }
-        EXPECT_TRUE(view->centralWidget()->isEnabled());
-        EXPECT_EQ(Named<QComboBox>(*view, "Colors").currentText(), way ? "Current Brlyt" : "Mine");
-        EXPECT_FALSE(window->ColorWindow);
+    for (const bool escape : {true, false}) {
+        Control(Qt::Key_P);
+        QWidget& colors = Opened("Bannersmith Colors");
+        EXPECT_FALSE(view.centralWidget()->isEnabled());
+        EXPECT_TRUE(colors.isEnabled());
+        EXPECT_FALSE(view.close());
+        const std::string scheme = escape ? "Mine" : "Current Brlyt";
+        Do(colors, "Select Scheme=" + QString::fromStdString(scheme));
+        if (escape) QTest::keyClick(&colors, Qt::Key_Escape);
+        if (!escape) colors.close();
+        EXPECT_TRUE(view.centralWidget()->isEnabled());
+        EXPECT_EQ(Value(view, "Colors"), scheme);
+        EXPECT_FALSE(window.ColorWindow);
     }
-    Press(*view, "Show and replace");
-    auto* editor = Find<TextEditorView>();
-    ASSERT_TRUE(editor);
-    EXPECT_EQ(editor->windowTitle(), "\"Hardcore\" Manual Text Editor");
-    Choose(Named<QComboBox>(*editor, "Entry Name"), "T_Year_GER");
-    Type(Named<QLineEdit>(*editor, "Value"), "Erschienen: 1877");
-    Press(*editor, "Write the text");
-    editor->close();
-    EXPECT_EQ(Named<QLineEdit>(*view, "Year").text(), "1877");
-    EXPECT_TRUE(view->isWindowModified());
-    EXPECT_TRUE(view->close());
-}
-
-TEST_F(Widgets, LeaveListsAloneWhenThePersonScrolls) {
-    Press(*view, "Edit colors");
-    window->cmdHC_Click();
-    const auto lists = view->findChildren<QComboBox*>();  // of the other windows, too, which are its children
-    EXPECT_EQ(lists.size(), 8);
-    for (QComboBox* list : lists) {
-        EXPECT_EQ(list->focusPolicy(), Qt::StrongFocus) << "the next letter typed would choose";
-        const int before = list->currentIndex();
-        for (const int turn : {120, -120}) {
-            QWheelEvent wheel({5, 5}, list->mapToGlobal(QPointF(5, 5)), {}, {0, turn}, Qt::NoButton, Qt::NoModifier,
-                              Qt::NoScrollPhase, false);
-            QApplication::sendEvent(list, &wheel);
-            EXPECT_EQ(list->currentIndex(), before) << qPrintable(list->accessibleName());
-        }
-    }
-}
-
-TEST_F(Widgets, ScrollColorsOnASmallScreen) {
-    Press(*view, "Edit colors");
-    auto* colors = Find<ColorWindowView>();
-    auto& scrolled = *colors->findChild<QScrollArea*>();
-    for (const bool small : {true, false}) {
-        colors->resize(small ? QSize(600, 400) : colors->sizeHint());
-        QApplication::processEvents();
-        EXPECT_EQ(scrolled.horizontalScrollBar()->maximum() > 0, small);
-        EXPECT_EQ(scrolled.verticalScrollBar()->maximum() > 0, small);
-    }
-    EXPECT_FALSE(scrolled.focusPolicy() & Qt::TabFocus);
+    Control(Qt::Key_T);
+    QWidget& editor = Opened("\"Hardcore\" Manual Text Editor");
+    Do(editor, "Entry Name=T_Year_GER; Value=Erschienen: 1877; Write the text");
+    editor.close();
+    EXPECT_EQ(Value(view, "Year"), "1877");
+    EXPECT_TRUE(view.isWindowModified());
+    EXPECT_TRUE(view.close());
 }
 
 TEST_F(Widgets, AskThroughTheToolkit) {
@@ -335,6 +242,8 @@ TEST_F(Widgets, AskThroughTheToolkit) {
         });
         EXPECT_EQ(toolkit.Confirm(u"Really?"), key == Qt::Key_Space);
     }
+    const Font font{u"Arial", 72};
+    EXPECT_NEAR(toolkit.Text_Width(u"MMMM", font) - toolkit.Text_Width(u"MM", font), 2 * 72 * 20, 72 * 20);
 }
 
 /// Every caption of a window, in alphabetical order.
@@ -350,30 +259,26 @@ std::string Captions(const QWidget& window) {
 }
 
 TEST_F(Widgets, EditColorsAndPaintThem) {
-    Press(*view, "Edit colors");
-    auto* colors = Find<ColorWindowView>();
-    Press(*colors, "Back1 0");
-    Type(Named<QLineEdit>(*colors, "Red"), "300");
-    Type(Named<QLineEdit>(*colors, "Green"), "17");
-    Type(Named<QLineEdit>(*colors, "Blue"), "18");
-    Press(*colors, "Give the box");
-    EXPECT_NE(Captions(*colors).find("|Back1 0|"), std::string::npos) << "which box is being edited";
+    Do(view, "Edit colors");
+    QWidget& colors = Opened("Bannersmith Colors");
+    Do(colors, "Back1 0; Red=300; Green=17; Blue=18; Give the box");
+    EXPECT_NE(Captions(colors).find("|Back1 0|"), std::string::npos) << "which box is being edited";
     desktop.answer = u"New";
-    Press(*colors, "Save all colors");
-    EXPECT_EQ(Named<QComboBox>(*view, "Colors").count(), 3);
-    EXPECT_EQ(Named<QComboBox>(*view, "Colors").currentIndex(), -1);
+    Do(colors, "Save all colors");
+    EXPECT_EQ(static_cast<QComboBox&>(Named(view, "Colors")).count(), 3);
+    EXPECT_EQ(Value(view, "Colors"), "");
     EXPECT_NE(folder.Read("schemes/New.vccs").find(" 255  17  18 "), std::string::npos);
 
-    PreviewView preview(window->ColorWindow->preview);
+    PreviewView preview(window.ColorWindow->preview);
     preview.resize(preview.sizeHint());
     const QImage image = preview.grab().toImage();
     const auto pixel = [&](double x, double y) {
         return image.pixelColor(static_cast<int>(x / 15), static_cast<int>((y - 2400) / 15));
     };
     const auto box = [&](std::u16string_view element, std::size_t i) {
-        return Shown_Color(window->ColorWindow->pic[Element_Index(element)][i].Value());
+        return Shown_Color(window.ColorWindow->pic[Element_Index(element)][i].Value());
     };
-    const QColor outside = pixel(100, 9000), paper = box(u"Back1", 0);
+    const QColor outside = pixel(100, 9000), paper = box(u"Back1", 0), floor = QColor(0x60, 0x60, 0x60);
     EXPECT_EQ(paper, QColor(255, 17, paper.blue()));
     struct Edge {
         double x, y;
@@ -384,83 +289,83 @@ TEST_F(Widgets, EditColorsAndPaintThem) {
                              {11175, 6300, outside, paper},
                              {600, 3970, box(u"YearLine", 1), paper},
                              {4080, 6200, box(u"VCPic", 0), paper},
-                             {240, 2500, QColor(0x60, 0x60, 0x60), outside},
-                             {11355, 2500, outside, QColor(0x60, 0x60, 0x60)}}) {
+                             {5800, 6000, box(u"VCPic", 1), box(u"VCPic", 1)},
+                             {240, 2500, floor, outside},
+                             {11355, 2500, outside, floor},
+                             {400, 9700, outside, outside}}) {
         EXPECT_EQ(pixel(edge.x, edge.y), edge.inside) << edge.x << "," << edge.y;
         EXPECT_EQ(pixel(edge.x - 15, edge.y), edge.beyond) << edge.x << "," << edge.y;
     }
-    EXPECT_EQ(pixel(5800, 6000), box(u"VCPic", 1));
-    EXPECT_EQ(pixel(400, 9700), outside);
 
-    desktop.color = Make_Color(1, 2, 3);
-    Press(*colors, "Color being edited");
-    EXPECT_EQ(Named<QLineEdit>(*colors, "Blue").text(), "3");
-    const Color before = window->ColorWindow->pic[0][0].Value();
-    Choose(Named<QComboBox>(*colors, "Select Scheme"), "Mine");
-    EXPECT_NE(window->ColorWindow->pic[0][0].Value(), before);
+    Do(colors, "Color being edited");
+    EXPECT_EQ(Value(colors, "Blue"), "3");
+    const Color before = window.ColorWindow->pic[0][0].Value();
+    Do(colors, "Select Scheme=Mine");
+    EXPECT_NE(window.ColorWindow->pic[0][0].Value(), before);
     folder.Write("other.brlyt", Layout_File({Material_Section({{"PFLine", {7, 8, 9, 0}}})}));
-    Type(Named<QLineEdit>(*colors, "Load From brlyt"), "\\other.brlyt");
-    Press(*colors, "Read the colors");
-    EXPECT_EQ(window->ColorWindow->pic[0][0].Value(), Make_Color(7, 8, 9));
+    Do(colors, "Load From brlyt=\\other.brlyt; Read the colors");
+    EXPECT_EQ(window.ColorWindow->pic[0][0].Value(), Make_Color(7, 8, 9));
+
+    auto& scrolled = *colors.findChild<QScrollArea*>();
+    for (const bool small : {true, false}) {
+        colors.resize(small ? QSize(600, 400) : colors.sizeHint());
+        QApplication::processEvents();
+        EXPECT_EQ(scrolled.horizontalScrollBar()->maximum() > 0, small);
+        EXPECT_EQ(scrolled.verticalScrollBar()->maximum() > 0, small);
+    }
+    EXPECT_FALSE(scrolled.focusPolicy() & Qt::TabFocus);
 }
 
-TEST_F(Widgets, AreCaptionedAsTheyShouldBe) {
-    window->lblLoaded.Set(u"");
-    EXPECT_EQ(Captions(*view),
+TEST_F(Widgets, AreCaptionedAndNamedAndLeftAloneByTheWheel) {
+    window.lblLoaded.Set(u"");
+    EXPECT_EQ(Captions(view),
               "....|Color Editor And Preview|Colors:|ESRB Rating:|File:|Game Info|Game Picture...|Hardcore Manual Text "
               "Editor|Logo:|"
               "Name:|No Dashes!!  (E.g.  Type \"2\" for \"1-2\")|Padding (fixes corrupted images)|Players:|"
               "Region Force:|Save Changes|Set|Set|Set|Set|Set|Set All|Set All|Set All|System:|Year:");
-    Press(*view, "Edit colors");
-    EXPECT_EQ(Captions(*Find<ColorWindowView>()),
+    Do(view, "Edit colors; Show and replace");
+    EXPECT_FALSE(window.TextEditor) << "its button is behind the colors";
+    EXPECT_EQ(Captions(Opened("Bannersmith Colors")),
               "Back0|Back1|Back2|Back3|Back4|BackMask1|BackMask2|Get Color Scheme|Load From brlyt:|PFLINE|PlayLine|"
               "SaveScheme|Select Scheme:|Select a Color by Clicking on it and edit it to the right.  Click the \"Set\" "
               "button to update.|Set|Shade|T_ESRB|T_PF|T_Play|T_VCTitle|T_Year|VCPic|VCPicBase|VCPicSha|YearLine");
-    window->cmdHC_Click();
-    EXPECT_EQ(Captions(*Find<TextEditorView>()), "Entry Name:|Set|Value:");
-    for (const auto& [name, bold] :
-         {std::pair{"Name", true}, {"System", true}, {"Year", true}, {"Players", true}, {"ESRB Rating", false}}) {
-        const QLineEdit* field = &Named<QLineEdit>(*view, name);
-        EXPECT_EQ(field->font().bold(), bold) << name;
-        EXPECT_EQ(field->font().pointSizeF(), 8.25) << name;
-        EXPECT_EQ(field->alignment().testFlag(Qt::AlignHCenter), std::string(name) == "Players");
+    window.cmdHC_Click();
+    EXPECT_EQ(Captions(Opened("\"Hardcore\" Manual Text Editor")), "Entry Name:|Set|Value:");
+    for (const char* name : {"Name", "System", "Year", "Players", "ESRB Rating"}) {
+        const auto& field = static_cast<const QLineEdit&>(Named(view, name));
+        EXPECT_EQ(field.font().bold(), name != "ESRB Rating"s) << name;
+        EXPECT_EQ(field.font().pointSizeF(), 8.25) << name;
+        EXPECT_EQ(field.alignment().testFlag(Qt::AlignHCenter), name == "Players"s);
     }
+    int inputs = 0, lists = 0;
+    for (QWidget* widget : view.findChildren<QWidget*>()) {  // of the other windows, too, which are its children
+        const auto* button = qobject_cast<QAbstractButton*>(widget);
+        auto* list = qobject_cast<QComboBox*>(widget);
+        if (!widget->isVisible() || (!button && !list && !qobject_cast<QLineEdit*>(widget))) continue;
+        ++inputs;
+        EXPECT_TRUE(!widget->accessibleName().isEmpty() || (button && button->text().size() > 1));
+        EXPECT_TRUE(!button || !button->toolTip().isEmpty()) << qPrintable(button->text());
+        if (!list) continue;
+        ++lists;
+        EXPECT_EQ(list->focusPolicy(), Qt::StrongFocus) << "the next letter typed would choose";
+        const int before = list->currentIndex();
+        for (const int turn : {120, -120}) {
+            QWheelEvent wheel({5, 5}, list->mapToGlobal(QPointF(5, 5)), {}, {0, turn}, Qt::NoButton, Qt::NoModifier,
+                              Qt::NoScrollPhase, false);
+            QApplication::sendEvent(list, &wheel);
+            EXPECT_EQ(list->currentIndex(), before) << qPrintable(list->accessibleName());
+        }
+    }
+    EXPECT_EQ(lists, 8);
+    EXPECT_GT(inputs, 60) << "most are boxes of colors";
 }
 
 TEST_F(Widgets, KeepTextsAsTheyAre) {
-    for (const std::u16string text : {u"\xFEFF"
-                                      u"a",
-                                      u"\xFFFE"
-                                      u"a",
-                                      u"\xD800 \xDC00", u"\u65E5^"}) {
-        window->info.txtName.Set(text);
-        QLineEdit& edit = Named<QLineEdit>(*view, "Name");
-        edit.setFocus();
-        QTest::keyClick(&edit, Qt::Key_End);
-        QTest::keyClicks(&edit, "x");
-        EXPECT_EQ(Hex(To_Utf8(window->info.txtName.Text())), Hex(To_Utf8(text + u"x")));
-    }
-}
-
-TEST_F(Widgets, NameEveryInput) {
-    Press(*view, "Edit colors");
-    Press(*view, "Show and replace");  // disabled: stays closed
-    EXPECT_FALSE(window->TextEditor);
-    window->cmdHC_Click();
-    for (QWidget* top : {static_cast<QWidget*>(view.get()), static_cast<QWidget*>(Find<ColorWindowView>()),
-                         static_cast<QWidget*>(Find<TextEditorView>())}) {
-        int inputs = 0;
-        for (QWidget* widget : top->findChildren<QWidget*>()) {
-            const auto* button = qobject_cast<QAbstractButton*>(widget);
-            const bool input = button != nullptr || qobject_cast<QLineEdit*>(widget) != nullptr ||
-                               qobject_cast<QComboBox*>(widget) != nullptr;
-            if (!input || !widget->isVisibleTo(top)) continue;
-            ++inputs;
-            const bool named = !widget->accessibleName().isEmpty() || (button && button->text().size() > 1);
-            EXPECT_TRUE(named) << widget->metaObject()->className() << " in " << qPrintable(top->windowTitle());
-            EXPECT_TRUE(button == nullptr || !button->toolTip().isEmpty()) << qPrintable(button->text());
-        }
-        EXPECT_GE(inputs, 3);
+    for (const std::u16string& text : {u"\xFEFF "s, u"\xFFFE "s, u"\xD800 \xDC00"s, u"\u65E5^"s}) {
+        window.info.txtName.Set(text);
+        QTest::keyClick(&Named(view, "Name"), Qt::Key_End);
+        QTest::keyClicks(&Named(view, "Name"), "x");
+        EXPECT_EQ(Hex(To_Utf8(window.info.txtName.Text())), Hex(To_Utf8(text + u"x")));
     }
 }
 

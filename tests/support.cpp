@@ -2,24 +2,19 @@
 
 #include <unistd.h>
 
-#include <algorithm>
 #include <fstream>
-#include <iterator>
+#include <set>
 
 namespace bannersmith {
 
-namespace fs = std::filesystem;
-
 TempFolder::TempFolder() {
     // No hyphen: on a command line it would begin an option.
-    std::string name = (fs::temp_directory_path() / "bannersmith_test_XXXXXX").string();
+    std::string name = (std::filesystem::temp_directory_path() / "bannersmith_test_XXXXXX").string();
     path_ = ::mkdtemp(name.data());
 }
 
-TempFolder::~TempFolder() { fs::remove_all(path_); }
-
 void TempFolder::Write(const std::string& name, std::string_view bytes) const {
-    fs::create_directories((path_ / name).parent_path());
+    std::filesystem::create_directories((path_ / name).parent_path());
     std::ofstream(path_ / name, std::ios::binary) << bytes;
 }
 
@@ -30,19 +25,17 @@ std::string TempFolder::Read(const std::string& name) const {
 }
 
 std::vector<std::string> TempFolder::Names() const {
-    std::vector<std::string> names;
-    for (const auto& entry : fs::recursive_directory_iterator(path_)) {
-        if (!entry.is_directory()) names.push_back(entry.path().lexically_relative(path_).string());
+    std::set<std::string> names;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(path_)) {
+        if (!entry.is_directory()) names.insert(entry.path().lexically_relative(path_).string());
     }
-    std::sort(names.begin(), names.end());
-    return names;
+    return {names.begin(), names.end()};
 }
 
 std::string Hex(std::string_view bytes) {
     std::string hex;
     for (const char byte : bytes) {
-        hex += "0123456789abcdef"[static_cast<unsigned char>(byte) >> 4];
-        hex += "0123456789abcdef"[byte & 0xF];
+        for (const int shift : {4, 0}) hex += "0123456789abcdef"[byte >> shift & 0xF];
     }
     return hex;
 }

@@ -12,9 +12,9 @@ namespace bannersmith {
 class TempFolder {
  public:
     TempFolder();
-    ~TempFolder();
     TempFolder(const TempFolder&) = delete;
     TempFolder& operator=(const TempFolder&) = delete;
+    ~TempFolder() { std::filesystem::remove_all(path_); }
 
     std::filesystem::path Path() const { return path_; }
     std::u16string Text() const { return path_.u16string(); }

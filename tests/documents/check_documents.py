@@ -33,48 +33,31 @@ def check(holds, what):
         print("FAILED:", what)
 
 
-def run_example(command, folder):
-    done = subprocess.run(["bash", "-c", command], cwd=folder, stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
-                          timeout=60, env={**os.environ, "LC_ALL": "C.UTF-8"})
-    return done.stdout.decode("utf-8").replace(folder, "/programs/bannersmith")
-
-
 def run_block(block, folder):
     """The lines of a console block with what its commands print now."""
     lines = []
     for command in re.findall(r"^\$ (.*(?:\n>(?: .*)?)*)\n", block, re.M):
-        lines.append("$ " + command + "\n" + run_example(re.sub(r"\n> ?", "\n", command), folder))
+        done = subprocess.run(["bash", "-c", re.sub(r"\n> ?", "\n", command)], cwd=folder, stdout=subprocess.PIPE,
+                              stderr=subprocess.STDOUT, timeout=60, env={**os.environ, "LC_ALL": "C.UTF-8"})
+        lines += ["$ ", command, "\n", done.stdout.decode("utf-8").replace(folder, "/programs/bannersmith")]
     return "".join(lines)
-
-
-def examples(page, text, folder, write):
-    def compare(match):
-        now = run_block(match[1], folder)
-        if not write:
-            changes = difflib.unified_diff(match[1].split("\n"), now.split("\n"), page, "what it prints now", n=9,
-                                           lineterm="")
-            check(now == match[1], "\n".join(changes))
-        return "```console\n" + now + "```"
-    return re.sub(r"```console\n(.*?)```", compare, text, flags=re.S)
 
 
 def help_options(text):
     """The options of --help, with their arguments; "-2, -3" are two."""
-    found = set()
+    found = {(name, "") for name in re.findall(r"(?<!\w)--\w+", text)}
     for names, argument in re.findall(r"^  (-[^\s,]+(?:, -[^\s,]+)*)((?: (?:[A-Z]+|xxx))?) +", text, re.M):
         found |= {(name, argument.strip().lower()) for name in names.split(", ")}
-    return found | {(name, "") for name in re.findall(r"(?<!\w)--\w+", text)}
+    return found
 
 
 def man_options(text):
-    found = set()
-    for line in re.findall(r"^\.It (Fl .*)$", text, re.M):
-        names = re.findall(r"Fl (\S+)", line)
-        argument = re.search(r"Ar (\w+)", line)
-        found |= {("-" + name, argument[1].lower() if argument else "") for name in names}
     synopsis = re.search(r"\.Sh SYNOPSIS\n(.*?)\.Sh", text, re.S)[1]
-    return found | {("-" + name, "") for name in re.findall(r"-[a-z]+", synopsis.replace("Fl -", "Fl  -"))
-                    for name in ["-" + name.lstrip("-")]}
+    found = {("--" + name, "") for name in re.findall(r"-([a-z]+)", synopsis)}
+    for line in re.findall(r"^\.It (Fl .*)$", text, re.M):
+        argument = re.search(r"Ar (\w+)|$", line)[1] or ""
+        found |= {("-" + name, argument.lower()) for name in re.findall(r"Fl (\S+)", line)}
+    return found
 
 
 def options(sources, folder, manual):
@@ -93,47 +76,43 @@ def options(sources, folder, manual):
             check(re.search(r"^[$>] .*(?<![\w-])" + typed + r"(?![\w-])", manual, re.M), "no example of " + name)
 
 
-def code_of(sources):
-    """The sources that messages stand in, without comments, with literals in one piece."""
+def messages(sources, page):
+    listed = {message for cell in re.findall(r"^\| (`.*?`) \|", page, re.M) for message in cell.strip("`").split("`, `")}
     code = ""
     for at, _, names in os.walk(os.path.join(sources, "src")):
         if os.path.basename(at) != "desktop":  # the views have tooltips
             code += "".join(read(at, name) for name in names if re.search(r"(?<!usage)\.(cpp|h)$", name))
     code = re.sub(r"(?<!:)//.*|#include.*", "", code)
-    return re.sub(r'"\s*\n\s*"', "", code).replace('\\"', "'").replace("\\\\", "\\")
-
-
-def messages(sources, page):
-    listed = {message for cell in re.findall(r"^\| (`.*?`) \|", page, re.M) for message in cell.strip("`").split("`, `")}
-    code = code_of(sources)
+    code = re.sub(r'"\s*\n\s*"', "", code).replace('\\"', "'").replace("\\\\", "\\")  # literals in one piece
     said = {text.strip(" ':") for text in SENTENCE.findall(code) if "\\n" not in text and "NTLG" not in text}
     check(len(said) > 25, "only %d messages are found in the sources" % len(said))
     for text in said:
         check(any(text in message for message in listed) or text.isupper(), "the messages page lacks: " + text)
-    for message in listed:
-        for part in re.split(r'"?\b(?:NUMBER|NAME|REASON|FILE|N)\b"?|\.\.\.', message):
-            check(part.strip(" ':") in code, "no program says: " + part)
+    for part in {part for each in listed for part in re.split(r'"?\b(?:NUMBER|NAME|REASON|FILE|N)\b"?|\.\.\.', each)}:
+        check(part.strip(" ':") in code, "no program says: " + part)
 
 
 def main():
     write = "--write" in sys.argv
     sources, *folders = [argument for argument in sys.argv[1:] if argument != "--write"]
+    pages = USER_PAGES + glob.glob("tests/documents/*.md", root_dir=sources)
+    check(len(pages) > len(USER_PAGES), "there are pages beside this file")
     with tempfile.TemporaryDirectory() as work:
         folder = os.path.join(work, "home of \u30d0\u30ca\u30fc")
-        beside = sorted(glob.glob(os.path.join(sources, "tests", "documents", "*.md")))
-        texts = {page: read(sources, page) for page in USER_PAGES + [os.path.relpath(each, sources) for each in beside]}
-        for page, text in texts.items():
+        for page in pages:
             shutil.rmtree(folder, ignore_errors=True)
             for each in folders:
                 shutil.copytree(each, folder, dirs_exist_ok=True)
+            text = read(sources, page)
+            now = re.sub(r"(?<=```console\n).*?(?=```)", lambda match: run_block(match[0], folder), text, flags=re.S)
             check("\n```console\n" in text, "%s has no example" % page)
-            now = examples(page, text, folder, write)
             if write:
                 with open(os.path.join(sources, page), "w", encoding="utf-8") as file:
                     file.write(now)
-        check(len(texts) > len(USER_PAGES), "there are pages beside this file")
-        options(sources, folder, texts["docs/manual.md"])
-        messages(sources, texts["docs/messages.md"])
+            changes = difflib.unified_diff(text.split("\n"), now.split("\n"), page, "what it prints now", n=9, lineterm="")
+            check(write or now == text, "\n".join(changes))
+        options(sources, folder, read(sources, "docs/manual.md"))
+        messages(sources, read(sources, "docs/messages.md"))
     print("%d failures" % len(failures))
     return 1 if failures else 0
 

@@ -7,7 +7,6 @@ an ordinary program (Debian's user-mode-linux, with this system's files as its o
 with 77, which counts as skipped.
 """
 import collections
-import contextlib
 import ctypes
 import os
 import pathlib
@@ -24,12 +23,9 @@ MODULES = ("drivers/block/loop", "drivers/md/dm-mod", "drivers/md/dm-log-writes"
 NEEDED = ("linux.uml", "dmsetup", "mkfs.vfat", "fsck.vfat", "losetup", "insmod")
 MARK, SECTOR = 8, 512
 VFAT = "iocharset=ascii"
-LIBC = ctypes.CDLL(None)
 
-SAMPLES = "samples/seven_languages/arc/"
-BANNER, TEXTURE = SAMPLES + "blyt/banner.brlyt", SAMPLES + "timg/my_Back_logo.tpl"
-CONFIG, SCHEME, NEW_SCHEME = "cfgs/vcinfopath.cfg", "schemes/Midnight.vccs", "schemes/New.vccs"
-FILES = (BANNER, TEXTURE, CONFIG, SCHEME, NEW_SCHEME)
+BANNER, TEXTURE = "samples/seven_languages/arc/blyt/banner.brlyt", "samples/seven_languages/arc/timg/my_Back_logo.tpl"
+FILES = (BANNER, TEXTURE, "cfgs/vcinfopath.cfg", "schemes/Midnight.vccs", "schemes/New.vccs")
 
 # What is run one after the other, and its status.
 RUNS = (
@@ -51,13 +47,12 @@ def mount(kind, what, where, options="rw"):
     run("mount", "-t", kind, "-o", options, what, where)
 
 
-def contents(folder):
-    """Each file's bytes, None where there is none or it cannot be read whole."""
-    found = dict.fromkeys(FILES)
-    for name in FILES:
-        with contextlib.suppress(OSError):
-            found[name] = (folder / name).read_bytes()
-    return found
+def content(file):
+    """The file's bytes, None where there is none or it cannot be read whole."""
+    try:
+        return file.read_bytes()
+    except OSError:
+        return None
 
 
 def log_entries(log):
@@ -86,52 +81,44 @@ def record(work, program_folder, tools_folder):
     run("umount", folder)
     before = card.read_bytes()
 
-    sectors = len(before) // SECTOR
-    run("dmsetup", "create", "card", "--table", "0 %d log-writes %s %s" % (sectors, *devices))
+    run("dmsetup", "create", "card", "--table", "0 %d log-writes %s %s" % (len(before) // SECTOR, *devices))
     mount("vfat", "/dev/dm-0", folder, VFAT)
-    states = [contents(folder)]
+    states = [[content(folder / name) for name in FILES]]
     for command, status in RUNS:
         done = subprocess.run(command, cwd=folder, capture_output=True)
         assert done.returncode == status, (command, done)
         run("dmsetup", "message", "card", "0", "mark", "ended")
-        states.append(contents(folder))
+        states.append([content(folder / name) for name in FILES])
     run("umount", folder)
     run("dmsetup", "remove", "card")
-    return before, list(log_entries(log.read_bytes())), states
-
-
-def judge(found, states, ended):
-    """What is wrong with the files of a card that was pulled out when `ended` runs had ended."""
-    for name in FILES:
-        wanted = [state[name] for state in states[ended:ended + 2]]
-        if wanted[0] is None:  # a new file takes its name before its contents
-            wanted.append(b"")
-        if found[name] not in wanted:
-            yield "%s: %s" % (name, "lost" if found[name] is None else "%d other bytes" % len(found[name]))
+    return before, log_entries(log.read_bytes()), states
 
 
 def check(work, card, entries, states):
     """Looks at the card after each write, until the last run has ended."""
     path, folder = work / "pulled.img", work / "pulled"
-    prefixes, ended, wrong = 0, 0, collections.Counter()
-    with open(path, "wb", buffering=0) as image:
-        image.write(card)
-        for sector, flags, data in entries:
-            if flags & MARK:
-                ended += 1
-                if ended == len(RUNS):
-                    break
-            elif data:
-                os.pwrite(image.fileno(), data, sector * SECTOR)
-            prefixes += 1
-            checked = subprocess.run(["fsck.vfat", "-n", path], capture_output=True).stdout.decode()
-            mount("vfat", path, folder, VFAT + ",loop,ro")
-            found = list(judge(contents(folder), states, ended))
-            run("umount", folder)
-            found += [what for what in ("share clusters", "ontains a free cluster") if what in checked]
-            wrong += collections.Counter("in run %d: %s" % (ended + 1, what) for what in found)
-    print("%d writes to the card; wrong after a write:" % prefixes, dict(wrong) or "nothing")
-    return not wrong and prefixes > 30
+    path.write_bytes(card)
+    writes, ended, wrong = 0, 0, collections.Counter()
+    for sector, flags, data in entries:
+        ended += flags & MARK == MARK
+        if ended == len(RUNS):
+            break
+        with open(path, "r+b") as image:
+            image.seek(sector * SECTOR)
+            image.write(b"" if flags & MARK else data)
+        writes += 1
+        checked = subprocess.run(["fsck.vfat", "-n", path], capture_output=True).stdout.decode()
+        found = [what for what in ("share clusters", "ontains a free cluster") if what in checked]
+        mount("vfat", path, folder, VFAT + ",loop,ro")
+        for name, *wanted in zip(FILES, *states[ended:ended + 2]):
+            now = content(folder / name)
+            # A new file takes its name before its contents.
+            if now not in wanted and not (wanted[0] is None and now == b""):
+                found.append("%s: %s" % (name, "lost" if now is None else "%d other bytes" % len(now)))
+        run("umount", folder)
+        wrong += collections.Counter("in run %d: %s" % (ended + 1, what) for what in found)
+    print("%d writes to the card; wrong after a write:" % writes, dict(wrong) or "nothing")
+    return not wrong and writes > 30
 
 
 def inside(program_folder, tools_folder, work):
@@ -153,7 +140,7 @@ def main():
         except Exception:  # the end of this process is a panic of the system
             traceback.print_exc()
         sys.stdout.flush()
-        LIBC.reboot(0x4321FEDC)
+        ctypes.CDLL(None).reboot(0x4321FEDC)
     os.environ["PATH"] += ":/usr/sbin:/sbin"
     missing = [name for name in NEEDED if shutil.which(name) is None]
     if missing:
