@@ -148,11 +148,13 @@ TEST(Archive, TellsOfChecksumsAndSizesThatDoNotHold) {
 /// As home-made ones are: empty files, a sound that nobody here can read, capitals, bytes where none should be.
 TEST(Archive, IsSavedRightlyWhereItIsUnusual) {
     const std::string part =
-        U8_Archive({{"ARC/BLYT/BANNER.BRLYT", std::string(99, 'x')}, {"ARC/TIMG/MY_BACK.TPL", "x"}, {"arc/zz", ""}});
+        U8_Archive({{"ARC/BLYT/BANNER.BRLYT", std::string(99, 'x')}, {"ARC/TIMG/MY_BACK.TPL", "x"}, {"ARC/ZZ", ""}});
     const std::string file = Channel_File(
         "", {}, {7, part.size(), 9},
         U8_Archive({{"meta/BANNER.BIN", Channel_Part(part)}, {"meta/sound.bin", "odd"}, {"meta/none", ""}}));
-    const Archive archive = *Archive::Read(file + "!");
+    const auto read = Archive::Read(file + "!");
+    ASSERT_TRUE(read) << read.Why().reason;
+    const Archive& archive = *read;
     EXPECT_EQ(archive.Warnings(), std::vector<std::string>{"U8 archive: bytes other than zero where no file is"});
     EXPECT_EQ(archive.Find_Texture("my_Back"), "meta/BANNER.BIN/ARC/TIMG/MY_BACK.TPL");
     const std::string saved = *archive.With({{archive.Layout_Path(), "short"}}, {});
