@@ -287,6 +287,12 @@ std::optional<ChannelNames> Banner::Names() const {
     return source_.Packed_In()->Names();
 }
 
+std::vector<std::u16string> Banner::Replaced_Textures() const {
+    std::vector<std::u16string> paths;
+    for (const NewContents& texture : state_.textures) paths.push_back(texture.path);
+    return paths;
+}
+
 bool Banner::Has_Unsaved_Changes() const {
     return state_.layout != std::string_view(on_disk_).substr(0, loaded_size_) ||
            !state_.textures.empty() ||

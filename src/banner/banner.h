@@ -70,6 +70,9 @@ class Banner {
     /// failure has the name of the source or of the texture.
     Result<Picture> Game_Picture() const;
 
+    /// The paths of the textures that edits have replaced, as `BannerSource` tells them.
+    std::vector<std::u16string> Replaced_Textures() const;
+
     /// The one way to change a banner. What fails leaves it as it was. A text for a box that the
     /// layout lacks, and a colour without its material, are passed over.
     Result<> Apply(const Edit& edit);

@@ -28,25 +28,9 @@ std::string Color_Text(const std::array<std::int16_t, 4>& color) {
     return text;
 }
 
-std::string Quoted(std::u16string_view text) {
-    std::string quoted = "\"";
-    for (const char16_t unit : text) {
-        if (unit == u'"' || unit == u'\\') {
-            quoted += '\\';
-            quoted += static_cast<char>(unit);
-        } else if (unit >= 0x20 && unit < 0x7F) {
-            quoted += static_cast<char>(unit);
-        } else {
-            const auto digit = [&](int shift) { return "0123456789abcdef"[unit >> shift & 0xF]; };
-            quoted.append({'\\', 'u', digit(12), digit(8), digit(4), digit(0)});
-        }
-    }
-    return quoted + '"';
-}
-
 /// Names and paths: bytes of UTF-8, or of the layout's own.
 std::string Quoted(const std::string& text) {
-    return Quoted(From_Utf8(text));
+    return Json_String(From_Utf8(text));
 }
 
 std::string Member(const char* key, const std::string& value) {
@@ -78,8 +62,8 @@ std::string Quoted_Name(const std::string& name) {
 }
 
 std::string Box_Json(const TextBoxInfo& box) {
-    return "{" + Member("name", Quoted(box.name)) + ", " + Member("text", Quoted(box.text)) + ", " +
-           Member("buffer_length", std::to_string(box.buffer_length)) + ", " +
+    return "{" + Member("name", Quoted(box.name)) + ", " + Member("text", Json_String(box.text)) +
+           ", " + Member("buffer_length", std::to_string(box.buffer_length)) + ", " +
            Member("text_length", std::to_string(box.text_length)) + "}";
 }
 
@@ -141,7 +125,7 @@ void Write_Archive_Json(const ArchiveInfo& archive, const Output& output) {
         Write_Array(
             "names", *archive.names,
             [](const auto& lines) {
-                return Array(lines, [](const std::u16string& line) { return Quoted(line); });
+                return Array(lines, [](const std::u16string& line) { return Json_String(line); });
             },
             output);
     }
@@ -150,6 +134,22 @@ void Write_Archive_Json(const ArchiveInfo& archive, const Output& output) {
 }
 
 }  // namespace
+
+std::string Json_String(std::u16string_view text) {
+    std::string quoted = "\"";
+    for (const char16_t unit : text) {
+        if (unit == u'"' || unit == u'\\') {
+            quoted += '\\';
+            quoted += static_cast<char>(unit);
+        } else if (unit >= 0x20 && unit < 0x7F) {
+            quoted += static_cast<char>(unit);
+        } else {
+            const auto digit = [&](int shift) { return "0123456789abcdef"[unit >> shift & 0xF]; };
+            quoted.append({'\\', 'u', digit(12), digit(8), digit(4), digit(0)});
+        }
+    }
+    return quoted + '"';
+}
 
 void Write_Text(const FileReport& report, const Output& output) {
     const LayoutInfo& info = report.info;
@@ -188,7 +188,7 @@ void Write_Json(const FileReport& report, const Output& output) {
     output(", " + Member("values", "{"));
     const char* between = "";
     for (const auto& [option, value] : report.values) {
-        output(std::exchange(between, ", ") + Quoted(option) + ": " + Quoted(value));
+        output(std::exchange(between, ", ") + Quoted(option) + ": " + Json_String(value));
     }
     output("}}");
 }

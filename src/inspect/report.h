@@ -22,6 +22,9 @@ struct FileReport {
     std::vector<OptionValue> values = {};  ///< for scripts alone
 };
 
+/// A text as JSON has it, in quotes and in ASCII. A lone surrogate stays what it is as a \u escape.
+std::string Json_String(std::u16string_view text);
+
 /// Takes the next piece of a report, which can be long.
 using Output = std::function<void(std::string_view text)>;
 

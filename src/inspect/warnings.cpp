@@ -154,4 +154,21 @@ std::vector<Warning> Find_Warnings(std::string_view data, const LayoutInfo& info
     return found;
 }
 
+std::string Warning_Of_Edit(std::string_view loaded, std::string_view saved, bool colored) {
+    const LayoutInfo before = Read_Layout(loaded);
+    std::vector<Warning> warnings;
+    if (colored) warnings = Find_Color_Warnings(loaded, before);
+    std::vector<Warning> of_texts = Find_Text_Warnings(loaded, before);
+    if (!of_texts.empty()) {
+        const LayoutInfo after = Read_Layout(saved);
+        std::erase_if(of_texts, [&](const Warning& warning) {
+            return *warning.box < after.boxes.size() &&
+                   after.boxes[*warning.box].record == before.boxes[*warning.box].record;
+        });
+    }
+    warnings.insert(warnings.end(), of_texts.begin(), of_texts.end());
+    if (warnings.empty()) return {};
+    return "bannersmith-inspect warns of what was written: " + warnings.front().text;
+}
+
 }  // namespace bannersmith

@@ -24,4 +24,9 @@ std::vector<Warning> Find_Warnings(std::string_view data, const LayoutInfo& info
 std::vector<Warning> Find_Color_Warnings(std::string_view data, const LayoutInfo& info);
 std::vector<Warning> Find_Text_Warnings(std::string_view data, const LayoutInfo& info);
 
+/// The first warning of what an edit has touched, as the saved layout has it: "bannersmith-inspect
+/// warns of what was written: ...". Empty for none. Both begin as layouts; `colored`, whether the
+/// edit wrote colours.
+std::string Warning_Of_Edit(std::string_view loaded, std::string_view saved, bool colored);
+
 }  // namespace bannersmith

@@ -104,33 +104,14 @@ Result<> BatchRun::Save() {
 /// Nobody has seen what was edited, so it is told when it looks wrong.
 std::vector<std::string> BatchRun::What_Is_Odd(const SavePlan& plan) const {
     std::vector<std::string> odd = plan.notices;
-    const std::string warning = Is_Layout(opened_.banner.On_Disk())
-                                    ? Warning_Of(plan.Layout())
-                                    : "it does not begin as a layout file";
-    if (!warning.empty()) odd.push_back("but " + warning);
-    return odd;
-}
-
-/// The first warning of what the edits have touched, as the saved layout has it; empty for none.
-std::string BatchRun::Warning_Of(std::string_view saved) const {
-    const std::string& loaded = opened_.banner.On_Disk();
-    const LayoutInfo before = Read_Layout(loaded);
     const bool colored =
         std::any_of(command_.edits.begin(), command_.edits.end(),
                     [](const Edit& edit) { return std::holds_alternative<ApplyScheme>(edit); });
-    std::vector<Warning> warnings;
-    if (colored) warnings = Find_Color_Warnings(loaded, before);
-    std::vector<Warning> of_texts = Find_Text_Warnings(loaded, before);
-    if (!of_texts.empty()) {
-        const LayoutInfo after = Read_Layout(saved);
-        std::erase_if(of_texts, [&](const Warning& warning) {
-            return *warning.box < after.boxes.size() &&
-                   after.boxes[*warning.box].record == before.boxes[*warning.box].record;
-        });
-    }
-    warnings.insert(warnings.end(), of_texts.begin(), of_texts.end());
-    if (warnings.empty()) return {};
-    return "bannersmith-inspect warns of what was written: " + warnings.front().text;
+    const std::string& loaded = opened_.banner.On_Disk();
+    const std::string warning = Is_Layout(loaded) ? Warning_Of_Edit(loaded, plan.Layout(), colored)
+                                                  : "it does not begin as a layout file";
+    if (!warning.empty()) odd.push_back("but " + warning);
+    return odd;
 }
 
 }  // namespace bannersmith

@@ -29,7 +29,6 @@ class BatchRun {
     void Tell_Of_Cut_Path() const;
     Result<> Save();
     std::vector<std::string> What_Is_Odd(const SavePlan& plan) const;
-    std::string Warning_Of(std::string_view saved) const;
     int Fail(int status, const Failure& failure) const;
 
     Process process_;

@@ -125,6 +125,12 @@ Result<std::vector<std::u16string>> List_Files(const std::u16string& folder,
     return names;
 }
 
+std::u16string Canonical_Path(const std::u16string& path) {
+    std::error_code error;
+    const fs::path canonical = fs::weakly_canonical(Native_Path(path), error);
+    return error ? path : Text_Of(canonical);
+}
+
 bool Leads_Through_Link(const std::u16string& folder, const std::u16string& path) {
     fs::path place = Native_Path(folder);
     for (const fs::path& part : Native_Path(path).lexically_relative(place)) {

@@ -39,6 +39,10 @@ Result<bool> Is_Folder(const std::u16string& path);
 Result<std::vector<std::u16string>> List_Files(const std::u16string& folder,
                                                const std::vector<std::string_view>& endings);
 
+/// The path without links and detours as far as its parts are there, so that two paths of one file
+/// become the same.
+std::u16string Canonical_Path(const std::u16string& path);
+
 /// Whether something on the way from `folder` to `path`, which begins with it, is a link, the end
 /// included.
 bool Leads_Through_Link(const std::u16string& folder, const std::u16string& path);

@@ -20,6 +20,9 @@ std::vector<std::u16string> Arguments(int argc, char** argv);
 /// it as it is. False where it could not be written whole.
 bool Print(const std::string& text, std::FILE* stream);
 
+/// Whether the stream ends at a person's terminal.
+bool Is_Terminal(std::FILE* stream);
+
 /// Writes a failure to standard error as one line, "bannersmith: SUBJECT: REASON".
 void Print_Failure(const Failure& failure);
 

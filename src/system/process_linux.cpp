@@ -26,6 +26,10 @@ bool Print(const std::string& text, std::FILE* stream) {
     return std::fflush(stream) == 0 && written;
 }
 
+bool Is_Terminal(std::FILE* stream) {
+    return ::isatty(::fileno(stream)) == 1;
+}
+
 std::u16string Program_Folder() {
     std::error_code ignored;
     const auto program = std::filesystem::read_symlink("/proc/self/exe", ignored);

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 // The system's own declarations come first.
+#include <io.h>
 #include <shellapi.h>
 
 #include "base/text.h"
@@ -53,6 +54,10 @@ bool Print(const std::string& text, std::FILE* stream) {
     DWORD written = 0;
     const auto size = static_cast<DWORD>(wide.size());
     return ::WriteConsoleW(handle, wide.data(), size, &written, nullptr) != 0 && written == size;
+}
+
+bool Is_Terminal(std::FILE* stream) {
+    return ::_isatty(::_fileno(stream)) != 0;
 }
 
 std::u16string Program_Folder() {

@@ -1,0 +1,148 @@
+#include "exchange/recipe.h"
+
+#include <algorithm>
+#include <nlohmann/json.hpp>
+
+#include "base/text.h"
+#include "inspect/report.h"
+
+namespace bannersmith {
+
+namespace {
+
+constexpr std::string_view Blanks = " \t\r\n";
+
+std::size_t Lines_In(std::string_view text) {
+    return static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
+}
+
+/// Where the object that begins at `at` ends, behind its brace; nothing where it does not.
+std::optional<std::size_t> End_Of_Object(std::string_view text, std::size_t at) {
+    std::size_t depth = 0;
+    bool quoted = false;
+    for (; at < text.size(); ++at) {
+        const char c = text[at];
+        if (quoted && c == '\\') ++at;
+        if (c == '"') quoted = !quoted;
+        if (quoted) continue;
+        if (c == '{' || c == '[') ++depth;
+        if ((c == '}' || c == ']') && --depth == 0) return at + 1;
+    }
+    return std::nullopt;
+}
+
+/// The library's words without its number and the place, which it counts from the object.
+std::string Reason_Of(const std::exception& error) {
+    const std::string what = error.what();
+    return "Is no JSON: " + what.substr(std::min(what.find(": ") + 2, what.size()));
+}
+
+/// A value of an object, which may be a number.
+std::optional<std::u16string> Text_Of_Value(const nlohmann::ordered_json& value) {
+    if (value.is_string()) return From_Utf8(value.get_ref<const std::string&>());
+    if (value.is_number_integer()) return From_Utf8(value.dump());
+    return std::nullopt;
+}
+
+Result<RecipeRow> Row_Of_Object(std::string_view text, std::size_t line) {
+    nlohmann::ordered_json object;
+    try {
+        object = nlohmann::ordered_json::parse(text);
+    } catch (const nlohmann::json::exception& error) {
+        return In_Line(line, Reason_Of(error));
+    }
+    RecipeRow row{line, {}, {}};
+    for (const auto& [key, value] : object.items()) {
+        if (value.is_null()) continue;
+        const auto read = Text_Of_Value(value);
+        if (!read) return In_Line(line, key + " is neither text nor whole number");
+        if (key == BannerColumn) {
+            row.banner = *read;
+        } else {
+            row.values.push_back({key, *read});
+        }
+    }
+    return row;
+}
+
+}  // namespace
+
+RecipeReader::RecipeReader(std::string_view text) : text_(text), table_(text) {
+    if (text_.starts_with("\xEF\xBB\xBF")) text_.remove_prefix(3);
+    const std::size_t first = std::min(text_.find_first_not_of(Blanks), text_.size());
+    is_json_ = text_.substr(first).starts_with('{') || text_.substr(first).starts_with('[');
+    if (is_json_ && text_[first] == '[') at_ = first + 1;
+    line_ += Lines_In(text_.substr(0, at_));
+}
+
+Result<std::optional<RecipeRow>> RecipeReader::Next() {
+    auto row = is_json_ ? Next_Object() : Next_Of_Table();
+    if (row && *row && (*row)->banner.empty()) return In_Line((*row)->line, "Names no banner");
+    return row;
+}
+
+Result<std::optional<RecipeRow>> RecipeReader::Next_Of_Table() {
+    if (!columns_) {
+        auto header = table_.Next();
+        if (!header) return header.Why();
+        if (!*header) return Failure{u"", "Holds no row"};
+        columns_ = std::move((*header)->cells);
+        const auto count = std::count(columns_->begin(), columns_->end(), BannerColumn);
+        if (count != 1) return In_Line((*header)->line, "Has no column called banner, or several");
+    }
+    auto read = table_.Next();
+    if (!read) return read.Why();
+    if (!*read) return std::optional<RecipeRow>();
+    RecipeRow row{(*read)->line, {}, {}};
+    std::vector<std::string>& cells = (*read)->cells;
+    if (cells.size() > columns_->size()) return In_Line(row.line, "Has more cells than columns");
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+        if (cells[i].empty()) continue;
+        if ((*columns_)[i] == BannerColumn) {
+            row.banner = From_Utf8(cells[i]);
+        } else {
+            row.values.push_back({(*columns_)[i], From_Utf8(cells[i])});
+        }
+    }
+    return std::optional(std::move(row));
+}
+
+Result<std::optional<RecipeRow>> RecipeReader::Next_Object() {
+    const std::size_t begin =
+        std::min(text_.find_first_not_of(std::string(Blanks) + ",]", at_), text_.size());
+    line_ += Lines_In(text_.substr(at_, begin - at_));
+    at_ = begin;
+    if (begin == text_.size()) return std::optional<RecipeRow>();
+    if (text_[begin] != '{') return In_Line(line_, "Is no JSON object");
+    const auto end = End_Of_Object(text_, begin);
+    if (!end) return In_Line(line_, "An object does not end");
+    const std::string_view object = text_.substr(begin, *end - begin);
+    auto row = Row_Of_Object(object, line_);
+    line_ += Lines_In(object);
+    at_ = *end;
+    if (!row) return row.Why();
+    return std::optional(std::move(*row));
+}
+
+std::string Csv_Of(const std::u16string& banner, const std::vector<OptionValue>& values,
+                   const std::vector<std::string>& columns) {
+    std::vector<std::string> cells(columns.size());
+    const auto put = [&](std::string_view column, const std::u16string& value) {
+        const auto place = std::find(columns.begin(), columns.end(), column);
+        if (place == columns.end()) return;
+        cells[static_cast<std::size_t>(place - columns.begin())] = To_Utf8(value);
+    };
+    put(BannerColumn, banner);
+    for (const auto& [option, value] : values) put(option, value);
+    return Csv_Row(cells);
+}
+
+std::string Json_Of(const std::u16string& banner, const std::vector<OptionValue>& values) {
+    std::string object = "{" + Json_String(From_Utf8(BannerColumn)) + ": " + Json_String(banner);
+    for (const auto& [option, value] : values) {
+        object += ", " + Json_String(From_Utf8(option)) + ": " + Json_String(value);
+    }
+    return object + "}";
+}
+
+}  // namespace bannersmith

@@ -1,0 +1,243 @@
+// bannersmith-edit: edits one banner or a shelf of them, by options or by a recipe.
+#include <chrono>
+#include <new>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "base/message.h"
+#include "base/text.h"
+#include "exchange/edit_command.h"
+#include "exchange/recipe.h"
+#include "exchange/report.h"
+#include "layout/kind.h"
+#include "system/files.h"
+#include "system/interruptions.h"
+#include "system/process.h"
+
+using namespace bannersmith;
+
+namespace {
+
+constexpr int Done = 0, SomeFailed = 1, Misused = 2;
+
+void Tell(const Failure& failure) {
+    Print("bannersmith-edit: " + One_Line(failure) + "\n", stderr);
+}
+
+/// All jobs: the banners of the command line, then the rows of the recipe.
+class Jobs {
+ public:
+    Jobs(const EditCommand& command, const std::string& recipe,
+         const std::u16string& program_folder)
+        : command_(command), recipe_(recipe), rows_(recipe_), program_folder_(program_folder) {}
+
+    /// Reads every row before the first is done. Returns how many jobs there are. Fails for the
+    /// first row that is wrong, and for a banner that is there twice.
+    Result<std::size_t> Check() {
+        std::size_t count = 0;
+        for (auto job = Next(); !job || *job; job = Next()) {
+            if (!job) return job.Why();
+            ++count;
+            const std::u16string file = Layout_File_Of((*job)->banner);
+            if (!Ordinary_File_Exists(file)) {
+                return Wrong_Row(line_, To_Utf8((*job)->banner) + ": No such banner");
+            }
+            if (!seen_.insert(std::hash<std::u16string>()(Canonical_Path(file))).second) {
+                return Wrong_Row(line_, To_Utf8((*job)->banner) + " is there twice");
+            }
+        }
+        seen_.clear();
+        at_ = 0;
+        rows_ = RecipeReader(recipe_);
+        return count;
+    }
+
+    Result<std::optional<ShelfJob>> Next() {
+        if (at_ < command_.banners.size()) {
+            return std::optional(ShelfJob{command_.banners[at_++], {}});
+        }
+        if (command_.recipe.empty()) return std::optional<ShelfJob>();
+        auto row = rows_.Next();
+        if (!row) return std::move(row).About(command_.recipe).Why();
+        if (!*row) return std::optional<ShelfJob>();
+        line_ = (*row)->line;
+        ShelfJob job{(*row)->banner, {}};
+        for (const auto& [option, value] : (*row)->values) {
+            auto wish = Read_Wish(option, value, program_folder_);
+            if (!wish) {
+                return Wrong_Row(line_,
+                                 option + " \"" + To_Utf8(value) + "\": " + wish.Why().reason);
+            }
+            job.wishes.push_back(std::move(*wish));
+        }
+        return std::optional(std::move(job));
+    }
+
+ private:
+    Failure Wrong_Row(std::size_t line, const std::string& reason) const {
+        if (line == 0) return {u"Command line", reason};
+        return {command_.recipe, In_Line(line, reason).reason};
+    }
+
+    const EditCommand& command_;
+    const std::string& recipe_;
+    RecipeReader rows_;
+    const std::u16string& program_folder_;
+    std::size_t at_ = 0, line_ = 0;
+    std::set<std::size_t> seen_;  ///< banners, by a number that takes little memory
+};
+
+/// Tells of outcomes as they come.
+class Teller {
+ public:
+    Teller(const EditCommand& command, std::size_t all)
+        : command_(command),
+          all_(all),
+          shows_progress_(Is_Terminal(stderr) && (command.quiet || !Is_Terminal(stdout))) {
+        if (command_.json) Write("[");
+    }
+
+    void Take(const Outcome& outcome) {
+        ++done_;
+        failed_ = failed_ || outcome.status == Outcome::Status::failed;
+        const std::string trouble = Trouble_Lines(outcome);
+        if (!trouble.empty()) {
+            Clear_Progress();
+            Print(trouble, stderr);
+        }
+        if (command_.json) {
+            Write((done_ == 1 ? "" : ",\n ") + Outcome_Json(outcome));
+        } else if (!command_.quiet || command_.diff) {
+            Write(Outcome_Lines(outcome, command_.diff));
+        }
+        if (shows_progress_) {
+            const auto elapsed = std::chrono::steady_clock::now() - begin_;
+            Print("\r\x1B[K" + Progress_Line(done_, all_, elapsed), stderr);
+        }
+    }
+
+    /// The exit status.
+    int Finish(bool whole) {
+        Clear_Progress();
+        if (command_.json) Write("]\n");
+        if (!whole) {
+            Tell({u"Interrupted",
+                  std::to_string(done_) + " of " + std::to_string(all_) + " are done"});
+        }
+        if (!written_) Tell({u"standard output", "Cannot be written"});
+        return failed_ || !written_ || !whole ? SomeFailed : Done;
+    }
+
+ private:
+    void Write(const std::string& text) { written_ = Print(text, stdout) && written_; }
+
+    void Clear_Progress() const {
+        if (shows_progress_) Print("\r\x1B[K", stderr);
+    }
+
+    const EditCommand& command_;
+    const std::size_t all_;
+    const bool shows_progress_;
+    const std::chrono::steady_clock::time_point begin_ = std::chrono::steady_clock::now();
+    std::size_t done_ = 0;
+    bool failed_ = false, written_ = true;
+};
+
+int Edit_Shelf(const EditCommand& command, const std::u16string& program_folder) {
+    std::string recipe;
+    if (!command.recipe.empty()) {
+        auto read = Read_File(command.recipe);
+        if (!read) return Tell(read.Why()), Misused;
+        recipe = std::move(*read);
+    }
+    Jobs jobs(command, recipe, program_folder);
+    const auto count = jobs.Check();
+    if (!count) return Tell(count.Why()), Misused;
+    Teller teller(command, *count);
+    const InterruptionsHeld held;
+    Shelf shelf(
+        command.shelf, [&] { return jobs.Next().Value_Or({}); },
+        [&](const Outcome& outcome) { teller.Take(outcome); });
+    return teller.Finish(shelf.Run());
+}
+
+/// What a banner holds, as a row of a recipe.
+Result<std::vector<OptionValue>> Values_In(const std::u16string& path) {
+    constexpr std::size_t NoHistory = 0;
+    const auto banner = Banner::Load({Layout_File_Of(path), path}, NoHistory);
+    if (!banner) return banner.Why();
+    if (!Is_Layout(banner->On_Disk())) {
+        return Failure{path, "Is neither a layout file nor an archive"};
+    }
+    return Values_Of(banner->Bytes(), banner->Names());
+}
+
+/// The columns that the banners need, those of the first first.
+std::vector<std::string> Columns_For(const std::vector<std::u16string>& banners) {
+    std::vector<std::string> columns = {std::string(BannerColumn)};
+    std::set<std::string> known;
+    for (const std::u16string& banner : banners) {
+        for (const OptionValue& value : Values_In(banner).Value_Or({})) {
+            if (known.insert(value.option).second) columns.push_back(value.option);
+        }
+    }
+    return columns;
+}
+
+int Export_Recipe(const EditCommand& command) {
+    const bool csv = command.export_recipe == "csv";
+    const std::vector<std::string> columns =
+        csv ? Columns_For(command.banners) : std::vector<std::string>();
+    int status = Done;
+    bool written = !csv || Print(Csv_Row(columns), stdout);
+    for (const std::u16string& banner : command.banners) {
+        const auto values = Values_In(banner);
+        if (!values) {
+            Tell(values.Why());
+            status = SomeFailed;
+            continue;
+        }
+        const std::string row =
+            csv ? Csv_Of(banner, *values, columns) : Json_Of(banner, *values) + "\n";
+        written = Print(row, stdout) && written;
+    }
+    if (written) return status;
+    Tell({u"standard output", "Cannot be written"});
+    return SomeFailed;
+}
+
+int Run(const std::vector<std::u16string>& arguments) {
+    const std::u16string program_folder = Program_Folder();
+    const auto command = Read_Edit_Command(arguments, program_folder);
+    if (!command) {
+        Print("bannersmith-edit: " + Readable(From_Utf8(command.Why().reason)) +
+                  "\nbannersmith-edit --help lists the options.\n",
+              stderr);
+        return Misused;
+    }
+    return command->export_recipe.empty() ? Edit_Shelf(*command, program_folder)
+                                          : Export_Recipe(*command);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const std::vector<std::u16string> arguments = Arguments(argc, argv);
+    if (arguments == std::vector<std::u16string>{u"--help"}) {
+        return Print(Edit_Usage(), stdout) ? Done : SomeFailed;
+    }
+    if (arguments == std::vector<std::u16string>{u"--version"}) {
+        return Print("bannersmith-edit " BANNERSMITH_VERSION "\n", stdout) ? Done : SomeFailed;
+    }
+    if (arguments.size() == 2 && arguments[0] == u"--completion") {
+        const std::string script = Completion_Script(To_Utf8(arguments[1]));
+        if (!script.empty()) return Print(script, stdout) ? Done : SomeFailed;
+    }
+    try {
+        return Run(arguments);
+    } catch (const std::bad_alloc&) {
+        Tell({u"", "Not enough memory"});
+        return SomeFailed;
+    }
+}
