@@ -4,7 +4,7 @@
 #include <CLI/Config.hpp>
 #include <CLI/Formatter.hpp>
 #include <algorithm>
-#include <thread>
+#include <map>
 
 #include "base/text.h"
 
@@ -26,7 +26,7 @@ constexpr RunOption RunOptions[] = {
     {"dry-run", "", "write nothing, only tell"},
     {"diff", "", "show what changes, old and new"},
     {"json", "", "report as JSON"},
-    {"jobs", "N", "work with N threads"},
+    {"jobs", "N", "work with N threads, 8 unless given"},
     {"lenient", "", "an option that finds nothing to change is no failure"},
     {"quiet", "", "tell only what went wrong"},
 };
@@ -129,7 +129,7 @@ class Values {
 class Reading {
  public:
     explicit Reading(const std::u16string& program_folder) : program_folder_(program_folder) {
-        command.shelf.threads = std::clamp(std::thread::hardware_concurrency(), 1U, MostThreads);
+        command.shelf.threads = UsualThreads;
     }
 
     EditCommand command;
@@ -177,6 +177,7 @@ class Reading {
     }
 
  private:
+    static constexpr unsigned UsualThreads = 8;  // that mostly wait for the disk
     static constexpr unsigned MostThreads = 64;
 
     Result<> Take_How(const std::string& name, const std::string& value) {

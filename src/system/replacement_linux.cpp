@@ -315,6 +315,8 @@ Result<> Replacement::Write(const FolderLock::Folder& folder, std::string_view b
     if (!state.written.Is_Open()) return Error_Of(errno);
     if (auto written = Write_All(state.written, bytes); !written) return written;
     if (state.exists) state.lost = Take_Over(state.target, state.old, state.written.Get());
+    // A hint: what is on its way already is waited for together with what others have written.
+    ::sync_file_range(state.written.Get(), 0, 0, SYNC_FILE_RANGE_WRITE);
     return {};
 }
 
