@@ -8,6 +8,7 @@
 #include "base/message.h"
 #include "base/text.h"
 #include "exchange/edit_command.h"
+#include "exchange/edit_usage.h"
 #include "exchange/recipe.h"
 #include "exchange/report.h"
 #include "layout/kind.h"

@@ -7,51 +7,11 @@
 #include <map>
 
 #include "base/text.h"
+#include "exchange/edit_usage.h"
 
 namespace bannersmith {
 
 namespace {
-
-/// An option that says how, not what.
-struct RunOption {
-    std::string_view name, value, help;  ///< `value` is empty for one without
-};
-
-constexpr RunOption RunOptions[] = {
-    {"recipe", "FILE", "a banner a row, CSV or JSON; columns are options"},
-    {"export-recipe", "FORMAT", "csv or json: print what the banners hold as a recipe"},
-    {"output", "FILE", "write a copy of the one banner"},
-    {"output-folder", "FOLDER", "write copies below a folder"},
-    {"backup", "SUFFIX", "keep each old file under its name with the suffix"},
-    {"dry-run", "", "write nothing, only tell"},
-    {"diff", "", "show what changes, old and new"},
-    {"json", "", "report as JSON"},
-    {"jobs", "N", "work with N threads, 8 unless given"},
-    {"lenient", "", "an option that finds nothing to change is no failure"},
-    {"quiet", "", "tell only what went wrong"},
-};
-
-/// Every option as it can be typed, with its value.
-struct Typed {
-    std::string name;
-    std::string_view value;
-};
-
-std::vector<Typed> All_Options() {
-    std::vector<Typed> all;
-    for (const OptionInfo& option : Edit_Options()) {
-        const std::string name(option.name);
-        if (option.key != OptionKey::each_language) all.push_back({name, option.value});
-        if (option.key != OptionKey::language && option.key != OptionKey::each_language) continue;
-        for (const std::string_view code : Option_Languages()) {
-            all.push_back({name + "-" + std::string(code), option.value});
-        }
-    }
-    for (const RunOption& option : RunOptions) {
-        all.push_back({std::string(option.name), option.value});
-    }
-    return all;
-}
 
 /// In front of each value, which may then be empty and begin with a hyphen.
 constexpr char ValueMark = ':';
@@ -59,14 +19,15 @@ constexpr char ValueMark = ':';
 /// The arguments as the parser takes them, from the last to the first: each option and its value as
 /// one, with a mark between them.
 std::vector<std::string> For_The_Parser(const std::vector<std::u16string>& arguments,
-                                        const std::vector<Typed>& options) {
+                                        const std::vector<TypedOption>& options) {
     std::vector<std::string> joined;
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         const std::string argument = To_Utf8(arguments[i]);
         const std::string name = argument.substr(0, argument.find('='));
-        const bool takes_value = std::any_of(
-            options.begin(), options.end(),
-            [&](const Typed& each) { return name == "--" + each.name && !each.value.empty(); });
+        const bool takes_value =
+            std::any_of(options.begin(), options.end(), [&](const TypedOption& each) {
+                return name == "--" + each.name && !each.value.empty();
+            });
         if (!takes_value) {
             joined.push_back(argument);
         } else if (name.size() < argument.size()) {
@@ -88,11 +49,11 @@ Failure Misused(const std::string& reason) {
 /// Options by their names, each with its values in their order.
 class Values {
  public:
-    Values(const std::vector<std::u16string>& arguments, const std::vector<Typed>& options) {
+    Values(const std::vector<std::u16string>& arguments, const std::vector<TypedOption>& options) {
         CLI::App parser;
         parser.set_help_flag();
         CLI::Option* banners = parser.add_option("banners", banners_);
-        for (const Typed& option : options) {
+        for (const TypedOption& option : options) {
             const std::string name = "--" + option.name;
             if (option.value.empty()) {
                 parser.add_flag(name);
@@ -140,8 +101,10 @@ class Reading {
             return Misused("--" + name + " is there twice");
         }
         seen_.push_back(name);
-        const bool says_how = std::any_of(std::begin(RunOptions), std::end(RunOptions),
-                                          [&](const RunOption& each) { return each.name == name; });
+        const auto run_options = Run_Options();
+        const bool says_how =
+            std::any_of(run_options.begin(), run_options.end(),
+                        [&](const OptionInfo& each) { return each.name == name; });
         if (says_how) return Take_How(name, value);
         auto wish = Read_Wish(name, From_Utf8(value), program_folder_);
         if (!wish) {
@@ -226,87 +189,13 @@ class Reading {
     std::vector<std::string> seen_;
 };
 
-/// "  --title[-LANG] TEXT  the game's name".
-std::string Help_Line(const std::string& option, std::string_view help) {
-    constexpr std::size_t Column = 34;
-    std::string line = "  " + option;
-    if (line.size() + 2 > Column)
-        return line + "\n" + std::string(Column, ' ') + std::string(help) + "\n";
-    line.resize(Column, ' ');
-    return line + std::string(help) + "\n";
-}
-
-std::string Shown_Option(const OptionInfo& option) {
-    const std::string name = "--" + std::string(option.name), value(option.value);
-    switch (option.key) {
-        case OptionKey::language:
-            return name + "[-LANG] " + value;
-        case OptionKey::each_language:
-            return name + "-LANG " + value;
-        case OptionKey::box:
-            return name + " BOX=" + value;
-        case OptionKey::element:
-            return name + " ELEMENT=" + value;
-        default:
-            return name + " " + value;
-    }
-}
-
-bool Takes_File(std::string_view value) {
-    return value == "FILE" || value == "FOLDER" || value == "SCHEME";
-}
-
-std::string Bash_Completion(const std::vector<Typed>& options) {
-    std::string words, files;
-    for (const auto& [name, value] : options) {
-        words += " --" + name;
-        if (Takes_File(value)) files += (files.empty() ? "--" : "|--") + name;
-    }
-    return "_bannersmith_edit() {\n"
-           "    local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD-1]}\n"
-           "    case $before in\n"
-           "        " +
-           files +
-           ") COMPREPLY=($(compgen -f -- \"$word\")); return ;;\n"
-           "        --export-recipe) COMPREPLY=($(compgen -W 'csv json' -- \"$word\")); return ;;\n"
-           "    esac\n"
-           "    case $word in\n"
-           "        -*) COMPREPLY=($(compgen -W '" +
-           words.substr(1) +
-           "' -- \"$word\")) ;;\n"
-           "        *) COMPREPLY=($(compgen -f -- \"$word\")) ;;\n"
-           "    esac\n"
-           "}\n"
-           "complete -o filenames -F _bannersmith_edit bannersmith-edit\n";
-}
-
-std::string Zsh_Completion(const std::vector<Typed>& options) {
-    std::string script = "#compdef bannersmith-edit\n_arguments \\\n";
-    for (const auto& [name, value] : options) {
-        const std::string argument =
-            value.empty() ? "" : "=:" + std::string(value) + (Takes_File(value) ? ":_files" : ":");
-        script += "    '--" + name + argument + "' \\\n";
-    }
-    return script + "    '*:banner:_files'\n";
-}
-
-std::string Fish_Completion(const std::vector<Typed>& options) {
-    std::string script;
-    for (const auto& [name, value] : options) {
-        script += "complete -c bannersmith-edit -l " + name;
-        if (!value.empty()) script += Takes_File(value) ? " -r -F" : " -x";
-        script += "\n";
-    }
-    return script;
-}
-
 }  // namespace
 
 Result<EditCommand> Read_Edit_Command(const std::vector<std::u16string>& arguments,
                                       const std::u16string& program_folder) {
     Reading reading(program_folder);
     try {
-        const Values values(arguments, All_Options());
+        const Values values(arguments, Typed_Options());
         reading.command.banners = values.Banners();
         for (const auto& [name, value] : values.Given()) {
             if (auto taken = reading.Take(name, value); !taken) return taken.Why();
@@ -316,49 +205,6 @@ Result<EditCommand> Read_Edit_Command(const std::vector<std::u16string>& argumen
     }
     if (auto checked = reading.Check(); !checked) return checked.Why();
     return std::move(reading.command);
-}
-
-std::string Edit_Usage() {
-    std::string usage =
-        "usage: bannersmith-edit [OPTION...] BANNER...\n"
-        "       bannersmith-edit --recipe FILE [OPTION...]\n"
-        "       bannersmith-edit --export-recipe csv|json BANNER...\n"
-        "       bannersmith-edit --completion bash|zsh|fish\n"
-        "       bannersmith-edit --help | --version\n"
-        "\n"
-        "Edits and saves banners: layout files (banner.brlyt), the archives of channels\n"
-        "(00000000.app, opening.bnr, banner.bin), unpacked channels. Paths are below the\n"
-        "current folder. A value stands behind = or a blank; ^ in it is a line break. LANG\n"
-        "is eng, ger, fra, ita, spa, ned or jpn, where they exist also kor, chs or cht.\n"
-        "Options are applied in their order.\n"
-        "\n";
-    for (const OptionInfo& option : Edit_Options()) {
-        usage += Help_Line(Shown_Option(option), option.help);
-    }
-    usage += "\n";
-    for (const RunOption& option : RunOptions) {
-        const std::string value(option.value);
-        usage += Help_Line("--" + std::string(option.name) + (value.empty() ? "" : " ") + value,
-                           option.help);
-    }
-    return usage +
-           "\n"
-           "A shelf of banners goes through a spreadsheet and back:\n"
-           "  bannersmith-edit --export-recipe csv shelf/*.app >shelf.csv\n"
-           "  bannersmith-edit --recipe shelf.csv\n"
-           "\n"
-           "Exit status: 0 all done; 1 some failed, each told in a line, and are as they were;\n"
-           "2 wrong usage or a wrong row of a recipe, nothing was touched.\n";
-}
-
-std::string Completion_Script(std::string_view shell) {
-    std::vector<Typed> options = All_Options();
-    options.push_back({"completion", "SHELL"});
-    options.push_back({"help", ""});
-    options.push_back({"version", ""});
-    if (shell == "bash") return Bash_Completion(options);
-    if (shell == "zsh") return Zsh_Completion(options);
-    return shell == "fish" ? Fish_Completion(options) : std::string();
 }
 
 }  // namespace bannersmith

@@ -25,10 +25,4 @@ struct EditCommand {
 Result<EditCommand> Read_Edit_Command(const std::vector<std::u16string>& arguments,
                                       const std::u16string& program_folder);
 
-/// What `--help` prints, made from the options.
-std::string Edit_Usage();
-
-/// The completion script of a shell: "bash", "zsh" or "fish". Empty for any other.
-std::string Completion_Script(std::string_view shell);
-
 }  // namespace bannersmith

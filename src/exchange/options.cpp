@@ -6,6 +6,7 @@
 #include "base/text.h"
 #include "colors/scheme.h"
 #include "container/imet.h"
+#include "exchange/edit_usage.h"
 #include "gameinfo/fields.h"
 #include "gameinfo/languages.h"
 #include "layout/file_length.h"
@@ -14,9 +15,6 @@
 namespace bannersmith {
 
 namespace {
-
-constexpr std::array<std::string_view, 10> Codes = {"eng", "ger", "fra", "ita", "spa",
-                                                    "ned", "jpn", "kor", "chs", "cht"};
 
 /// Code units: more than a banner shows, and with its wording inside a box's 65,535 bytes.
 constexpr std::size_t LongestText = 32000;
@@ -135,57 +133,43 @@ Read Take_Export(const Asked& asked) {
     return Wanted(ExportPicture{asked.value});
 }
 
-struct Option {
-    OptionInfo info;
+/// How the value of each option is read.
+struct Reader {
+    std::string_view name;
     Read (*read)(const Asked&);
 };
 
-constexpr Option Options[] = {
-    {{"title", OptionKey::language, "TEXT", "the game's name; ^ is a line break"},
-     Take_Field<Field::title>},
-    {{"year", OptionKey::language, "N", "the release year, four digits"}, Take_Field<Field::year>},
-    {{"players", OptionKey::language, "N", "the highest number of players, 1 to 99"},
-     Take_Field<Field::players>},
-    {{"rating", OptionKey::language, "TEXT", "the rating"}, Take_Field<Field::rating>},
-    {{"system", OptionKey::none, "TEXT", "the console's name"}, Take_System},
-    {{"text", OptionKey::box, "TEXT", "the raw text of the box of exactly that name"}, Take_Text},
-    {{"colors", OptionKey::none, "SCHEME", "a scheme of the folder schemes, or a .vccs file"},
-     Take_Colors},
-    {{"color", OptionKey::element, "RRGGBB,RRGGBB", "the two colors of an element, as Back0"},
-     Take_Color},
-    {{"logo", OptionKey::none, "FILE", "a file of the folder logos, or a texture or picture"},
-     Take_Logo},
-    {{"picture", OptionKey::none, "FILE", "the picture of the game, in banner and icon"},
-     Take_Picture},
-    {{"force", OptionKey::none, "LANG", "let another language's items answer to this one"},
-     Take_Force},
-    {{"pad", OptionKey::none, "N", "pad to N bytes, +N adds N; without it as it was"}, Take_Pad},
-    {{"name", OptionKey::language, "TEXT", "the channel's name in the console's menu"},
-     Take_Name<0>},
-    {{"subtitle", OptionKey::each_language, "TEXT", "the second line of that name"}, Take_Name<1>},
-    {{"export-picture", OptionKey::none, "FILE", "write the picture of the game as PNG"},
-     Take_Export},
+constexpr Reader Readers[] = {
+    {"title", Take_Field<Field::title>},
+    {"year", Take_Field<Field::year>},
+    {"players", Take_Field<Field::players>},
+    {"rating", Take_Field<Field::rating>},
+    {"system", Take_System},
+    {"text", Take_Text},
+    {"colors", Take_Colors},
+    {"color", Take_Color},
+    {"logo", Take_Logo},
+    {"picture", Take_Picture},
+    {"force", Take_Force},
+    {"pad", Take_Pad},
+    {"name", Take_Name<0>},
+    {"subtitle", Take_Name<1>},
+    {"export-picture", Take_Export},
 };
-
-constexpr auto Infos = [] {
-    std::array<OptionInfo, std::size(Options)> infos{};
-    for (std::size_t i = 0; i < infos.size(); ++i) infos[i] = Options[i].info;
-    return infos;
-}();
 
 /// The option of a name, and the language of it in capitals, which may be empty.
 struct Named {
-    const Option* option = nullptr;
+    const OptionInfo* option = nullptr;
     std::u16string language;
 };
 
 Named Find_Option(std::string_view name) {
-    for (const Option& option : Options) {
-        const OptionKey key = option.info.key;
-        if (name == option.info.name && key != OptionKey::each_language) return {&option, u""};
+    for (const OptionInfo& option : Edit_Options()) {
+        const OptionKey key = option.key;
+        if (name == option.name && key != OptionKey::each_language) return {&option, u""};
         if (key != OptionKey::language && key != OptionKey::each_language) continue;
-        for (const std::string_view code : Codes) {
-            if (name != std::string(option.info.name).append("-").append(code)) continue;
+        for (const std::string_view code : Option_Languages()) {
+            if (name != std::string(option.name).append("-").append(code)) continue;
             return {&option, Capitals(From_Utf8(code))};
         }
     }
@@ -203,7 +187,7 @@ Result<Wish> Read_Named(std::string_view name, std::u16string_view value,
     if (option == nullptr) return Refused("Is no option");
     if (value.size() > LongestText) return Refused("Is too long");
     Asked asked{language, On_One_Line(value), program_folder};
-    const bool keyed = option->info.key == OptionKey::box || option->info.key == OptionKey::element;
+    const bool keyed = option->key == OptionKey::box || option->key == OptionKey::element;
     if (!keyed && colon < name.size()) return Refused("Is no option");
     if (keyed && colon < name.size()) asked.key = From_Utf8(name.substr(colon + 1));
     if (keyed && colon == name.size()) {
@@ -211,20 +195,15 @@ Result<Wish> Read_Named(std::string_view name, std::u16string_view value,
         asked.key = asked.value.substr(0, equals);
         asked.value.erase(0, equals + 1);
     }
-    auto read = option->read(asked);
+    const auto* const reader =
+        std::find_if(std::begin(Readers), std::end(Readers),
+                     [&](const Reader& each) { return each.name == option->name; });
+    auto read = reader->read(asked);
     if (!read) return read.Why();
     return Wish{"--" + std::string(name), std::move(*read)};
 }
 
 }  // namespace
-
-std::span<const OptionInfo> Edit_Options() {
-    return Infos;
-}
-
-std::span<const std::string_view> Option_Languages() {
-    return Codes;
-}
 
 Result<Wish> Read_Wish(std::string_view name, std::u16string_view value,
                        const std::u16string& program_folder) {

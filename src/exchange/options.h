@@ -2,7 +2,6 @@
 #pragma once
 
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -12,29 +11,6 @@
 #include "base/result.h"
 
 namespace bannersmith {
-
-/// What stands behind the name of an option to say which text, line or colour is meant.
-enum class OptionKey {
-    none,
-    language,       ///< "--title-ger"; without it every language
-    each_language,  ///< the same, never without it
-    box,            ///< "--text BOX=TEXT", as a column also "text:BOX"
-    element,        ///< "--color ELEMENT=RRGGBB,RRGGBB", as a column also "color:ELEMENT"
-};
-
-/// One option.
-struct OptionInfo {
-    std::string_view name;  ///< without hyphens and key
-    OptionKey key;
-    std::string_view value;  ///< how the help calls what stands behind it
-    std::string_view help;   ///< one line or two
-};
-
-/// All options that say what a banner becomes, in the order of the help.
-std::span<const OptionInfo> Edit_Options();
-
-/// The languages of the options, as they are typed.
-std::span<const std::string_view> Option_Languages();
 
 /// The picture of the game is written into a PNG file, as it is when everything else is done.
 struct ExportPicture {
