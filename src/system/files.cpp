@@ -142,8 +142,9 @@ bool Leads_Through_Link(const std::u16string& folder, const std::u16string& path
 }
 
 Result<> Make_Folders_Of(const std::u16string& path) {
+    const fs::path folder = Native_Path(path).parent_path();
     std::error_code error;
-    fs::create_directories(Native_Path(path).parent_path(), error);
+    if (!folder.empty()) fs::create_directories(folder, error);
     if (error) return Failure{path, error.message()};
     return {};
 }

@@ -6,6 +6,7 @@ the manual, and the messages page with the messages in the sources. With --write
 pages in place of being compared."""
 import difflib
 import glob
+import json
 import os
 import re
 import shutil
@@ -13,8 +14,10 @@ import subprocess
 import sys
 import tempfile
 
+import jsonschema
+
 USER_PAGES = ["docs/manual.md", "docs/messages.md"]
-PROGRAMS = ["bannersmith", "bannersmith-window", "bannersmith-inspect", "bannersmith-texture"]
+PROGRAMS = ["bannersmith", "bannersmith-edit", "bannersmith-window", "bannersmith-inspect", "bannersmith-texture"]
 # A text of three words or more (four without a capital), or one that ends in "!", is a message; what holds a line
 # break or a | is none.
 SENTENCE = re.compile(r'"((?=[^"]*!")[^"|\\n]*|[A-Z][\w\']*(?:,? [\w\'+.]+){2}[^"|]*|'
@@ -44,20 +47,34 @@ def run_block(block, folder):
 
 
 def help_options(text):
-    """The options of --help, with their arguments; "-2, -3" are two."""
-    found = {(name, "") for name in re.findall(r"(?<!\w)--\w+", text)}
+    """The options of --help by name, with their arguments; "-2, -3" are two."""
+    found = {name: "" for name in re.findall(r"(?<![\w-])--[a-z]+(?:-[a-z]+)*(?![\w\[-])", text)}
     for names, argument in re.findall(r"^  (-[^\s,]+(?:, -[^\s,]+)*)((?: (?:[A-Z]+|xxx))?) +", text, re.M):
-        found |= {(name, argument.strip().lower()) for name in names.split(", ")}
+        found.update({name: argument.strip().lower() for name in names.split(", ")})
     return found
 
 
 def man_options(text):
     synopsis = re.search(r"\.Sh SYNOPSIS\n(.*?)\.Sh", text, re.S)[1]
-    found = {("--" + name, "") for name in re.findall(r"-([a-z]+)", synopsis)}
+    found = {"--" + name: "" for name in re.findall(r"(?<!\w)-([a-z]+(?:-[a-z]+)*)", synopsis)}
     for line in re.findall(r"^\.It (Fl .*)$", text, re.M):
         argument = re.search(r"Ar (\w+)|$", line)[1] or ""
-        found |= {("-" + name, argument.lower()) for name in re.findall(r"Fl (\S+)", line)}
+        found.update({"-" + name: argument.lower() for name in re.findall(r"Fl (\S+)", line)})
     return found
+
+
+def schema(sources, folder):
+    """What the programs write as JSON is as the schema says."""
+    definitions = json.loads(read(sources, "docs", "banner.schema.json"))
+    samples = ["samples/channel/00000000.app", *glob.glob("samples/*/arc/blyt/*.brlyt", root_dir=folder)]
+    for kind, command in (("inspection", ["./bannersmith-inspect", "--json"]),
+                          ("outcome", ["./bannersmith-edit", "--json", "--dry-run", "--title-eng", "x"]),
+                          ("row", ["./bannersmith-edit", "--export-recipe", "json"])):
+        printed = subprocess.run(command + samples, cwd=folder, capture_output=True).stdout.decode()
+        found = json.loads(printed if kind != "row" else "[" + ",".join(printed.splitlines()) + "]")
+        check(len(found) == len(samples), "%d of %d are told as %s" % (len(found), len(samples), kind))
+        for each in found:
+            jsonschema.validate(each, {"$ref": "#/$defs/" + kind, "$defs": definitions["$defs"]})
 
 
 def options(sources, folder, manual):
@@ -69,10 +86,12 @@ def options(sources, folder, manual):
         shown = help_options(subprocess.run([path, "--help"], capture_output=True, check=True).stdout.decode())
         page = man_options(read(sources, "packaging", "man", program + ".1"))
         if program == "bannersmith-window":  # refers to bannersmith for the options
-            shown = {option for option in shown if option[0].startswith("--")}
-        check(shown == page, "%s: --help and man page differ in %s" % (program, sorted(shown ^ page)))
-        for name, _ in shown:
+            shown = {name: argument for name, argument in shown.items() if name.startswith("--")}
+        differing = sorted(shown.items() ^ page.items())
+        check(not differing, "%s: --help and man page differ in %s" % (program, differing))
+        for name in shown:
             typed = name.replace("xxx", "[A-Z]{3}").replace("BOX", r"\w+")
+            typed = typed.replace("[-LANG]", "(-[a-z]{3})?").replace("-LANG", "-[a-z]{3}")
             check(re.search(r"^[$>] .*(?<![\w-])" + typed + r"(?![\w-])", manual, re.M), "no example of " + name)
 
 
@@ -112,6 +131,7 @@ def main():
             changes = difflib.unified_diff(text.split("\n"), now.split("\n"), page, "what it prints now", n=9, lineterm="")
             check(write or now == text, "\n".join(changes))
         options(sources, folder, read(sources, "docs/manual.md"))
+        schema(sources, folder)
         messages(sources, read(sources, "docs/messages.md"))
     print("%d failures" % len(failures))
     return 1 if failures else 0

@@ -9,6 +9,7 @@
 
 #include "base/text.h"
 #include "colors/scheme.h"
+#include "exchange/csv.h"
 #include "generate/banners.h"
 #include "generate/channel.h"
 #include "generate/texture.h"
@@ -89,6 +90,45 @@ void Write_Banner(const fs::path& samples, const std::string& name, const std::s
           }));
 }
 
+/// Games that nobody made, for a recipe.
+constexpr struct {
+    const char* title;
+    int year, players;
+} Titles[] = {
+    {"Starlight Courier", 1991, 2},    {"Moss Kingdom", 1987, 1},
+    {"Turbo Lantern", 1990, 2},        {"Paper Dragons", 1993, 4},
+    {"Captain Quill", 1988, 1},        {"The Glass Orchard", 1994, 1},
+    {"Rocket Picnic", 1989, 2},        {"Iron Heron", 1992, 1},
+    {"Bubble Foundry", 1991, 2},       {"Night Ferry", 1995, 1},
+    {"Kite Battalion", 1986, 2},       {"Sir Teapot's Quest", 1990, 1},
+    {"Polar Express-Way", 1993, 2},    {"Marble Marauders", 1988, 4},
+    {"Lighthouse Zero", 1996, 1},      {"Cactus, Cactus!", 1992, 2},
+    {"Velvet Robots", 1987, 2},        {"Thunder Alley 2", 1994, 4},
+    {"The Hollow Bell", 1991, 1},      {"Pixel Gardener", 1989, 1},
+    {"Sky Pirates of Oma", 1990, 2},   {"Echo Valley", 1995, 1},
+    {"Jelly Samurai", 1993, 2},        {"Crystal Postman", 1988, 1},
+    {"Drum Machine Wars", 1996, 4},    {"Seven Lakes", 1992, 1},
+    {R"(Owl "Ace" Hopkins)", 1987, 1}, {"Comet Farmer", 1991, 2},
+    {"Clockwork Savanna", 1994, 1},    {"Tiny Titans", 1990, 4},
+    {"Harbour Lights", 1989, 1},       {"Snowball Senate", 1993, 8},
+    {"The Copper Fox", 1995, 1},       {"Mirror Maze", 1986, 1},
+    {"Noodle Riders", 1992, 2},        {"Planet Pizzicato", 1996, 2},
+    {"Zeppelin Days", 1988, 1},        {"Emerald Express", 1991, 2},
+    {"Whale Song", 1994, 1},           {"Last Train to Nova", 1996, 2},
+};
+
+/// A spreadsheet's table: a banner a row, shelf/01.app and so on.
+std::string Shelf_Recipe() {
+    std::string table = Csv_Row({"banner", "title", "year", "players", "name"});
+    int number = 100;
+    for (const auto& [title, year, players] : Titles) {
+        const std::string digits = std::to_string(++number).substr(1);
+        table += Csv_Row({"shelf/" + digits + ".app", title, std::to_string(year),
+                          std::to_string(players), title});
+    }
+    return table;
+}
+
 void Write_Program_Folder(const fs::path& folder) {
     const fs::path samples = folder / "samples", logos = folder / "logos";
     Write_Banner(samples, "seven_languages", Seven_Language_Banner());
@@ -96,6 +136,7 @@ void Write_Program_Folder(const fs::path& folder) {
     Write_Banner(samples, "german_japanese", German_Japanese_Banner());
     Write_Banner(samples, "no_closing_group", Banner_Without_Closing_Group());
     Write(samples / "channel" / "00000000.app", Sample_Channel());
+    Write(samples / "forty_titles.csv", Shelf_Recipe());
     Write(logos / "Comet.tpl", Logo(TextureFormat::i4, Comet));
     Write(logos / "Diamonds.tpl", Logo(TextureFormat::ia8, Diamonds));
     Write(logos / "Rings.tpl", Logo(TextureFormat::i4, Rings));
