@@ -42,7 +42,7 @@ def run_block(block, folder):
     for command in re.findall(r"^\$ (.*(?:\n>(?: .*)?)*)\n", block, re.M):
         done = subprocess.run(["bash", "-c", re.sub(r"\n> ?", "\n", command)], cwd=folder, stdout=subprocess.PIPE,
                               stderr=subprocess.STDOUT, timeout=60, env={**os.environ, "LC_ALL": "C.UTF-8"})
-        lines += ["$ ", command, "\n", done.stdout.decode("utf-8").replace(folder, "/programs/bannersmith")]
+        lines += ["$ ", command, "\n", done.stdout.decode("utf-8").replace("\r\n", "\n").replace(folder, "/programs/bannersmith")]
     return "".join(lines)
 
 
