@@ -1,5 +1,6 @@
 // bannersmith-edit: edits one banner or a shelf of them, by options or by a recipe.
 #include <chrono>
+#include <filesystem>
 #include <new>
 #include <set>
 #include <string>
@@ -11,9 +12,11 @@
 #include "exchange/edit_usage.h"
 #include "exchange/recipe.h"
 #include "exchange/report.h"
+#include "exchange/shelf_jobs.h"
 #include "layout/kind.h"
 #include "system/files.h"
 #include "system/interruptions.h"
+#include "system/native_path.h"
 #include "system/process.h"
 
 using namespace bannersmith;
@@ -25,69 +28,6 @@ constexpr int Done = 0, SomeFailed = 1, Misused = 2;
 void Tell(const Failure& failure) {
     Print("bannersmith-edit: " + One_Line(failure) + "\n", stderr);
 }
-
-/// All jobs: the banners of the command line, then the rows of the recipe.
-class Jobs {
- public:
-    Jobs(const EditCommand& command, const std::string& recipe,
-         const std::u16string& program_folder)
-        : command_(command), recipe_(recipe), rows_(recipe_), program_folder_(program_folder) {}
-
-    /// Reads every row before the first is done. Returns how many jobs there are. Fails for the
-    /// first row that is wrong, and for a banner that is there twice.
-    Result<std::size_t> Check() {
-        std::size_t count = 0;
-        for (auto job = Next(); !job || *job; job = Next()) {
-            if (!job) return job.Why();
-            ++count;
-            const std::u16string file = Layout_File_Of((*job)->banner);
-            if (!Ordinary_File_Exists(file)) {
-                return Wrong_Row(line_, To_Utf8((*job)->banner) + ": No such banner");
-            }
-            if (!seen_.insert(std::hash<std::u16string>()(Canonical_Path(file))).second) {
-                return Wrong_Row(line_, To_Utf8((*job)->banner) + " is there twice");
-            }
-        }
-        seen_.clear();
-        at_ = 0;
-        rows_ = RecipeReader(recipe_);
-        return count;
-    }
-
-    Result<std::optional<ShelfJob>> Next() {
-        if (at_ < command_.banners.size()) {
-            return std::optional(ShelfJob{command_.banners[at_++], {}});
-        }
-        if (command_.recipe.empty()) return std::optional<ShelfJob>();
-        auto row = rows_.Next();
-        if (!row) return std::move(row).About(command_.recipe).Why();
-        if (!*row) return std::optional<ShelfJob>();
-        line_ = (*row)->line;
-        ShelfJob job{(*row)->banner, {}};
-        for (const auto& [option, value] : (*row)->values) {
-            auto wish = Read_Wish(option, value, program_folder_);
-            if (!wish) {
-                return Wrong_Row(line_,
-                                 option + " \"" + To_Utf8(value) + "\": " + wish.Why().reason);
-            }
-            job.wishes.push_back(std::move(*wish));
-        }
-        return std::optional(std::move(job));
-    }
-
- private:
-    Failure Wrong_Row(std::size_t line, const std::string& reason) const {
-        if (line == 0) return {u"Command line", reason};
-        return {command_.recipe, In_Line(line, reason).reason};
-    }
-
-    const EditCommand& command_;
-    const std::string& recipe_;
-    RecipeReader rows_;
-    const std::u16string& program_folder_;
-    std::size_t at_ = 0, line_ = 0;
-    std::set<std::size_t> seen_;  ///< banners, by a number that takes little memory
-};
 
 /// Tells of outcomes as they come.
 class Teller {
@@ -145,6 +85,11 @@ class Teller {
     bool failed_ = false, written_ = true;
 };
 
+std::u16string Current_Folder() {
+    std::error_code ignored;
+    return Text_Of(std::filesystem::current_path(ignored));
+}
+
 int Edit_Shelf(const EditCommand& command, const std::u16string& program_folder) {
     std::string recipe;
     if (!command.recipe.empty()) {
@@ -152,13 +97,15 @@ int Edit_Shelf(const EditCommand& command, const std::u16string& program_folder)
         if (!read) return Tell(read.Why()), Misused;
         recipe = std::move(*read);
     }
-    Jobs jobs(command, recipe, program_folder);
+    ShelfOptions options = command.shelf;
+    options.current_folder = Current_Folder();
+    ShelfJobs jobs(command, recipe, program_folder);
     const auto count = jobs.Check();
     if (!count) return Tell(count.Why()), Misused;
     Teller teller(command, *count);
     const InterruptionsHeld held;
     Shelf shelf(
-        command.shelf, [&] { return jobs.Next().Value_Or({}); },
+        std::move(options), [&] { return jobs.Next().Value_Or({}); },
         [&](const Outcome& outcome) { teller.Take(outcome); });
     return teller.Finish(shelf.Run());
 }

@@ -7,7 +7,9 @@
 #include <random>
 #include <thread>
 
+#include "banner/effect.h"
 #include "base/text.h"
+#include "exchange/options.h"
 #include "gameinfo/fields.h"
 #include "generate/banners.h"
 #include "generate/channel.h"
@@ -106,6 +108,20 @@ TEST(Banner, IsEditedAsThePlainRulesSay) {
 }
 
 /// In the archive, and in the folders that it is unpacked into.
+/// What the tools tell of a banner says what stands there already.
+TEST(Banner, TellsValuesThatLeaveItAsItIs) {
+    for (int round = 0; round < 3000; ++round) {
+        Banner banner = Banner::From_Bytes(Any_File());
+        if (!Is_Layout(banner.Bytes())) continue;
+        for (const auto& [option, value] : Values_Of(banner.Bytes(), {})) {
+            const auto wish = Read_Wish(option, value, u"/nowhere");
+            ASSERT_TRUE(wish) << option << " " << To_Utf8(value);
+            EXPECT_TRUE(Holds_Already(banner, std::get<Edit>(wish->what))) << option;
+            EXPECT_EQ(Lacks(banner, std::get<Edit>(wish->what)), "");
+        }
+    }
+}
+
 TEST(Banner, IsEditedInItsArchiveAsInFolders) {
     const TempFolder folder;
     const Archive channel = *Archive::Read(Sample_Channel());

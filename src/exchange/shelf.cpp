@@ -67,7 +67,7 @@ class Editing {
 
     Result<> Load_And_Edit() {
         constexpr std::size_t NoHistory = 0;
-        auto loaded = Banner::Load({Layout_File_Of(job_.banner), job_.banner}, NoHistory);
+        auto loaded = Banner::Load({Source_Path(), job_.banner}, NoHistory);
         if (!loaded) return loaded.Why();
         if (!Is_Layout(loaded->On_Disk())) {
             return Failure{job_.banner, "Is neither a layout file nor an archive"};
@@ -81,6 +81,13 @@ class Editing {
         if (!missing_.empty() && !options_.lenient) return Failure{job_.banner, missing_};
         if (auto planned = Plan(); !planned) return planned;
         return Export();
+    }
+
+    /// Textures are looked for beside the layout's folder, which a bare name does not have.
+    std::u16string Source_Path() const {
+        const std::u16string file = Layout_File_Of(job_.banner);
+        const bool bare = file.find_first_of(u"\\/") == file.npos;
+        return bare ? options_.current_folder + u"/" + file : file;
     }
 
     Result<> Do(const Wish& wish, bool of_recipe) {
@@ -157,12 +164,14 @@ class Editing {
         return {};
     }
 
-    /// The same path below the folder for copies; what leads out of the current folder keeps only
-    /// what lies behind that.
-    Result<std::u16string> Below_Folder(const std::u16string& path) const {
+    /// The same path below the folder for copies, of a full one what is behind its root.
+    Result<std::u16string> Below_Folder(std::u16string_view path) const {
+        const std::u16string here = options_.current_folder + u"/";
+        if (path.starts_with(here)) path.remove_prefix(here.size());
         const std::filesystem::path native = Native_Path(path).lexically_normal().relative_path();
         for (const std::filesystem::path& part : native) {
-            if (part == "..") return Failure{path, "Leads out of the folder for copies"};
+            if (part != "..") continue;
+            return Failure{std::u16string(path), "Leads out of the folder for copies"};
         }
         return options_.output_folder + u"/" + Text_Of(native);
     }

@@ -22,13 +22,14 @@ struct ShelfJob {
 
 /// How a shelf is worked on.
 struct ShelfOptions {
-    std::vector<Wish> for_all;     ///< done to each banner before its own wishes, also where the
-                                   ///< values stand there already
-    bool lenient = false;          ///< an edit that finds nothing to change is only told
-    bool dry_run = false;          ///< nothing is written
-    std::u16string output;         ///< where the one banner's copy goes; empty for its own place
-    std::u16string output_folder;  ///< the same for many, each by its own path below the folder
-    std::u16string backup;         ///< behind the name of what keeps the old bytes; empty for none
+    std::u16string current_folder;  ///< what bare names of layouts are below
+    std::vector<Wish> for_all;      ///< done to each banner before its own wishes, also where the
+                                    ///< values stand there already
+    bool lenient = false;           ///< an edit that finds nothing to change is only told
+    bool dry_run = false;           ///< nothing is written
+    std::u16string output;          ///< where the one banner's copy goes; empty for its own place
+    std::u16string output_folder;   ///< the same for many, each by its own path below the folder
+    std::u16string backup;          ///< behind the name of what keeps the old bytes; empty for none
     unsigned threads = 1;
 };
 

@@ -66,6 +66,12 @@ std::string Write_Exact_Box(std::string layout, std::u16string_view name,
     return Set_Texts(std::move(layout), {&box, 1});
 }
 
+bool Is_Same_Box(std::string_view layout, std::u16string_view name, std::u16string_view read_name) {
+    const auto bytes = To_Bytes(name), read_bytes = To_Bytes(read_name);
+    return bytes && read_bytes &&
+           Is_Written_Where_It_Is_Read(layout, *bytes, Test_For(name), *read_bytes);
+}
+
 bool Has_Box(std::string_view layout, std::u16string_view name) {
     const auto bytes = To_Bytes(name);
     return bytes && Has_Text_Box(layout, *bytes, Test_For(name));

@@ -67,6 +67,9 @@ std::string Write_Box(std::string layout, std::u16string_view name, std::u16stri
 /// begins with it.
 std::string Write_Exact_Box(std::string layout, std::u16string_view name, std::u16string_view text);
 
+/// Whether `Write_Box` for `name` takes the very box that `Read_Box` takes for `read_name`.
+bool Is_Same_Box(std::string_view layout, std::u16string_view name, std::u16string_view read_name);
+
 /// Whether `Write_Box`, and whether `Write_Exact_Box`, finds a box of the layout.
 bool Has_Box(std::string_view layout, std::u16string_view name);
 bool Has_Exact_Box(std::string_view layout, std::u16string_view name);

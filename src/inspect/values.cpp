@@ -82,16 +82,19 @@ class Collecting {
     }
 
     void Add_Text(const std::u16string& name, const std::u16string& text) {
-        if (text.empty()) return;
+        if (name.empty() || text.empty()) return;
         const auto box = Field_Box(name);
-        if (name == SystemBox) return Add("system", text);
+        if (name == SystemBox && Is_Same_Box(layout_, name, name)) return Add("system", text);
         if (!box || !Add_Value(*box, text)) Add("text:" + To_Utf8(name), text);
     }
 
-    /// False for a text that is not the wording of a value.
+    /// False for a text that is not the wording of a value, and for a box that its option does not
+    /// find.
     bool Add_Value(const FieldBox& box, const std::u16string& text) {
         const bool neutral = box.code == NoLanguage;
         if (neutral && Has_Language(box.field)) return false;
+        const std::u16string written = Box_Of(box.field, box.code);
+        if (!Is_Same_Box(layout_, written, Box_To_Read(box.field, box.code))) return false;
         const std::u16string_view wording = neutral ? std::u16string_view(neutral_) : box.code;
         const std::u16string value = Bare_Value(box.field, text, wording);
         if (!Refused_Value(box.field, value).empty()) return false;
@@ -103,9 +106,10 @@ class Collecting {
 
     /// Whether a language has a box of its own for the field.
     bool Has_Language(Field field) const {
-        const std::u16string_view prefix = Prefix_Of(field);
-        const auto next = boxes_.lower_bound(prefix);
-        return next != boxes_.end() && next->starts_with(prefix);
+        const auto has_box = [&](std::u16string_view code) {
+            return Has_Box(layout_, Box_Of(field, code));
+        };
+        return std::any_of(Languages.begin(), Languages.end(), has_box) || has_box(Korean);
     }
 
     std::string_view layout_;

@@ -96,6 +96,13 @@ bool Has_Text_Box(std::string_view data, std::string_view name, Pieces::Test tes
     return offset && record::Tail_Length(record::At(data, *offset));
 }
 
+bool Is_Written_Where_It_Is_Read(std::string_view data, std::string_view name, Pieces::Test test,
+                                 std::string_view read_name) {
+    const Pieces pieces(data);
+    const auto read = pieces.Find_Record(data, read_name, Pieces::Test::exact);
+    return read && pieces.Find_Record(data, Writing_Name(name, test), test) == read;
+}
+
 std::string Rewrite_Texts(std::string data, std::span<const std::string> names) {
     Pieces pieces(data);
     for (const std::string& name : names) Write(data, pieces, name, Read(data, pieces, name));

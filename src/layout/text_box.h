@@ -49,6 +49,11 @@ std::string Set_Texts(std::string data, std::span<const BoxText> texts);
 /// Whether `Set_Texts` finds a record for a text of that name and test that can hold one.
 bool Has_Text_Box(std::string_view data, std::string_view name, Pieces::Test test);
 
+/// Whether a text for that name and test is written into the record that `Get_Text` reads for
+/// `read_name`.
+bool Is_Written_Where_It_Is_Read(std::string_view data, std::string_view name, Pieces::Test test,
+                                 std::string_view read_name);
+
 /// Passes each named box once through the writer: its text is read with `Get_Text` and written back
 /// with `Set_Text`, name after name, looking for the data's pieces only once.
 std::string Rewrite_Texts(std::string data, std::span<const std::string> names);
