@@ -22,6 +22,7 @@ import time
 SAMPLES = "samples/seven_languages/arc/"
 BANNER, TEXTURE = SAMPLES + "blyt/banner.brlyt", SAMPLES + "timg/my_Back_logo.tpl"
 CHANNEL, CONFIG = "samples/channel/00000000.app", "cfgs/vcinfopath.cfg"
+SHELF = ["shelf/%02d/banner.brlyt" % number for number in range(20)]
 ERRORS = ("ENOSPC", "EIO", "EACCES", "EDQUOT", "EINTR")
 SIGNALS = ("INT", "TERM", "HUP", "QUIT")
 # As on a card: no second names, no trade of places, no modes.
@@ -35,6 +36,7 @@ SCENARIOS = {
     "logo on a card": (EDIT, [BANNER, TEXTURE], CARD),
     "archive": (("./bannersmith", CHANNEL, *EDIT[1:]), [CHANNEL, CONFIG], ()),
     "configuration": (("./bannersmith", BANNER, "-TITLE", "Swept"), [BANNER, CONFIG], ()),
+    "shelf": (("./bannersmith-edit", "--jobs", "1", "--title", "Swept", *SHELF), SHELF, ()),
     "new scheme": (("./save-scheme", "New"), ["schemes/New.vccs"], ()),
 }
 
@@ -83,9 +85,12 @@ class Scenario:
         seen, signals = collections.Counter(["execve"]), itertools.cycle(SIGNALS)
         for call in self.calls:
             seen[call] += 1
-            errors = () if call in self.failing else ERRORS
-            for effect in ("signal=KILL", "signal=" + next(signals), *("error=" + error for error in errors)):
-                yield call, seen[call], effect
+            errors = () if call in self.failing or self.name == "shelf" else ERRORS
+            yield call, seen[call], "signal=KILL"
+            if self.name != "shelf" or seen[call] % 10 == 0:
+                yield call, seen[call], "signal=" + next(signals)
+            for error in errors:
+                yield call, seen[call], "error=" + error
 
     def try_fault(self, call, ordinal, effect):
         label = "%s_%d_%s" % (call, ordinal, effect)
@@ -104,6 +109,8 @@ class Scenario:
         asked = [file for file in self.replaced if file != CONFIG]
         if any(now[file] not in (self.old[file], new[file]) for file in self.replaced):
             yield "a file is neither the old nor the new one"
+        if any(now[file] != new[file] for file in re.findall(r"^(shelf/\S+): saved", done.stdout.decode(), re.M)):
+            yield "told as saved, and is not"
         if effect == "signal=KILL":
             return
         if effect.startswith("signal="):
@@ -165,7 +172,11 @@ def main():
     with tempfile.TemporaryDirectory() as folder:
         work, base = pathlib.Path(folder), pathlib.Path(folder, "base")
         shutil.copytree(program_folder, base, ignore=shutil.ignore_patterns("bannersmith-*"))
-        shutil.copy(os.path.join(tools_folder, "save-scheme"), base)
+        for tool in os.path.join(tools_folder, "save-scheme"), os.path.join(program_folder, "bannersmith-edit"):
+            shutil.copy(tool, base)
+        for file in SHELF:
+            (base / file).parent.mkdir(parents=True)
+            shutil.copy(base / "samples/german_japanese/arc/blyt/banner.brlyt", base / file)
         (base / CONFIG).write_bytes(b"\\%s\r\n" % BANNER.replace("/", "\\").encode())
         runs = [(s, fault) for s in (Scenario(name, base, work) for name in SCENARIOS) for fault in s.faults()]
         with concurrent.futures.ThreadPoolExecutor(os.cpu_count() * 2) as pool:
