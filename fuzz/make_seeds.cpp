@@ -33,6 +33,8 @@ int main(int argc, char** argv) {
         {"texture/png", Write_Png(picture)},
         {"texture/jpeg", Jpeg_File(picture)},
         {"texture/rgb5a3", Texture_File(TextureFormat::rgb5a3, 9, 7, pixel)},
+        {"recipe/table", "banner;title-ger;color:Back0\r\nx;\"a\"\"b\";010203,040506\r\n"},
+        {"recipe/objects", "[{\"banner\": \"x\", \"text:T_PF\": \"\\u3042\"},\n {\"banner\": \"y\", \"year\": 1990}]"},
         {"scheme/shipped", Format_Scheme(Shipped_Schemes()[1].scheme)}};
     for (const auto& [name, bytes] : seeds) {
         const auto path = std::filesystem::path(argv[1]) / name;

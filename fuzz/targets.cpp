@@ -3,6 +3,8 @@
 
 #include "colors/scheme.h"
 #include "container/archive.h"
+#include "exchange/options.h"
+#include "exchange/recipe.h"
 #include "plain_rules.h"
 #include "texture/fitting.h"
 
@@ -56,6 +58,20 @@ void Require(bool holds) {
 [[maybe_unused]] void Fuzz_scheme(const std::string& bytes) {
     const auto scheme = Parse_Scheme(bytes);
     Require(scheme ? *Parse_Scheme(Format_Scheme(*scheme)) == *scheme : !scheme.Why().reason.empty());
+}
+
+/// Any bytes as a recipe: it ends, and what is wrong is told with its line.
+[[maybe_unused]] void Fuzz_recipe(const std::string& bytes) {
+    RecipeReader rows(bytes);
+    for (std::size_t count = 0; count <= bytes.size(); ++count) {
+        const auto row = rows.Next();
+        if (!row) return Require(row.Why().reason.starts_with("Line ") || row.Why().reason == "Holds no row");
+        if (!*row) return;
+        for (const auto& [option, value] : (*row)->values) static_cast<void>(Read_Wish(option, value, u"/nowhere"));
+        const std::string written = Json_Of((*row)->banner, (*row)->values);
+        Require(static_cast<bool>(RecipeReader(written).Next()));
+    }
+    Require(false);
 }
 
 }  // namespace

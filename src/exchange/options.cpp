@@ -183,10 +183,11 @@ std::u16string On_One_Line(std::u16string_view value) {
 Result<Wish> Read_Named(std::string_view name, std::u16string_view value,
                         const std::u16string& program_folder) {
     const std::size_t colon = std::min(name.find(':'), name.size());
-    const auto [option, language] = Find_Option(name.substr(0, colon));
+    const Named named = Find_Option(name.substr(0, colon));
+    const OptionInfo* const option = named.option;
     if (option == nullptr) return Refused("Is no option");
     if (value.size() > LongestText) return Refused("Is too long");
-    Asked asked{language, On_One_Line(value), program_folder};
+    Asked asked{named.language, On_One_Line(value), program_folder};
     const bool keyed = option->key == OptionKey::box || option->key == OptionKey::element;
     if (!keyed && colon < name.size()) return Refused("Is no option");
     if (keyed && colon < name.size()) asked.key = From_Utf8(name.substr(colon + 1));
