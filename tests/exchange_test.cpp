@@ -90,6 +90,7 @@ TEST_F(Shelves, AreRefusedBeforeAnythingIsTouched) {
     folder.Write("list.json", "{\"banner\": \"a.app\", \"title\": [1]}");
     folder.Write("none.csv", "title\nx\n");
     folder.Write("empty.csv", "banner,title\n,x\n");
+    folder.Write("latin.csv", "banner,title\na.app,caf\xE9\n");
     folder.Write("wide.csv", "banner,title\na.app,x,y\n");
     folder.Write("quote.csv", "banner,title\na.app,\"x\n\n");
     for (const auto& [line, told] :
@@ -120,6 +121,7 @@ TEST_F(Shelves, AreRefusedBeforeAnythingIsTouched) {
           {"--recipe list.json", "2 list.json: Line 1: title is neither text nor whole number"},
           {"--recipe none.csv", "2 none.csv: Line 1: Has no column called banner, or several"},
           {"--recipe empty.csv", "2 empty.csv: Line 2: Names no banner"},
+          {"--recipe latin.csv", "2 latin.csv: Line 2: Is no UTF-8 text"},
           {"--recipe wide.csv", "2 wide.csv: Line 2: Has more cells than columns"},
           {"--recipe quote.csv", "2 quote.csv: Line 2: Quotes are not closed"}}) {
         EXPECT_EQ(Run(line), told);

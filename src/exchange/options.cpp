@@ -187,6 +187,7 @@ Result<Wish> Read_Named(std::string_view name, std::u16string_view value,
     const OptionInfo* const option = named.option;
     if (option == nullptr) return Refused("Is no option");
     if (value.size() > LongestText) return Refused("Is too long");
+    if (!Is_Utf8(value)) return Refused("Is no UTF-8 text");
     Asked asked{named.language, On_One_Line(value), program_folder};
     const bool keyed = option->key == OptionKey::box || option->key == OptionKey::element;
     if (!keyed && colon < name.size()) return Refused("Is no option");

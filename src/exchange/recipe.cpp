@@ -16,6 +16,12 @@ std::size_t Lines_In(std::string_view text) {
     return static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
 }
 
+/// Tables in other encodings are common, and would end as wrong letters in a banner.
+bool Are_Utf8(const std::vector<std::string>& cells) {
+    return std::all_of(cells.begin(), cells.end(),
+                       [](const std::string& cell) { return Is_Utf8(From_Utf8(cell)); });
+}
+
 /// Where the object that begins at `at` ends, behind its brace; nothing where it does not.
 std::optional<std::size_t> End_Of_Object(std::string_view text, std::size_t at) {
     std::size_t depth = 0;
@@ -87,6 +93,7 @@ Result<std::optional<RecipeRow>> RecipeReader::Next_Of_Table() {
         if (!header) return header.Why();
         if (!*header) return Failure{u"", "Holds no row"};
         columns_ = std::move((*header)->cells);
+        if (!Are_Utf8(*columns_)) return In_Line((*header)->line, "Is no UTF-8 text");
         const auto count = std::count(columns_->begin(), columns_->end(), BannerColumn);
         if (count != 1) return In_Line((*header)->line, "Has no column called banner, or several");
     }
@@ -96,6 +103,7 @@ Result<std::optional<RecipeRow>> RecipeReader::Next_Of_Table() {
     RecipeRow row{(*read)->line, {}, {}};
     std::vector<std::string>& cells = (*read)->cells;
     if (cells.size() > columns_->size()) return In_Line(row.line, "Has more cells than columns");
+    if (!Are_Utf8(cells)) return In_Line(row.line, "Is no UTF-8 text");
     for (std::size_t i = 0; i < cells.size(); ++i) {
         if (cells[i].empty()) continue;
         if ((*columns_)[i] == BannerColumn) {
