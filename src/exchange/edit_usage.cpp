@@ -101,7 +101,7 @@ std::string Zsh_Completion(const std::vector<TypedOption>& options) {
     for (const auto& [name, value] : options) {
         const std::string argument =
             value.empty() ? "" : "=:" + std::string(value) + (Takes_File(value) ? ":_files" : ":");
-        script += "    '--" + name + argument + "' \\\n";
+        script.append("    '--").append(name).append(argument).append("' \\\n");
     }
     return script + "    '*:banner:_files'\n";
 }

@@ -36,8 +36,8 @@ std::string Change_Json(const Change& change) {
            Json_String(change.after) + "}";
 }
 
-template <typename Items, typename To_Json>
-std::string Json_Array(const Items& items, To_Json to_json) {
+template <typename Items, typename ToJson>
+std::string Json_Array(const Items& items, ToJson to_json) {
     std::string array;
     for (const auto& item : items) array += (array.empty() ? "" : ", ") + to_json(item);
     return "[" + array + "]";
