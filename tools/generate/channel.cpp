@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <random>
 
+#include "container/archive.h"
 #include "container/md5.h"
 #include "container/part.h"
 #include "generate/animation.h"
@@ -221,6 +223,19 @@ std::string Channel_File(std::string_view build_tag, const ChannelNames& names,
     }
     ByteWriter file;
     return file.Name(build_tag, 64).Bytes(Sealed(block, sizes)).Bytes(archive).Data();
+}
+
+std::string Real_Size_Channel() {
+    std::mt19937 random(1);
+    const auto photograph = [&](int width, int height) {
+        return Texture_File(TextureFormat::rgb565, width, height, [&](int x, int y) {
+            const auto noise = [&] { return static_cast<double>(random() % 1000) / 4000; };
+            return Pixel{noise() + x * 0.5 / width, noise() + y * 0.5 / height, noise() + 0.2, 1};
+        });
+    };
+    const NewFiles pictures = {{"meta/banner.bin/arc/timg/VCPic.tpl", photograph(256, 192)},
+                               {"meta/icon.bin/arc/timg/IconVCPic.tpl", photograph(128, 96)}};
+    return *Archive::Read(Sample_Channel())->With(pictures, {});
 }
 
 }  // namespace bannersmith

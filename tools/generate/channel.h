@@ -31,4 +31,7 @@ std::string Channel_File(std::string_view build_tag, const ChannelNames& names,
 /// silence.
 std::string Sample_Channel();
 
+/// The same with pictures that hardly pack, so that it is as large as channels are.
+std::string Real_Size_Channel();
+
 }  // namespace bannersmith
