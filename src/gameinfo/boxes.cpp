@@ -9,18 +9,6 @@
 
 namespace bannersmith {
 
-namespace {
-
-/// How a name tells its box: neutral ones never stand for one of the language `Korean`.
-Pieces::Test Test_For(std::u16string_view name) {
-    const bool neutral =
-        std::any_of(FieldPrefixes.begin(), FieldPrefixes.end(),
-                    [&](std::u16string_view prefix) { return Neutral_Box(prefix) == name; });
-    return neutral ? Pieces::Test::prefix_not_korean : Pieces::Test::prefix;
-}
-
-}  // namespace
-
 std::u16string Box_Of(Field field, std::u16string_view code) {
     return std::u16string(Prefix_Of(field)).append(code);
 }
@@ -49,7 +37,7 @@ std::string Write_Boxes(std::string layout, const std::vector<NamedText>& texts)
     std::vector<BoxText> boxes;
     for (const NamedText& named : texts) {
         auto bytes = To_Bytes(named.name);
-        if (bytes) boxes.push_back({std::move(*bytes), named.text, Test_For(named.name)});
+        if (bytes) boxes.push_back({std::move(*bytes), named.text, Writing_Test(named.name)});
     }
     return Set_Texts(std::move(layout), boxes);
 }
@@ -66,15 +54,22 @@ std::string Write_Exact_Box(std::string layout, std::u16string_view name,
     return Set_Texts(std::move(layout), {&box, 1});
 }
 
+Pieces::Test Writing_Test(std::u16string_view name) {
+    const bool neutral =
+        std::any_of(FieldPrefixes.begin(), FieldPrefixes.end(),
+                    [&](std::u16string_view prefix) { return Neutral_Box(prefix) == name; });
+    return neutral ? Pieces::Test::prefix_not_korean : Pieces::Test::prefix;
+}
+
 bool Is_Same_Box(std::string_view layout, std::u16string_view name, std::u16string_view read_name) {
     const auto bytes = To_Bytes(name), read_bytes = To_Bytes(read_name);
     return bytes && read_bytes &&
-           Is_Written_Where_It_Is_Read(layout, *bytes, Test_For(name), *read_bytes);
+           Is_Written_Where_It_Is_Read(layout, *bytes, Writing_Test(name), *read_bytes);
 }
 
 bool Has_Box(std::string_view layout, std::u16string_view name) {
     const auto bytes = To_Bytes(name);
-    return bytes && Has_Text_Box(layout, *bytes, Test_For(name));
+    return bytes && Has_Text_Box(layout, *bytes, Writing_Test(name));
 }
 
 bool Has_Exact_Box(std::string_view layout, std::u16string_view name) {

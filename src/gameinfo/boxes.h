@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "layout/pieces.h"
+
 namespace bannersmith {
 
 /// The fields that each language has a box for, in the order in which a save treats them.
@@ -66,6 +68,9 @@ std::string Write_Box(std::string layout, std::u16string_view name, std::u16stri
 /// The same for the box of exactly that name, where `Write_Box` also takes one whose name only
 /// begins with it.
 std::string Write_Exact_Box(std::string layout, std::u16string_view name, std::u16string_view text);
+
+/// How `Write_Box` tells the box of a name: a neutral one never stands for one of `Korean`.
+Pieces::Test Writing_Test(std::u16string_view name);
 
 /// Whether `Write_Box` for `name` takes the very box that `Read_Box` takes for `read_name`.
 bool Is_Same_Box(std::string_view layout, std::u16string_view name, std::u16string_view read_name);

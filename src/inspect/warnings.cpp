@@ -1,12 +1,14 @@
 #include "inspect/warnings.h"
 
 #include <algorithm>
+#include <map>
 #include <span>
 #include <utility>
 
 #include "base/numbers.h"
 #include "base/text.h"
 #include "colors/materials.h"
+#include "gameinfo/boxes.h"
 #include "layout/pieces.h"
 #include "layout/record.h"
 
@@ -128,7 +130,15 @@ std::vector<Warning> Find_Text_Warnings(std::string_view data, const LayoutInfo&
     for (const TextBoxInfo& box : info.boxes) names.push_back(box.name);
     const Pieces pieces(data);
     const auto read = pieces.Find_Records(data, names, Pieces::Test::exact);
-    const auto written = pieces.Find_Records(data, names, Pieces::Test::prefix);
+    auto written = pieces.Find_Records(data, names, Pieces::Test::prefix);
+    std::map<std::string_view, std::optional<std::size_t>> neutral;  // four names at most
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        const auto test = Writing_Test(From_Bytes(names[i]));
+        if (test == Pieces::Test::prefix) continue;
+        const auto [place, fresh] = neutral.try_emplace(names[i]);
+        if (fresh) place->second = pieces.Find_Record(data, names[i], test);
+        written[i] = place->second;
+    }
     for (std::size_t i = 0; i < info.boxes.size() && found.size() <= MostWarnings; ++i) {
         const TextBoxInfo& box = info.boxes[i];
         for (const std::string& fault :
