@@ -335,8 +335,7 @@ TEST_F(Colors, ComeFromTheLayoutOrAScheme) {
           {u"?red; ?green; ?blue; ?swatch", "0, 0, 0, 224|224|224 "},
           {u"?PFLINE; ?T_VCTitle", "53|214|168 14|59|74, 3|8|13 143|240|207"},
           {u"colors 2; ?PFLINE; ?BackMask2", "217|71|90 122|15|28, 22|4|6 58|10|16"},
-          {u"window; ?may; ?scheme", "enabled, Cherry Cola"},
-          {u"window; ?colors; ?PFLINE", "Cherry Cola, 217|71|90 122|15|28"}});
+          {u"window; ?may; ?scheme; window; ?colors", "enabled, Cherry Cola, Cherry Cola"}});
     // A text's colours are those of the language shown, or else those for all; what is missing stays.
     std::vector<Material> materials;
     for (const char* name :
@@ -408,19 +407,19 @@ TEST_F(Colors, AreDrawnInThePreview) {
     const auto& [bar, frame, upper_bar] = drawn.shpPFLine;
     std::string reds;
     float numbers = 0;  // of all places, sizes and fonts: a change of one changes the sum
-    const auto place = [&](const Area& at) { numbers += at.left + 2 * at.top + 3 * at.width + 5 * at.height; };
+    const auto add = [&](const Area& at, float more) {
+        numbers += at.left + 2 * at.top + 3 * at.width + 5 * at.height + more;
+    };
     for (const Shape* shape :
          {&drawn.Shape1, &drawn.shpBack1, &bar, &frame, &upper_bar, &drawn.shpVcPic, &drawn.shpBackMask2}) {
         reds += Red(shape->border) + Red(shape->fill);
-        place(shape->area);
-        numbers += shape->thickness + static_cast<float>(shape->rounded);
+        add(shape->area, shape->thickness + (shape->rounded ? 1 : 0));
     }
-    for (const DrawnLabel* label :
-         {&drawn.lblT_PF, &drawn.lblT_Year, &drawn.lblT_Play, &drawn.lblT_VCTitle, &drawn.lblT_ESRB, &drawn.lblBack1[0],
-          &drawn.lblBack1[1], &drawn.lblBack1[2], &drawn.lblBack1[3]}) {
+    const auto& rows = drawn.lblBack1;
+    for (const DrawnLabel* label : {&drawn.lblT_PF, &drawn.lblT_Year, &drawn.lblT_Play, &drawn.lblT_VCTitle,
+                                    &drawn.lblT_ESRB, &rows[0], &rows[1], &rows[2], &rows[3]}) {
         reds += Red(label->color);
-        place(label->area);
-        numbers += label->font.points + 2 * static_cast<float>(label->alignment) + static_cast<float>(label->wraps);
+        add(label->area, label->font.points + 2 * static_cast<float>(label->alignment) + (label->wraps ? 1 : 0));
     }
     EXPECT_EQ(reds, "0 96 0 49 1 7 1 7 1 7 169 175 0 223 19 151 139 127 163 55 67 79 91 ");
     EXPECT_EQ(numbers, 685221.25);
