@@ -22,18 +22,11 @@ PROGRAMS = ["bannersmith", "bannersmith-edit", "bannersmith-window", "bannersmit
 # break or a | is none.
 SENTENCE = re.compile(r'"((?=[^"]*!")[^"|\\n]*|[A-Z][\w\']*(?:,? [\w\'+.]+){2}[^"|]*|'
                       r' ?[a-z]+(?:,? [a-z]+){3}[^"|]*)"')
-failures = []
 
 
 def read(*path):
     with open(os.path.join(*path), encoding="utf-8") as file:
         return file.read()
-
-
-def check(holds, what):
-    if not holds:
-        failures.append(what)
-        print("FAILED:", what)
 
 
 def run_block(block, folder):
@@ -72,7 +65,7 @@ def schema(sources, folder):
                           ("row", ["./bannersmith-edit", "--export-recipe", "json"])):
         printed = subprocess.run(command + samples, cwd=folder, capture_output=True).stdout.decode()
         found = json.loads(printed if kind != "row" else "[" + ",".join(printed.splitlines()) + "]")
-        check(len(found) == len(samples), "%d of %d are told as %s" % (len(found), len(samples), kind))
+        assert len(found) == len(samples), "%d of %d are told as %s" % (len(found), len(samples), kind)
         for each in found:
             jsonschema.validate(each, {"$ref": "#/$defs/" + kind, "$defs": definitions["$defs"]})
 
@@ -88,11 +81,11 @@ def options(sources, folder, manual):
         if program == "bannersmith-window":  # refers to bannersmith for the options
             shown = {name: argument for name, argument in shown.items() if name.startswith("--")}
         differing = sorted(shown.items() ^ page.items())
-        check(not differing, "%s: --help and man page differ in %s" % (program, differing))
+        assert not differing, "%s: --help and man page differ in %s" % (program, differing)
         for name in shown:
             typed = name.replace("xxx", "[A-Z]{3}").replace("BOX", r"\w+")
             typed = typed.replace("[-LANG]", "(-[a-z]{3})?").replace("-LANG", "-[a-z]{3}")
-            check(re.search(r"^[$>] .*(?<![\w-])" + typed + r"(?![\w-])", manual, re.M), "no example of " + name)
+            assert re.search(r"^[$>] .*(?<![\w-])" + typed + r"(?![\w-])", manual, re.M), "no example of " + name
 
 
 def messages(sources, page):
@@ -104,18 +97,18 @@ def messages(sources, page):
     code = re.sub(r"(?<!:)//.*|#include.*", "", code)
     code = re.sub(r'"\s*\n\s*"', "", code).replace('\\"', "'").replace("\\\\", "\\")  # literals in one piece
     said = {text.strip(" ':") for text in SENTENCE.findall(code) if "\\n" not in text and "NTLG" not in text}
-    check(len(said) > 25, "only %d messages are found in the sources" % len(said))
+    assert len(said) > 25, "only %d messages are found in the sources" % len(said)
     for text in said:
-        check(any(text in message for message in listed) or text.isupper(), "the messages page lacks: " + text)
+        assert any(text in message for message in listed) or text.isupper(), "the messages page lacks: " + text
     for part in {part for each in listed for part in re.split(r'"?\b(?:NUMBER|NAME|REASON|FILE|N)\b"?|\.\.\.', each)}:
-        check(part.strip(" ':") in code, "no program says: " + part)
+        assert part.strip(" ':") in code, "no program says: " + part
 
 
 def main():
     write = "--write" in sys.argv
     sources, *folders = [argument for argument in sys.argv[1:] if argument != "--write"]
     pages = USER_PAGES + glob.glob("tests/documents/*.md", root_dir=sources)
-    check(len(pages) > len(USER_PAGES), "there are pages beside this file")
+    assert len(pages) > len(USER_PAGES), "there are pages beside this file"
     with tempfile.TemporaryDirectory() as work:
         folder = os.path.join(work, "home of \u30d0\u30ca\u30fc")
         for page in pages:
@@ -124,18 +117,16 @@ def main():
                 shutil.copytree(each, folder, dirs_exist_ok=True)
             text = read(sources, page)
             now = re.sub(r"(?<=```console\n).*?(?=```)", lambda match: run_block(match[0], folder), text, flags=re.S)
-            check("\n```console\n" in text, "%s has no example" % page)
+            assert "\n```console\n" in text, "%s has no example" % page
             if write:
                 with open(os.path.join(sources, page), "w", encoding="utf-8") as file:
                     file.write(now)
             changes = difflib.unified_diff(text.split("\n"), now.split("\n"), page, "what it prints now", n=9, lineterm="")
-            check(write or now == text, "\n".join(changes))
+            assert write or now == text, "\n".join(changes)
         options(sources, folder, read(sources, "docs/manual.md"))
         schema(sources, folder)
         messages(sources, read(sources, "docs/messages.md"))
-    print("%d failures" % len(failures))
-    return 1 if failures else 0
 
 
 if __name__ == "__main__":
-    sys.exit(main())
+    main()

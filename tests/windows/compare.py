@@ -23,13 +23,6 @@ EDITS = [
     ["none.brlyt", "-TITLE", "x"],
     ["-TITLE", "The last one used"],
 ]
-failures = []
-
-
-def check(holds, what):
-    if not holds:
-        failures.append(what)
-        print("FAILED:", what)
 
 
 def contents(folder):
@@ -48,9 +41,9 @@ def same_edits(linux, windows):
     for arguments in EDITS:
         expected, _ = run(linux, *('"%s"' % each if " " in each else each for each in arguments))
         status, errors = run(windows, *arguments)
-        check(status == expected, "status %d, not %d: %s" % (status, expected, arguments))
-        check((status == 0) == (errors == ""), "standard error of %s: %s" % (arguments, errors))
-        check(contents(windows) == contents(linux), "the files after %s" % arguments)
+        assert status == expected, "status %d, not %d: %s" % (status, expected, arguments)
+        assert (status == 0) == (errors == ""), "standard error of %s: %s" % (arguments, errors)
+        assert contents(windows) == contents(linux), "the files after %s" % arguments
 
 
 def paths_of_windows(windows):
@@ -61,8 +54,8 @@ def paths_of_windows(windows):
                                   (full, drive, drive.encode())):
         shutil.copy(windows / TWO.replace("\\", "/"), layout)
         status, errors = run(windows, typed, "-TITLE", "Full", "-COLOR", "midnight")
-        check(status == 0 and "Full".encode("utf-16-be") in layout.read_bytes(), typed + ": " + errors)
-        check((windows / "cfgs/vcinfopath.cfg").read_bytes().endswith(stored + b"\r\n"), typed + " is stored otherwise")
+        assert status == 0 and "Full".encode("utf-16-be") in layout.read_bytes(), typed + ": " + errors
+        assert (windows / "cfgs/vcinfopath.cfg").read_bytes().endswith(stored + b"\r\n"), typed + " is stored otherwise"
         layout.unlink()
 
 
@@ -71,22 +64,22 @@ def folder_outside_the_code_page(windows):
     shutil.copytree(windows, folder)
     edit = [SEVEN, "-TITLE", "Anywhere", "-COLOR", "Lagoon", "-LOGO", "Waves.tpl"]
     status, errors = run(folder, *edit)
-    check(status == 0, "a program folder with Japanese letters: " + errors)
+    assert status == 0, "a program folder with Japanese letters: " + errors
     configurations = [(each / "cfgs/vcinfopath.cfg").read_bytes() for each in (folder, windows)]
-    check(configurations[0] == configurations[1], "a path outside the code page is not stored")
+    assert configurations[0] == configurations[1], "a path outside the code page is not stored"
     run(windows, *edit)
-    check(contents(folder) == contents(windows), "the files of a folder with Japanese letters")
+    assert contents(folder) == contents(windows), "the files of a folder with Japanese letters"
 
 
 def file_held_open(windows, hold):
     before = contents(windows)
     held = subprocess.Popen(["wine", hold, SEVEN], cwd=windows, stdin=subprocess.PIPE, stdout=subprocess.PIPE)
-    check(held.stdout.readline().strip() == b"held", "hold-file holds the layout")
+    assert held.stdout.readline().strip() == b"held", "hold-file holds the layout"
     status, errors = run(windows, SEVEN, "-TITLE", "Held", "-LOGO", "Waves.tpl")
-    check(status == 1 and "banner.brlyt: " in errors, "a file that is held open: %d %s" % (status, errors))
-    check(contents(windows) == before, "the files after the save of a held one")
+    assert status == 1 and "banner.brlyt: " in errors, "a file that is held open: %d %s" % (status, errors)
+    assert contents(windows) == before, "the files after the save of a held one"
     held.communicate(b"\n")
-    check(run(windows, SEVEN, "-TITLE", "Held")[0] == 0, "the save after the file was let go")
+    assert run(windows, SEVEN, "-TITLE", "Held")[0] == 0, "the save after the file was let go"
 
 
 def main():
@@ -97,16 +90,15 @@ def main():
         linux, windows = pathlib.Path(work, "linux"), pathlib.Path(work, "windows é")
         shutil.copytree(sys.argv[1], linux)
         shutil.copytree(sys.argv[2], windows)
-        check(contents(windows) == contents(linux), "the samples, schemes and logos")
-        check(len(contents(linux)) > 20, "there are samples, schemes and logos")
-        same_edits(linux, windows)
-        paths_of_windows(windows)
-        folder_outside_the_code_page(windows)
-        file_held_open(windows, os.path.abspath(sys.argv[3]))
-        subprocess.run(["wineserver", "-k"], check=False)
-    print("%d edits compared, %d failures" % (len(EDITS), len(failures)))
-    return 1 if failures else 0
+        assert len(contents(linux)) > 20 and contents(windows) == contents(linux), "the samples, schemes and logos"
+        try:
+            same_edits(linux, windows)
+            paths_of_windows(windows)
+            folder_outside_the_code_page(windows)
+            file_held_open(windows, os.path.abspath(sys.argv[3]))
+        finally:
+            subprocess.run(["wineserver", "-k"], check=False)
 
 
 if __name__ == "__main__":
-    sys.exit(main())
+    main()
