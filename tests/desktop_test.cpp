@@ -129,7 +129,7 @@ TEST_F(Widgets, WriteTheSameBytesAsABatchRun) {
 /// From the channel's file to the channel's file without another tool.
 TEST_F(Widgets, EditAWholeChannel) {
     const Picture sky{640, 448, std::string(std::size_t{640} * 448 * TexelSize, '\x70')};
-    for (const char* name : {"before.app", "c/00000000.app"}) folder.Write(name, Sample_Channel());
+    for (const char* name : {"before.app", "c/00000000.app"}) folder.Write(name, Real_Size_Channel());
     folder.Write("logos/Sky.png", Write_Png(sky));
     folder.Write("game.jpg", Jpeg_File(sky));
     window.RefreshLogoList();

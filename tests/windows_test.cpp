@@ -6,6 +6,7 @@
 #include <variant>
 
 #include "generate/banners.h"
+#include "generate/channel.h"
 #include "generate/layout_builder.h"
 #include "layout/file_length.h"
 #include "layout/text_box.h"
@@ -344,10 +345,12 @@ TEST_F(Colors, ComeFromTheLayoutOrAScheme) {
         materials.push_back({name, {red, -1, 2, 9}, {static_cast<std::int16_t>(256 + red), 3, 4, 9}, -1});
     }
     home.Write("other", Layout_File({Material_Section(materials)}));
+    home.Write("channel", Sample_Channel());
     Walk({{u"language0 1; language1 5; language2 2; language3 3; source \\other; get", ""},
           {u"?T_VCTitle; ?T_Play; ?T_Year", "1|255|2 1|3|4, 3|255|2 3|3|4, 4|255|2 4|3|4"},
           {u"?T_ESRB; ?Shade", "22|4|6 244|185|169, 6|255|2 6|3|4"},
           {u"language0 6; language3 7; get; ?T_VCTitle; ?T_ESRB", "2|255|2 2|3|4, 5|255|2 5|3|4"},
+          {u"source \\channel; get; ?Shade", "3|8|13 7|21|34"},
           {u"source \\none; get", "[File Not Found!]"},
           {u"source \\schemes\\; get", "{HOME\\\\schemes\\: Is a directory}"}});
     EXPECT_EQ(Do(u"?is T_VCTitle_ENG"), "Starlight Courier") << "the layout that is edited is still the same";
