@@ -99,8 +99,8 @@ TEST_F(Shelves, AreRefusedBeforeAnythingIsTouched) {
     EXPECT_EQ(Run("--title x"), "2 No banner is named");
     for (const auto& [recipe, reason] :
          {std::pair<std::string, std::string>{"banner,title\n./a.app,x\n", "2: ./a.app is there twice"},
-          {"\uFEFFbanner;title;year\nneutral;\"x\ny\";1990\nb;;90\n", "4: year \"90\": Is no year, four digits"},
-          {"[{\"banner\": \"neutral\"},\n {\"banner\": \"c\", \"titel\": 1}]", "2: titel \"1\": Is no option"},
+          {"\uFEFFbanner;title;year\r\nneutral;\"\n\";1990\r\nb;;90", "4: year \"90\": Is no year, four digits"},
+          {"\uFEFF[{\"banner\": \"neutral\"},\n {\"banner\": \"c\", \"titel\": 1}]", "2: titel \"1\": Is no option"},
           {"\n{\"banner\": \"b\"", "2: An object does not end"},
           {"{\"banner\": \"b\",\n \"title\": }", "1: Is no JSON: "},
           {"{\"banner\": \"b\", \"title\": [1]}", "1: title is neither text nor whole number"},
