@@ -28,7 +28,6 @@ int main(int argc, char** argv) {
         // Broke the reader once: sections that tell of more materials than they have room for.
         {"layout/many_materials", "x\n" + Layout_File(std::vector(300, "mat1\0\0\0\x0C\xFF\xFF\0\0"s))},
         {"archive/part", Channel_Part(archive)},
-        {"archive/bare", archive},
         {"archive/channel", Channel_File("x", {}, {0, archive.size(), 0}, U8_Archive({{"meta/banner.bin", archive}}))},
         {"texture/png", Write_Png(picture)},
         {"texture/jpeg", Jpeg_File(picture)},

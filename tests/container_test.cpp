@@ -28,8 +28,7 @@ TEST(Md5, IsThatOfRfc1321) {
     EXPECT_EQ(Hex(Md5("")), "d41d8cd98f00b204e9800998ecf8427e");
     EXPECT_EQ(Hex(Md5("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789")),
               "d174ab98d277d9f5a5611c2c9f419d9f");
-    EXPECT_EQ(Hex(Md5("12345678901234567890123456789012345678901234567890123456789012345678901234567890")),
-              "57edf4a22be3c955ac49da2e2107b67a");
+    EXPECT_EQ(Hex(Md5(std::string(1000000, 'a'))), "7707d6ae4e027c70eea2a935c2296f21");
 }
 
 TEST(Lz77, GivesBackWhatWasPacked) {
@@ -42,8 +41,7 @@ TEST(Lz77, GivesBackWhatWasPacked) {
                 const std::string stream = Lz77_Compress(bytes, {true, type});
                 EXPECT_LE(stream.size(), 12 + size + size / 8 + 1);
                 const auto back = Lz77_Decompress(stream + "rest");
-                ASSERT_TRUE(back) << size << " " << kinds << back.Why().reason;
-                ASSERT_TRUE(back->bytes == bytes && back->stream_size == stream.size()) << size << " " << kinds;
+                ASSERT_TRUE(back && back->bytes == bytes && back->stream_size == stream.size()) << size << " " << kinds;
                 for (int edit = 0; edit < 8; ++edit) {  // at the ends, or anywhere, longer or shorter
                     const std::size_t at = edit % 3 == 0 ? 0 : edit % 3 == 1 ? size : random() % (size + 1);
                     std::string changed = bytes;
@@ -96,8 +94,21 @@ TEST(Archive, GivesBackWhatItWasAndKeepsWhatIsNotChanged) {
     const Archive again = *Archive::Read(saved);
     EXPECT_EQ(again.Warnings(), std::vector<std::string>());
     EXPECT_TRUE(again.Layout() == layout + "more");
-    EXPECT_EQ(Stored(again.Parts()[0]).size() % 4, 0U);
     for (const std::size_t part : {1, 2}) EXPECT_TRUE(Stored(again.Parts()[part]) == Stored(archive.Parts()[part]));
+    std::vector<PackedFile> files, parts;  // which the generator, sharing no line with the writer, packs alike
+    ASSERT_TRUE(again.Visit_Files([&](const std::string& path, std::string_view bytes) {
+        if (path.starts_with("meta/banner.bin/")) files.push_back({path.substr(16), std::string(bytes)});
+        return Result<>();
+    }));
+    for (const StoredPart& part : again.Parts()) parts.push_back({part.path, Stored(part)});
+    const std::string content = Open_Part(again.Parts()[0])->content.bytes, packed = parts[0].bytes;
+    EXPECT_TRUE(content == U8_Archive(files) && saved.substr(Outer) == U8_Archive(parts));
+    EXPECT_TRUE(packed.size() % 4 == 0 && Read_U32(packed, 4) == packed.size() - 32);
+    EXPECT_EQ(packed.substr(16, 16), Md5(packed.substr(32)));
+    std::string header = file.substr(0, Outer - 16);
+    Write_U32(header, Block + 0x50, static_cast<std::uint32_t>(content.size()));
+    header += Md5(header.substr(Block) + std::string(16, '\0'));
+    EXPECT_TRUE(saved.substr(0, Outer) == header) << "with another size and checksum alone";
     EXPECT_TRUE(*again.With({{Layout, layout}}, {}) == file) << "the way there and back";
 
     ChannelNames names = *archive.Names();
@@ -118,7 +129,7 @@ TEST(Archive, IsOpenedFromEachShell) {
           Sample_Channel().substr(Block), Sample_Channel().substr(Outer)}) {
         ASSERT_TRUE(Archive::Begins_As_One(shell));
         const auto archive = Archive::Read(shell);
-        ASSERT_TRUE(archive) << archive.Why().reason;
+        ASSERT_TRUE(archive);
         EXPECT_TRUE(archive->Layout() == whole.Layout() && archive->Refusal().empty());
         EXPECT_TRUE(*archive->With({}, {}) == shell);
         const std::string saved = *archive->With({{archive->Layout_Path(), "new"}}, {});
@@ -152,14 +163,11 @@ TEST(Archive, IsSavedRightlyWhereItIsUnusual) {
     const std::string file = Channel_File(
         "", {}, {7, part.size(), 9},
         U8_Archive({{"meta/BANNER.BIN", Channel_Part(part)}, {"meta/sound.bin", "odd"}, {"meta/none", ""}}));
-    const auto read = Archive::Read(file + "!");
-    ASSERT_TRUE(read) << read.Why().reason;
-    const Archive& archive = *read;
+    const Archive archive = *Archive::Read(file + "!");
     EXPECT_EQ(archive.Warnings(), std::vector<std::string>{"U8 archive: bytes other than zero where no file is"});
     EXPECT_EQ(archive.Find_Texture("my_Back"), "meta/BANNER.BIN/ARC/TIMG/MY_BACK.TPL");
     const std::string saved = *archive.With({{archive.Layout_Path(), "short"}}, {});
-    const auto again = Archive::Read(saved);
-    ASSERT_TRUE(again) << again.Why().reason;
+    ASSERT_TRUE(Archive::Read(saved));
     EXPECT_EQ(Sizes_Of(saved.substr(Block)), (PartSizes{7, part.size() - 96, 9})) << "what cannot be told stays";
 }
 
@@ -169,8 +177,7 @@ TEST(Archive, IsRefusedWhereItIsCutOrLeadsOut) {
         const auto archive = Archive::Read(file.substr(0, size));
         ASSERT_TRUE(!archive && !archive.Why().reason.empty()) << size;
     }
-    std::string leading_out = file;
-    leading_out.replace(file.find("meta"), 4, "..\0a"s);
+    const std::string leading_out = std::string(file).replace(file.find("meta"), 4, "..\0a"s);
     std::string twice = file;
     Write_U32(twice, Outer + 0x20 + 3 * 12, Read_U32(file, Outer + 0x20 + 2 * 12));  // a name's place in a node
     EXPECT_EQ(Archive::Read(twice).Why().reason, "U8 archive: meta/banner.bin is there twice");
@@ -193,9 +200,7 @@ TEST(Archive, IsRefusedOrSoundWhateverByteOfItsTablesLies) {
             const std::string reason = archive ? archive->Refusal() : archive.Why().reason;
             ++refused[std::regex_replace(reason, std::regex("U8 archive: |meta[^ ]* ?|\".*\""), "")];
             if (!archive || !archive->Refusal().empty()) continue;
-            const auto saved = archive->With({{archive->Layout_Path(), "new"}}, {});
-            ASSERT_TRUE(saved);
-            const auto again = Archive::Read(*saved);
+            const auto again = Archive::Read(*archive->With({{archive->Layout_Path(), "new"}}, {}));
             ASSERT_TRUE(again && again->Layout() == "new") << at;
         }
     }

@@ -340,7 +340,7 @@ TEST_F(Widgets, KeepTextsAsTheyAre) {
 
 int main(int argc, char** argv) {
     const TempFolder settings;  // the windows' positions of this person must neither matter nor change
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("XDG_CONFIG_HOME", settings.Path().string().c_str());
     QApplication application(argc, argv);
     testing::InitGoogleTest(&argc, argv);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <algorithm>
-#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -31,6 +30,13 @@ inline std::vector<std::string> Split(const std::string& data, const std::string
     }
     pieces.push_back(data.substr(start));
     return pieces;
+}
+
+template <typename Text>
+Text Replaced(Text text, const Text& old, const Text& fresh) {
+    for (std::size_t at = 0; (at = text.find(old, at)) != text.npos; at += fresh.size())
+        text.replace(at, old.size(), fresh);
+    return text;
 }
 
 inline std::string Find(const std::string& data, const std::string& name, const std::string& wanted) {
@@ -67,31 +73,19 @@ inline std::string Set(const std::string& data, std::string name, const std::u16
     Write_U32(fresh, 4, static_cast<std::uint32_t>(fresh.size()));
     Write_U16(fresh, 0x4C, length);
     Write_U16(fresh, 0x4E, length);
-    std::string result;
-    std::size_t start = 0;
-    for (std::size_t at; (at = data.find(old, start)) != data.npos; start = at + old.size()) {
-        result += data.substr(start, at - start) + fresh;
-    }
-    return result + data.substr(start);
-}
-
-template <typename Text>
-Text Replaced(Text text, const Text& old, const Text& fresh) {
-    for (std::size_t at = 0; (at = text.find(old, at)) != text.npos; at += fresh.size())
-        text.replace(at, old.size(), fresh);
-    return text;
+    return Replaced(data, old, fresh);
 }
 
 inline const std::vector<std::string> Codes = Split("ENG|GER|FRA|ITA|SPA|NED|JPN|NONE");
 
-/// The wording of a field ('T'itle, 'Y'ear, 'P'layers, 'E'SRB) with "#" for the value.
+/// The wording of a field ('T'itle, 'Y'ear, 'P'layers, or 'E'SRB) with "#" for the value.
 inline std::u16string Wording(char field, const std::string& code) {
-    static const std::map<char, std::vector<std::string>> Wordings = {
-        {'T', {"#"}},
-        {'Y', Split("Released: #|Erschienen: #|Publié en #|Pubblicato: #|Año: #|Release: #|#年発売")},
-        {'P', Split("Players: #|# Spieler|Joueurs: #|Giocatori: #|Jugadores: #|# speler(s)|プレイ人数\n#人")},
-        {'E', Split("ESRB Rating: #|ESRB Rating: #|Classement ESRB: #")}};
-    const std::vector<std::string>& words = Wordings.at(field);
+    static const std::vector<std::string> Wordings[] = {
+        Split("Released: #|Erschienen: #|Publié en #|Pubblicato: #|Año: #|Release: #|#年発売"),
+        Split("Players: #|# Spieler|Joueurs: #|Giocatori: #|Jugadores: #|# speler(s)|プレイ人数\n#人"),
+        Split("ESRB Rating: #|ESRB Rating: #|Classement ESRB: #"),
+        {"#"}};
+    const std::vector<std::string>& words = Wordings[std::string("YPET").find(field)];
     const auto at = static_cast<std::size_t>(std::find(Codes.begin(), Codes.end(), code) - Codes.begin());
     return From_Utf8(at < words.size() ? words[at] : words[0]);
 }
@@ -100,9 +94,7 @@ inline std::u16string Compose(char field, std::u16string value, const std::strin
     if (value.empty() && field != 'T') value = field == 'P' ? u"2" : u"????";
     if (field == 'P' && value != u"1") value = u"1-" + value;
     if (field == 'P' && code == "JPN") value = Replaced<std::u16string>(value, u"-", u"～");
-    const std::u16string wording = Wording(field, code);
-    const std::size_t at = wording.find(u'#');
-    return wording.substr(0, at) + value + wording.substr(at + 1);
+    return Replaced<std::u16string>(Wording(field, code), u"#", value);
 }
 
 inline std::string Prefix(char field) {
@@ -139,27 +131,21 @@ inline std::string Set_All(std::string data, char field, const std::u16string& v
 /// Red, green and blue of the first and of the second colour.
 using Six = std::vector<int>;
 
-inline std::string Colored(std::string data, std::string name, const Six& six) {
-    name.resize(20, '\0');
-    const std::size_t at = data.find(name);
-    if (at == data.npos || at + 34 > data.size()) return data;
-    for (std::size_t i = 1; i < 13; ++i) data[at + 21 + i] = '\0';
-    for (std::size_t i = 0; i < 6; ++i) data[at + 21 + 2 * i + (i < 3 ? 0 : 2)] = static_cast<char>(six[i]);
-    return data;
-}
-
 inline const std::vector<std::string> Materials = Split(
     "PFLine|T_PF|Shade|Back0|Back1|Back2|Back3|Back4|YearLine|PlayLine|T_VCTitle_|T_Play_|T_Year_|T_ESRB_|VCPic|"
-    "VCPicBase|"
-    "VCPicSha|BackMask1|BackMask2");
+    "VCPicBase|VCPicSha|BackMask1|BackMask2");
 
 /// `scheme`: 19 times six numbers.
 inline std::string Colored(std::string data, const std::vector<Six>& scheme) {
     for (std::size_t i = 0; i < Materials.size(); ++i) {
-        const bool is_text = Materials[i].ends_with('_');
-        if (!is_text) data = Colored(data, Materials[i], scheme[i]);
-        for (std::size_t code = 0; is_text && code < 7; ++code)
-            data = Colored(data, Materials[i] + Codes[code], scheme[i]);
+        for (std::size_t code = 0; code < 7; ++code) {
+            std::string name = Materials[i].ends_with('_') ? Materials[i] + Codes[code] : Materials[i];
+            name.resize(20, '\0');
+            const std::size_t at = data.find(name);
+            if (at == data.npos || at + 34 > data.size()) continue;
+            data.replace(at + 22, 12, 12, '\0');
+            for (std::size_t j = 0; j < 6; ++j) data[at + 21 + 2 * j + j / 3 * 2] = static_cast<char>(scheme[i][j]);
+        }
     }
     return data;
 }
@@ -174,15 +160,9 @@ inline std::string Forced(std::string data, const std::string& region) {
     return data;
 }
 
-inline std::string Trimmed(const std::string& text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    return first == text.npos ? "" : text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
+inline std::string Trimmed(const std::string& text) { return *To_Bytes(Trim(From_Bytes(text))); }
 
-inline std::string Capitals(std::string text) {
-    for (char& c : text) c = c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c;
-    return text;
-}
+inline std::string Capital(const std::string& text) { return *To_Bytes(Capitals(From_Bytes(text))); }
 
 /// What a batch run makes of a file; nothing where it fails. The line has no path, each character of it is a byte, and
 /// every scheme that it names is `scheme`.
@@ -192,7 +172,7 @@ inline std::optional<std::string> Batch(const std::string& file, const std::stri
     const std::string neutral = Neutral(data);
     const std::vector<std::string> pieces = Split(line, "-");
     for (auto piece = pieces.begin() + 1; piece != pieces.end(); ++piece) {
-        const std::string typed = piece->substr(0, piece->find(' ')), word = Capitals(typed), start = word.substr(0, 2);
+        const std::string typed = piece->substr(0, piece->find(' ')), word = Capital(typed), start = word.substr(0, 2);
         const std::string code = word.substr(word.size() - std::min<std::size_t>(word.size(), 3));
         const bool of_a_language = start == "T_" || start == "Y_" || start == "E_";
         const std::size_t skipped = of_a_language ? 6 : word.size() + (word == "FORCE" || start == "H_" ? 0 : 1);
@@ -200,7 +180,7 @@ inline std::optional<std::string> Batch(const std::string& file, const std::stri
         std::string value = Trimmed(piece->substr(skipped));
         if (word != "YEAR") value = Replaced<std::string>(value, "\"", "");
         if (word == "FORCE") {
-            if (std::find(Codes.begin(), Codes.end(), Capitals(value)) != Codes.end()) force = Capitals(value);
+            if (std::find(Codes.begin(), Codes.end(), Capital(value)) != Codes.end()) force = Capital(value);
         } else if (word == "COLOR") {
             data = Colored(data, scheme);
         } else if (word == "TITLE" || word == "YEAR" || word == "PLAY" || word == "ESRB") {
@@ -218,9 +198,8 @@ inline std::optional<std::string> Batch(const std::string& file, const std::stri
     const bool add = pad.starts_with('+');
     if (add) pad.erase(0, 1);
     if ((pad.empty() && add) || pad.find_first_not_of("0123456789") != pad.npos) return std::nullopt;
-    pad = "0" + pad;
-    pad.erase(0, std::min(pad.find_first_not_of('0'), pad.size() - 1));
-    if (pad.size() > 9 || std::stoul(pad) > 268435456) return std::nullopt;
+    const double count = std::strtod(pad.c_str(), nullptr);
+    if (count > 268435456) return std::nullopt;
     for (const std::string& code : Codes) {
         for (const char field : {'T', 'Y', 'P', 'E'})
             data = Set(data, Prefix(field) + code, Get(data, Prefix(field) + code));
@@ -228,7 +207,7 @@ inline std::optional<std::string> Batch(const std::string& file, const std::stri
     data = Set(data, "T_PF", Get(data, "T_PF"));
     Write_U32(data, 8, static_cast<std::uint32_t>(data.size()));
     data = Forced(data, force);
-    const std::size_t wanted = std::stoul(pad) + (add ? data.size() : 0);
+    const std::size_t wanted = static_cast<std::size_t>(count) + (add ? data.size() : 0);
     return data + std::string(std::max(wanted, data.size()) - data.size(), '\0');
 }
 

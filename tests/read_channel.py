@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""read_channel.py BEFORE AFTER FILE...: reads two channel files, sharing nothing with the editor, and fails unless in
-AFTER all checksums, sizes and places hold and exactly the FILEs differ from BEFORE ("names" stands for the header's
-names). Of a part without any of them the stored bytes are the same."""
+# read_channel.py BEFORE AFTER FILE...: reads two channel files, sharing nothing with the editor, and fails unless in
+# AFTER all checksums, sizes and places hold and exactly the FILEs differ from BEFORE ("names" stands for the header's
+# names). Of a part without any of them the stored bytes are the same.
 import hashlib
 import struct
 import sys
@@ -16,8 +16,8 @@ def check(holds, what):
         sys.exit("read_channel: " + what)
 
 
+# The bytes of an archive's files by their paths, in order; every byte of it is accounted for.
 def u8(data):
-    """The bytes of an archive's files by their paths, in order; every byte of it is accounted for."""
     count, end = word(data, 0x28), 0x20 + word(data, 8)
     names, place = 0x20 + 12 * count, (end + 31) // 32 * 32
     check(data[:8] == b"U\xaa8-\0\0\0 " and word(data, 12) == place, "U8 header")
@@ -38,8 +38,8 @@ def u8(data):
     return files
 
 
+# What an IMD5 header and LZ77 of type 0x10 hold.
 def unpacked(part, name):
-    """What an IMD5 header and LZ77 of type 0x10 hold."""
     check(part[:4] == b"IMD5" and word(part, 4) == len(part) - 32, name + ": IMD5 length")
     check(hashlib.md5(part[32:]).digest() == part[16:32], name + ": IMD5 checksum")
     if part[32:36] != b"LZ77":
@@ -61,8 +61,8 @@ def unpacked(part, name):
     return bytes(out)
 
 
+# The names, the stored parts, and every file by its path.
 def channel(path):
-    """The names, the stored parts, and every file by its path."""
     with open(path, "rb") as file:
         data = file.read()
     header = data[0x40:0x640]

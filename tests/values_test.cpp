@@ -20,8 +20,8 @@ TEST(Text, SurvivesTheWayThroughUtf8) {
     EXPECT_EQ(To_Utf8(u"a\xD800z"), "a\xEF\xBF\xBDz");
     EXPECT_EQ(To_Bytes(From_Bytes("\xFF\x41")), "\xFF\x41");
     EXPECT_EQ(To_Bytes(u"\u0100"), std::nullopt);
-    EXPECT_EQ(Trim(u"  \ta b  "), u"\ta b");
-    EXPECT_EQ(Capitals(u"aZz\u00E9_9"), u"AZZ\u00E9_9");
+    EXPECT_TRUE(Trim(u"  \ta b  ") == u"\ta b" && Trim(u"  ").empty() && Trim(u"").empty());
+    EXPECT_EQ(Capitals(u"`aZz{\u00E9_9"), u"`AZZ{\u00E9_9");
     EXPECT_EQ(Replace_All(u"aaa", u"aa", u"b"), u"ba");
 }
 
@@ -38,25 +38,22 @@ TEST(BareValue, IsTakenOutOfAnyText) {
         {u"x^1～2人^y", u"2人^y", u"2", u""},        {u"x^", u"x^", u"", u""},
         {u"x y^1～2人", u"1～2人", u"x", u""},       {u"a:  \tE10+ ", u"10+ ", u"+", u"\tE10+"}};
     for (const auto& [text, year, players, rating] : rows) {
-        EXPECT_EQ(Bare_Value(Field::year, text, u"ENG"), year) << To_Utf8(text);
-        EXPECT_EQ(Bare_Value(Field::players, text, u"ENG"), players) << To_Utf8(text);
-        EXPECT_EQ(Bare_Value(Field::rating, text, u"ENG"), rating) << To_Utf8(text);
-        EXPECT_EQ(Bare_Value(Field::title, text, u"ENG"), text);
+        const auto bare = [&](Field field) { return Bare_Value(field, text, u"ENG"); };
+        EXPECT_TRUE(bare(Field::year) == year && bare(Field::players) == players) << To_Utf8(text);
+        EXPECT_TRUE(bare(Field::rating) == rating && bare(Field::title) == text) << To_Utf8(text);
     }
 }
 
 TEST(Scheme, IsReadWholeOrRefused) {
     // So many nines, what stands between them, what stands behind them, and the reason to refuse it all.
     const std::tuple<int, std::string, std::string, std::string> rows[] = {
-        {114, " , ", "", ""},
-        {114, ",\r\n", " and more", ""},
+        {114, " ,\r\n", " and more", ""},
         {113, "\r", "255", ""},
         {113, " ", " \r\n,", "ends after 113 of 114 numbers"},
         {113, " ", "256", "BackMask2: 256 is not between 0 and 255"},
         {113, " ", "-1", "BackMask2: -1 is not between 0 and 255"},
         {113, " ", "99999999999999999999", "BackMask2: 99999999999999999999 is not between 0 and 255"},
         {0, "", "5,,", "PFLINE: \"\" is not a whole number"},
-        {2, "\t", "", "PFLINE: \"9\t9\t\" is not a whole number"},
         {13, " ", "1.5", "Shade: \"1.5\" is not a whole number"},
         {2, " ", "+7 +-0", "PFLINE: \"+-0\" is not a whole number"}};
     for (const auto& [count, between, rest, reason] : rows) {
@@ -81,8 +78,7 @@ TEST(Gradients, FadeBandByBand) {
     ASSERT_EQ(surface.Painted().size(), 4U);
     const FilledRectangle& second = surface.Painted()[1];
     EXPECT_EQ(second.color, Make_Color(151, 10, 24)) << "rounded towards the first";
-    EXPECT_EQ(std::vector<float>({second.x1, second.y1, second.x2, second.y2}),
-              std::vector<float>({150, 20, 200, 500}));
+    EXPECT_EQ((std::array{second.x1, second.y1, second.x2, second.y2}), (std::array{150.F, 20.F, 200.F, 500.F}));
 }
 
 TEST(Controls, RaiseTheirEventsInTheCall) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <new>
+#include <system_error>
 #include <thread>
 
 #include "banner/effect.h"
@@ -287,15 +288,23 @@ Shelf::Shelf(ShelfOptions options, Source source, Listener listener)
     : options_(std::move(options)), source_(std::move(source)), listener_(std::move(listener)) {}
 
 bool Shelf::Run() {
+    auto first = Take_Group();
     std::vector<std::thread> threads;
-    for (unsigned i = 1; i < options_.threads; ++i) threads.emplace_back([this] { Work(); });
-    Work();
+    threads.reserve(options_.threads);
+    try {
+        while (!at_end_ && threads.size() + 1 < options_.threads) {
+            threads.emplace_back([this] { Work(Take_Group()); });
+        }
+    } catch (const std::system_error&) {
+        // The system has no more of them; those that there are do the work.
+    }
+    Work(std::move(first));
     for (std::thread& thread : threads) thread.join();
     return !interrupted_;
 }
 
-void Shelf::Work() {
-    for (auto jobs = Take_Group(); !jobs.empty(); jobs = Take_Group()) {
+void Shelf::Work(std::vector<ShelfJob> jobs) {
+    for (; !jobs.empty(); jobs = Take_Group()) {
         try {
             Tell(Group(options_, jobs).Run());
         } catch (const std::bad_alloc&) {

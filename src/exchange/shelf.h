@@ -1,6 +1,7 @@
 // Many banners, edited and saved in groups that share the waits for the disk.
 #pragma once
 
+#include <atomic>
 #include <functional>
 #include <mutex>
 #include <optional>
@@ -62,7 +63,7 @@ class Shelf {
 
  private:
     class Group;
-    void Work();
+    void Work(std::vector<ShelfJob> jobs);
     std::vector<ShelfJob> Take_Group();
     void Tell(const std::vector<Outcome>& outcomes);
 
@@ -70,7 +71,8 @@ class Shelf {
     Source source_;
     Listener listener_;
     std::mutex mutex_;  ///< of the source, the listener, and what follows
-    bool interrupted_ = false, at_end_ = false;
+    bool interrupted_ = false;
+    std::atomic<bool> at_end_ = false;
 };
 
 }  // namespace bannersmith

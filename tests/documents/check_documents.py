@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
-"""check_documents.py [--write] SOURCES PROGRAM-FOLDER [FOLDER...]: what the pages say is what the programs do. Runs each
-example of the manual, the messages page and the pages beside this file in a copy of the program folder, with what the
-other folders hold laid over it, and compares what it prints; option by option compares --help with the man pages and
-the manual, and the messages page with the messages in the sources. With --write the examples' outputs are put into the
-pages in place of being compared."""
+# check_documents.py [--write] SOURCES PROGRAM-FOLDER [FOLDER...]: what the pages say is what the programs do. Runs each
+# example of the manual, the messages page and the pages beside this file in a copy of the program folder, with what the
+# other folders hold laid over it, and compares what it prints; option by option compares --help with the man pages and
+# the manual, and the messages page with the messages in the sources. With --write the examples' outputs are put into the
+# pages in place of being compared.
 import difflib
 import glob
 import json
@@ -29,8 +29,8 @@ def read(*path):
         return file.read()
 
 
+# The lines of a console block with what its commands print now.
 def run_block(block, folder):
-    """The lines of a console block with what its commands print now."""
     lines = []
     for command in re.findall(r"^\$ (.*(?:\n>(?: .*)?)*)\n", block, re.M):
         done = subprocess.run(["bash", "-c", re.sub(r"\n> ?", "\n", command)], cwd=folder, stdout=subprocess.PIPE,
@@ -39,8 +39,8 @@ def run_block(block, folder):
     return "".join(lines)
 
 
+# The options of --help by name, with their arguments; "-2, -3" are two.
 def help_options(text):
-    """The options of --help by name, with their arguments; "-2, -3" are two."""
     found = {name: "" for name in re.findall(r"(?<![\w-])--[a-z]+(?:-[a-z]+)*(?![\w\[-])", text)}
     for names, argument in re.findall(r"^  (-[^\s,]+(?:, -[^\s,]+)*)((?: (?:[A-Z]+|xxx))?) +", text, re.M):
         found.update({name: argument.strip().lower() for name in names.split(", ")})
@@ -56,8 +56,8 @@ def man_options(text):
     return found
 
 
+# What the programs write as JSON is as the schema says.
 def schema(sources, folder):
-    """What the programs write as JSON is as the schema says."""
     definitions = json.loads(read(sources, "docs", "banner.schema.json"))
     samples = ["samples/channel/00000000.app", *glob.glob("samples/*/arc/blyt/*.brlyt", root_dir=folder)]
     for kind, command in (("inspection", ["./bannersmith-inspect", "--json"]),

@@ -1,11 +1,10 @@
 #!/usr/bin/env python3
-"""card.py PROGRAM-FOLDER TOOLS-FOLDER: saves on a FAT32 card and looks at what a reader finds on it after each single
-write that the card received, as if it had been pulled out there.
-
-The file system's driver may be missing here, and mounting needs rights, so the card is in a Linux of its own that runs as
-an ordinary program (Debian's user-mode-linux, with this system's files as its own). Without it the test says so and exits
-with 77, which counts as skipped.
-"""
+# card.py PROGRAM-FOLDER: saves on a FAT32 card and looks at what a reader finds on it after each single
+# write that the card received, as if it had been pulled out there.
+#
+# The file system's driver may be missing here, and mounting needs rights, so the card is in a Linux of its own that runs as
+# an ordinary program (Debian's user-mode-linux, with this system's files as its own). Without it the test says so and exits
+# with 77, which counts as skipped.
 import collections
 import ctypes
 import os
@@ -25,7 +24,7 @@ MARK, SECTOR = 8, 512
 VFAT = "iocharset=ascii"
 
 BANNER, TEXTURE = "samples/seven_languages/arc/blyt/banner.brlyt", "samples/seven_languages/arc/timg/my_Back_logo.tpl"
-FILES = (BANNER, TEXTURE, "cfgs/vcinfopath.cfg", "schemes/Midnight.vccs", "schemes/New.vccs")
+FILES = (BANNER, TEXTURE, "cfgs/vcinfopath.cfg", "schemes/new.brlyt")
 
 # What is run one after the other, and its status.
 RUNS = (
@@ -33,8 +32,8 @@ RUNS = (
     (["./bannersmith", "-LOGO", "Waves.tpl", "-TITLE", "The second", "-PAD", "40000"], 0),
     (["./bannersmith", "-LOGO", "Comet.tpl", "-COLOR", "Nothing"], 1),
     (["./bannersmith", "-TITLE", "The third", "-PAD", "0"], 0),
-    (["./save-scheme", "New"], 0),
-    (["./save-scheme", "Midnight"], 0),
+    (["./bannersmith-edit", BANNER, "--title", "The fourth", "--output", "schemes/new.brlyt"], 0),
+    (["./bannersmith-edit", "schemes/new.brlyt", BANNER, "--title", "The fifth"], 0),
 )
 
 
@@ -47,16 +46,16 @@ def mount(kind, what, where, options="rw"):
     run("mount", "-t", kind, "-o", options, what, where)
 
 
+# The file's bytes, None where there is none or it cannot be read whole.
 def content(file):
-    """The file's bytes, None where there is none or it cannot be read whole."""
     try:
         return file.read_bytes()
     except OSError:
         return None
 
 
+# What the device received, in order: (sector, flags, data).
 def log_entries(log):
-    """What the device received, in order: (sector, flags, data)."""
     magic, _, count, size = struct.unpack_from("<QQQI", log)
     assert magic == 0x6A736677736872 and size == SECTOR, "no log"
     at = SECTOR
@@ -67,8 +66,8 @@ def log_entries(log):
         at = end
 
 
-def record(work, program_folder, tools_folder):
-    """Makes the runs on a card; returns the card before them, what it received, and the files after each run."""
+# Makes the runs on a card; returns the card before them, what it received, and the files after each run.
+def record(work, program_folder):
     card, log, folder = work / "card.img", work / "log.img", work / "card"
     run("truncate", "-s", "40M", card)
     run("truncate", "-s", "100M", log)
@@ -76,8 +75,7 @@ def record(work, program_folder, tools_folder):
     devices = [run("losetup", "-f", "--show", path).strip() for path in (card, log)]
     mount("vfat", devices[0], folder, VFAT)
     shutil.copytree(program_folder, folder, dirs_exist_ok=True, copy_function=shutil.copyfile,
-                    ignore=shutil.ignore_patterns("bannersmith-*"))
-    shutil.copyfile(tools_folder + "/save-scheme", folder / "save-scheme")
+                    ignore=shutil.ignore_patterns("bannersmith-[itw]*"))
     run("umount", folder)
     before = card.read_bytes()
 
@@ -94,8 +92,8 @@ def record(work, program_folder, tools_folder):
     return before, log_entries(log.read_bytes()), states
 
 
+# Looks at the card after each write, until the last run has ended.
 def check(work, card, entries, states):
-    """Looks at the card after each write, until the last run has ended."""
     path, folder = work / "pulled.img", work / "pulled"
     path.write_bytes(card)
     writes, ended, wrong = 0, 0, collections.Counter()
@@ -121,15 +119,15 @@ def check(work, card, entries, states):
     return not wrong and writes > 30
 
 
-def inside(program_folder, tools_folder, work):
-    """The first process of the Linux that has the card."""
+# The first process of the Linux that has the card.
+def inside(program_folder, work):
     os.environ["PATH"] = "/usr/sbin:/usr/bin:/sbin:/bin"
     memory = pathlib.Path(work, "memory")
     for kind, where in (("proc", pathlib.Path("/proc")), ("sysfs", pathlib.Path("/sys")), ("tmpfs", memory)):
         mount(kind, kind, where)
     for module in MODULES:  # mounting tells what could not be loaded
         subprocess.run(["insmod", "/usr/lib/uml/modules/%s/kernel/%s.ko" % (os.uname().release, module)], check=False)
-    if check(memory, *record(memory, program_folder, tools_folder)):
+    if check(memory, *record(memory, program_folder)):
         pathlib.Path(work, "passed").touch()
 
 
@@ -146,10 +144,10 @@ def main():
     if missing:
         print("SKIPPED: no card without " + ", ".join(missing))
         return 77
-    folders = [os.path.abspath(folder) for folder in sys.argv[1:]]
-    with tempfile.TemporaryDirectory(dir=folders[1]) as work:
+    program_folder = os.path.abspath(sys.argv[1])
+    with tempfile.TemporaryDirectory(dir=os.path.dirname(program_folder)) as work:
         start, passed = pathlib.Path(work, "start"), pathlib.Path(work, "passed")
-        command = [sys.executable, os.path.abspath(__file__), "--inside", *folders, work]
+        command = [sys.executable, os.path.abspath(__file__), "--inside", program_folder, work]
         start.write_text("#!/bin/sh\nexec " + shlex.join(command))
         start.chmod(0o755)
         subprocess.run(["linux.uml", "mem=512M", "root=/dev/root", "rootfstype=hostfs", "rw", "init=%s" % start, "quiet",

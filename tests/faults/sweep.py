@@ -1,10 +1,8 @@
 #!/usr/bin/env python3
-"""sweep.py PROGRAM-FOLDER TOOLS-FOLDER: kills the program before each of its file calls, interrupts it there by a signal
-and makes each call fail, and looks at what is on disk afterwards; also with two runs at once.
-
-PROGRAM-FOLDER: where bannersmith and the samples are. TOOLS-FOLDER: where save-scheme is. Needs strace, whose fault
-injection does the work.
-"""
+# sweep.py PROGRAM-FOLDER: kills the program before each of its file calls, interrupts it there by a signal
+# and makes each call fail, and looks at what is on disk afterwards; also with two runs at once.
+#
+# PROGRAM-FOLDER: where the programs and the samples are. Needs strace, whose fault injection does the work.
 import collections
 import concurrent.futures
 import fcntl
@@ -37,12 +35,12 @@ SCENARIOS = {
     "archive": (("./bannersmith", CHANNEL, *EDIT[1:]), [CHANNEL, CONFIG], ()),
     "configuration": (("./bannersmith", BANNER, "-TITLE", "Swept"), [BANNER, CONFIG], ()),
     "shelf": (("./bannersmith-edit", "--jobs", "1", "--title", "Swept", *SHELF), SHELF, ()),
-    "new scheme": (("./save-scheme", "New"), ["schemes/New.vccs"], ()),
+    "new file": (("./bannersmith-edit", BANNER, "--quiet", "--title", "x", "--output", "new.brlyt"), ["new.brlyt"], ()),
 }
 
 
+# Each file's bytes, None where there is none.
 def contents(folder, files):
-    """Each file's bytes, None where there is none."""
     return {file: (folder / file).read_bytes() if (folder / file).exists() else None for file in files}
 
 
@@ -50,9 +48,9 @@ def files_of(folder):
     return {str(path.relative_to(folder)) for path in folder.rglob("*") if path.is_file()}
 
 
+# A program is linked: one that is being written cannot be run, and threads that start processes meanwhile would
+# hand on the descriptor that it is written through.
 def copy_file(source, target):
-    """A program is linked: one that is being written cannot be run, and threads that start processes meanwhile would
-    hand on the descriptor that it is written through."""
     (os.link if os.access(source, os.X_OK) else shutil.copy2)(source, target)
 
 
@@ -80,8 +78,8 @@ class Scenario:
         command = ["strace", "-qq", "-o", trace, *self.conditions, "-e", expression, *self.command]
         return subprocess.run(command, cwd=folder, capture_output=True, timeout=60)
 
+    # Each call by its name and its ordinal among those of the name, killed once and failing in each way.
     def faults(self):
-        """Each call by its name and its ordinal among those of the name, killed once and failing in each way."""
         seen, signals = collections.Counter(["execve"]), itertools.cycle(SIGNALS)
         for call in self.calls:
             seen[call] += 1
@@ -127,14 +125,14 @@ class Scenario:
         stays = self.conditions and call in ("fsync", "openat") and "Written, but not safe" in errors
         if status > 0 and not stays and any(now[file] != self.old[file] for file in asked):
             yield "says failed (%s), but a file is new" % errors.strip()
-        if status > 0 and not re.search(r"^bannersmith: .+: .+$", errors, re.M):
+        if status > 0 and not re.search(r"^bannersmith(-edit)?: .+: .+$", errors, re.M):
             yield "no message: status %d, %r" % (status, errors)
         if status == 0 and call == "fsync" and effect != "error=EINTR" and CONFIG not in self.replaced:
             yield "says done, but it is not safe from a power failure"
 
 
+# Neither of two runs loses what the other wrote, whichever is first, nor takes its files away.
 def two_at_once(base):
-    """Neither of two runs loses what the other wrote, whichever is first, nor takes its files away."""
     old = files_of(base)
     for number in range(150):
         commands = (["-T_ENG", "one%d" % number, "-LOGO", "Comet.tpl"], ["-T_GER", "two%d" % number],
@@ -148,8 +146,8 @@ def two_at_once(base):
             yield "two runs at once: %s, %s, %s, %s" % (statuses, kept, logo, sorted(files_of(base) ^ old))
 
 
+# Folders that stay held are told in time.
 def refused(base):
-    """Folders that stay held are told in time."""
     start = time.monotonic()
     holder = os.open((base / BANNER).parent, os.O_RDONLY)
     fcntl.flock(holder, fcntl.LOCK_EX)
@@ -162,12 +160,9 @@ def refused(base):
 
 
 def main():
-    program_folder, tools_folder = sys.argv[1:]
     with tempfile.TemporaryDirectory() as folder:
         work, base = pathlib.Path(folder), pathlib.Path(folder, "base")
-        shutil.copytree(program_folder, base, ignore=shutil.ignore_patterns("bannersmith-*"))
-        for tool in os.path.join(tools_folder, "save-scheme"), os.path.join(program_folder, "bannersmith-edit"):
-            shutil.copy(tool, base)
+        shutil.copytree(sys.argv[1], base, ignore=shutil.ignore_patterns("bannersmith-[itw]*"))
         for file in SHELF:
             (base / file).parent.mkdir(parents=True)
             shutil.copy(base / "samples/german_japanese/arc/blyt/banner.brlyt", base / file)

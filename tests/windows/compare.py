@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""compare.py LINUX-FOLDER WINDOWS-FOLDER HOLD-FILE: the programs for Windows, run with wine, write the same bytes as those
-for Linux, and do what only Windows asks of them. The first two are program folders, the last one hold-file.exe."""
+# compare.py LINUX-FOLDER WINDOWS-FOLDER HOLD-FILE: the programs for Windows, run with wine, write the same bytes as those
+# for Linux, and do what only Windows asks of them. The first two are program folders, the last one hold-file.exe.
 import os
 import pathlib
 import shutil
@@ -30,8 +30,8 @@ def contents(folder):
             for path in (folder / part).rglob("*") if path.is_file()}
 
 
+# Status and messages of the program in the folder.
 def run(folder, *arguments):
-    """Status and messages of the program in the folder."""
     program = ["wine", folder / "bannersmith.exe"] if (folder / "bannersmith.exe").exists() else [folder / "bannersmith"]
     done = subprocess.run([*program, *arguments], cwd=folder, capture_output=True, timeout=120)
     return done.returncode, done.stderr.decode("utf-8")
@@ -46,8 +46,8 @@ def same_edits(linux, windows):
         assert contents(windows) == contents(linux), "the files after %s" % arguments
 
 
+# A name outside ASCII, stored in the code page; a drive letter; a scheme in other letters.
 def paths_of_windows(windows):
-    """A name outside ASCII, stored in the code page; a drive letter; a scheme in other letters."""
     full = windows.with_name("full.brlyt")
     drive = "Z:" + str(full).replace("/", "\\")
     for layout, typed, stored in ((windows / "samples/Café.brlyt", r"samples\Café.brlyt", b"\\samples\\Caf\xe9.brlyt"),
