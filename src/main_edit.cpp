@@ -40,21 +40,23 @@ class Teller {
     }
 
     void Take(const Outcome& outcome) {
-        ++done_;
-        failed_ = failed_ || outcome.status == Outcome::Status::failed;
+        const bool failed = outcome.status == Outcome::Status::failed;
+        ++told_;
+        done_ += failed ? 0 : 1;
+        failed_ = failed_ || failed;
         const std::string trouble = Trouble_Lines(outcome);
         if (!trouble.empty()) {
             Clear_Progress();
             Print(trouble, stderr);
         }
         if (command_.json) {
-            Write((done_ == 1 ? "" : ",\n ") + Outcome_Json(outcome));
+            Write((told_ == 1 ? "" : ",\n ") + Outcome_Json(outcome));
         } else if (!command_.quiet || command_.diff) {
             Write(Outcome_Lines(outcome, command_.diff));
         }
         if (shows_progress_) {
             const auto elapsed = std::chrono::steady_clock::now() - begin_;
-            Print("\r\x1B[K" + Progress_Line(done_, all_, elapsed), stderr);
+            Print("\r\x1B[K" + Progress_Line(told_, all_, elapsed), stderr);
         }
     }
 
@@ -81,7 +83,7 @@ class Teller {
     const std::size_t all_;
     const bool shows_progress_;
     const std::chrono::steady_clock::time_point begin_ = std::chrono::steady_clock::now();
-    std::size_t done_ = 0;
+    std::size_t told_ = 0, done_ = 0;
     bool failed_ = false, written_ = true;
 };
 

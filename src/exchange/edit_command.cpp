@@ -28,6 +28,11 @@ std::vector<std::string> For_The_Parser(const std::vector<std::u16string>& argum
             std::any_of(options.begin(), options.end(), [&](const TypedOption& each) {
                 return name == "--" + each.name && !each.value.empty();
             });
+        const bool is_flag = !takes_value && argument.starts_with("--") && name.size() > 2;
+        if (is_flag && name.size() < argument.size()) {
+            throw CLI::ArgumentMismatch(name + " takes no value, or is no option",
+                                        CLI::ExitCodes::ArgumentMismatch);
+        }
         if (!takes_value) {
             joined.push_back(argument);
         } else if (name.size() < argument.size()) {

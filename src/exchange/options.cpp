@@ -129,7 +129,7 @@ Read Take_Name(const Asked& asked) {
 }
 
 Read Take_Export(const Asked& asked) {
-    if (asked.value.empty()) return Refused("Is empty");
+    if (!Capitals(asked.value).ends_with(u".PNG")) return Refused("Is no name that ends in .png");
     return Wanted(ExportPicture{asked.value});
 }
 
@@ -176,8 +176,10 @@ Named Find_Option(std::string_view name) {
     return {};
 }
 
-std::u16string On_One_Line(std::u16string_view value) {
-    return Replace_All(Replace_All(Replace_All(value, u"\r\n", u"^"), u"\n", u"^"), u"\r", u"^");
+/// Lines of a cell are lines of a box. A name has none.
+std::u16string In_One_Line(const OptionInfo& option, std::u16string_view value) {
+    if (option.name == "name" || option.name == "subtitle") return std::u16string(value);
+    return Replace_All(Replace_All(value, u"\r\n", u"^"), u"\n", u"^");
 }
 
 Result<Wish> Read_Named(std::string_view name, std::u16string_view value,
@@ -188,7 +190,8 @@ Result<Wish> Read_Named(std::string_view name, std::u16string_view value,
     if (option == nullptr) return Refused("Is no option");
     if (value.size() > LongestText) return Refused("Is too long");
     if (!Is_Utf8(value)) return Refused("Is no UTF-8 text");
-    Asked asked{named.language, On_One_Line(value), program_folder};
+    if (value.find(u'\0') != value.npos) return Refused("Holds a zero character");
+    Asked asked{named.language, In_One_Line(*option, value), program_folder};
     const bool keyed = option->key == OptionKey::box || option->key == OptionKey::element;
     if (!keyed && colon < name.size()) return Refused("Is no option");
     if (keyed && colon < name.size()) asked.key = From_Utf8(name.substr(colon + 1));
@@ -206,6 +209,13 @@ Result<Wish> Read_Named(std::string_view name, std::u16string_view value,
 }
 
 }  // namespace
+
+bool Is_Option(std::string_view name) {
+    const std::size_t colon = std::min(name.find(':'), name.size());
+    const OptionInfo* const option = Find_Option(name.substr(0, colon)).option;
+    return option != nullptr && (colon == name.size() || option->key == OptionKey::box ||
+                                 option->key == OptionKey::element);
+}
 
 Result<Wish> Read_Wish(std::string_view name, std::u16string_view value,
                        const std::u16string& program_folder) {

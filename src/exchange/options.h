@@ -26,6 +26,9 @@ struct Wish {
     Wanted what;
 };
 
+/// Whether an option or column, without hyphens, can be meant: "title-ger", "text:BOX".
+bool Is_Option(std::string_view name);
+
 /// The wish of an option or column without hyphens, "title-ger" or "text:BOX". Line breaks of the
 /// value become "^". A scheme file is read here, so that one that is wrong stops everything before
 /// it begins; a logo or picture is read for each banner. Fails, with the option as the subject, for

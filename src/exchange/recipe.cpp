@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <nlohmann/json.hpp>
+#include <set>
 
 #include "base/text.h"
+#include "exchange/options.h"
 #include "inspect/report.h"
 
 namespace bannersmith {
@@ -20,6 +22,13 @@ std::size_t Lines_In(std::string_view text) {
 bool Are_Utf8(const std::vector<std::string>& cells) {
     return std::all_of(cells.begin(), cells.end(),
                        [](const std::string& cell) { return Is_Utf8(From_Utf8(cell)); });
+}
+
+/// As spreadsheets leave behind the last row.
+bool Is_Blank(const std::vector<std::string>& cells) {
+    return std::all_of(cells.begin(), cells.end(), [](const std::string& cell) {
+        return cell.find_first_not_of(Blanks) == cell.npos;
+    });
 }
 
 /// Where the object that begins at `at` ends, behind its brace; nothing where it does not.
@@ -52,11 +61,20 @@ std::optional<std::u16string> Text_Of_Value(const nlohmann::ordered_json& value)
 
 Result<RecipeRow> Row_Of_Object(std::string_view text, std::size_t line) {
     nlohmann::ordered_json object;
+    std::set<std::string> keys;
+    std::string twice;
+    const auto note_key = [&](int depth, nlohmann::ordered_json::parse_event_t event,
+                              nlohmann::ordered_json& parsed) {
+        const bool is_key = event == nlohmann::ordered_json::parse_event_t::key && depth == 1;
+        if (is_key && !keys.insert(parsed.get<std::string>()).second) twice = parsed;
+        return true;
+    };
     try {
-        object = nlohmann::ordered_json::parse(text);
+        object = nlohmann::ordered_json::parse(text, note_key);
     } catch (const nlohmann::json::exception& error) {
         return In_Line(line, Reason_Of(error));
     }
+    if (!twice.empty()) return In_Line(line, twice + " is there twice");
     RecipeRow row{line, {}, {}};
     for (const auto& [key, value] : object.items()) {
         if (value.is_null()) continue;
@@ -77,7 +95,8 @@ RecipeReader::RecipeReader(std::string_view text) : text_(text), table_(text) {
     if (text_.starts_with("\xEF\xBB\xBF")) text_.remove_prefix(3);
     const std::size_t first = std::min(text_.find_first_not_of(Blanks), text_.size());
     is_json_ = text_.substr(first).starts_with('{') || text_.substr(first).starts_with('[');
-    if (is_json_ && text_[first] == '[') at_ = first + 1;
+    is_array_ = is_json_ && text_[first] == '[';
+    if (is_array_) at_ = first + 1;
     line_ += Lines_In(text_.substr(0, at_));
 }
 
@@ -87,6 +106,21 @@ Result<std::optional<RecipeRow>> RecipeReader::Next() {
     return row;
 }
 
+/// Each has to be one that a row can use, as an empty cell would hide a slip.
+Result<> RecipeReader::Check_Columns(std::size_t line) const {
+    std::set<std::string> known;
+    for (const std::string& column : *columns_) {
+        if (column != BannerColumn && !Is_Option(column)) {
+            return In_Line(line, column + ": Is no option");
+        }
+        if (!known.insert(column).second) return In_Line(line, column + " is there twice");
+    }
+    if (!known.contains(std::string(BannerColumn))) {
+        return In_Line(line, "Has no column called banner");
+    }
+    return {};
+}
+
 Result<std::optional<RecipeRow>> RecipeReader::Next_Of_Table() {
     if (!columns_) {
         auto header = table_.Next();
@@ -94,10 +128,10 @@ Result<std::optional<RecipeRow>> RecipeReader::Next_Of_Table() {
         if (!*header) return Failure{u"", "Holds no row"};
         columns_ = std::move((*header)->cells);
         if (!Are_Utf8(*columns_)) return In_Line((*header)->line, "Is no UTF-8 text");
-        const auto count = std::count(columns_->begin(), columns_->end(), BannerColumn);
-        if (count != 1) return In_Line((*header)->line, "Has no column called banner, or several");
+        if (const auto fit = Check_Columns((*header)->line); !fit) return fit.Why();
     }
     auto read = table_.Next();
+    while (read && *read && Is_Blank((*read)->cells)) read = table_.Next();
     if (!read) return read.Why();
     if (!*read) return std::optional<RecipeRow>();
     RecipeRow row{(*read)->line, {}, {}};
@@ -115,19 +149,36 @@ Result<std::optional<RecipeRow>> RecipeReader::Next_Of_Table() {
     return std::optional(std::move(row));
 }
 
+/// Goes on to the next character that is not blank; zero at the end.
+char RecipeReader::Skip_Blanks() {
+    const std::size_t next = std::min(text_.find_first_not_of(Blanks, at_), text_.size());
+    line_ += Lines_In(text_.substr(at_, next - at_));
+    at_ = next;
+    return at_ < text_.size() ? text_[at_] : '\0';
+}
+
 Result<std::optional<RecipeRow>> RecipeReader::Next_Object() {
-    const std::size_t begin =
-        std::min(text_.find_first_not_of(std::string(Blanks) + ",]", at_), text_.size());
-    line_ += Lines_In(text_.substr(at_, begin - at_));
-    at_ = begin;
-    if (begin == text_.size()) return std::optional<RecipeRow>();
-    if (text_[begin] != '{') return In_Line(line_, "Is no JSON object");
-    const auto end = End_Of_Object(text_, begin);
+    char next = Skip_Blanks();
+    if (is_array_ && next == ']') {
+        ++at_;
+        is_array_ = false;
+        if (Skip_Blanks() != '\0') return In_Line(line_, "Something stands behind the array");
+        return std::optional<RecipeRow>();
+    }
+    if (is_array_ && has_rows_) {
+        if (next != ',') return In_Line(line_, "The array does not end, or lacks a comma");
+        ++at_;
+        next = Skip_Blanks();
+    }
+    if (!is_array_ && next == '\0') return std::optional<RecipeRow>();
+    if (next != '{') return In_Line(line_, "Is no JSON object");
+    const auto end = End_Of_Object(text_, at_);
     if (!end) return In_Line(line_, "An object does not end");
-    const std::string_view object = text_.substr(begin, *end - begin);
+    const std::string_view object = text_.substr(at_, *end - at_);
     auto row = Row_Of_Object(object, line_);
     line_ += Lines_In(object);
     at_ = *end;
+    has_rows_ = true;
     if (!row) return row.Why();
     return std::optional(std::move(*row));
 }

@@ -26,7 +26,8 @@ struct RecipeRow {
 
 /// Reads a recipe row by row, so that no more than one is in memory. What begins with "{" or "[" is
 /// JSON: an array of objects, or one object after the other. Anything else is CSV with a header
-/// line, in which an empty cell says nothing; in JSON null does.
+/// line of known options, in which an empty cell says nothing, as in JSON null, and a row of blanks
+/// is none.
 class RecipeReader {
  public:
     /// `text` outlives the object.
@@ -40,9 +41,12 @@ class RecipeReader {
  private:
     Result<std::optional<RecipeRow>> Next_Of_Table();
     Result<std::optional<RecipeRow>> Next_Object();
+    Result<> Check_Columns(std::size_t line) const;
+    char Skip_Blanks();
 
     std::string_view text_;
     bool is_json_;
+    bool is_array_ = false, has_rows_ = false;  ///< of JSON: in brackets; a row was read
     CsvReader table_;
     std::optional<std::vector<std::string>> columns_;
     std::size_t at_ = 0, line_ = 1;  ///< in JSON

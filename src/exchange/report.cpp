@@ -62,7 +62,10 @@ std::string Trouble_Lines(const Outcome& outcome) {
         lines += "bannersmith-edit: " + One_Line(failure) + "\n";
     };
     for (const std::string& notice : outcome.notices) add({outcome.banner, notice});
-    if (outcome.status == Outcome::Status::failed) add(outcome.failure);
+    if (outcome.status == Outcome::Status::failed) {
+        const bool of_other_file = outcome.failure.subject != outcome.banner;
+        add({outcome.banner, of_other_file ? One_Line(outcome.failure) : outcome.failure.reason});
+    }
     return lines;
 }
 

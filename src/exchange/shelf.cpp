@@ -120,11 +120,11 @@ class Editing {
         if (!plan) return plan.Why();
         if (Is_As_On_Disk(edited_.banner, *plan) && !copied) return {};
         outcome.changes = Changes_Of(edited_.banner, *plan);
-        for (const std::string& notice : plan->notices)
-            outcome.notices.push_back("Saved, " + notice);
+        const std::string saved = options_.dry_run ? "Would be saved, " : "Saved, ";
+        for (const std::string& notice : plan->notices) outcome.notices.push_back(saved + notice);
         const std::string warning =
             Warning_Of_Edit(edited_.banner.On_Disk(), plan->Layout(), colored_);
-        if (!warning.empty()) outcome.notices.push_back("Saved, but " + warning);
+        if (!warning.empty()) outcome.notices.push_back(saved + "but " + warning);
         outcome.status =
             options_.dry_run ? Outcome::Status::would_be_saved : Outcome::Status::saved;
         return Place(std::move(plan->files));
@@ -157,9 +157,11 @@ class Editing {
                 file.path = *below;
             }
             if (options_.backup.empty()) continue;
+            const std::u16string kept = file.path + options_.backup;
+            if (Ordinary_File_Exists(kept)) return Failure{kept, "Is there already"};
             auto old = Read_File(file.path);
             if (!old) return old.Why();
-            edited_.files.push_back({file.path + options_.backup, std::move(*old)});
+            edited_.files.push_back({kept, std::move(*old)});
         }
         for (NewContents& file : files) edited_.files.push_back(std::move(file));
         return {};

@@ -1,6 +1,7 @@
 #include "system/replace_files.h"
 
 #include <map>
+#include <mutex>
 #include <optional>
 #include <set>
 #include <utility>
@@ -15,6 +16,12 @@ namespace bannersmith {
 namespace fs = std::filesystem;
 
 namespace {
+
+/// The folders that this run holds at the moment, by their paths.
+struct FoldersOfRun {
+    static inline std::mutex mutex;
+    static inline std::map<fs::path, std::weak_ptr<FolderLock::Folder>> held;
+};
 
 fs::path Folder_Of(const fs::path& file) {
     const fs::path folder = file.parent_path();
@@ -194,17 +201,26 @@ std::vector<Result<>> Replace(std::span<const std::span<const NewContents>> sets
 FolderLock::FolderLock() = default;
 FolderLock::FolderLock(FolderLock&& other) noexcept = default;
 FolderLock& FolderLock::operator=(FolderLock&& other) noexcept = default;
-FolderLock::~FolderLock() = default;
+
+FolderLock::~FolderLock() {
+    const std::lock_guard alone(FoldersOfRun::mutex);
+    for (auto& [path, folder] : folders_) {
+        folder.reset();
+        const auto held = FoldersOfRun::held.find(path);
+        if (held != FoldersOfRun::held.end() && held->second.expired()) {
+            FoldersOfRun::held.erase(held);
+        }
+    }
+}
 
 Result<> FolderLock::Take(const std::u16string& path) {
     return Run_Steps(path, [&](const fs::path& native) -> Result<> {
         const auto file = Follow_Links(native);
         if (!file) return {};
-        auto folder = std::make_unique<Folder>();
         std::error_code error;
         const fs::path canonical = fs::canonical(Folder_Of(*file), error);
-        if (error || folders_.contains(canonical) || !folder->Open(canonical)) return {};
-        return Hold(canonical, std::move(folder));
+        if (error || !Folder().Open(canonical)) return {};
+        return Hold(canonical);
     });
 }
 
@@ -212,15 +228,22 @@ Result<const FolderLock::Folder*> FolderLock::Take_Folder(const fs::path& path) 
     std::error_code error;
     const fs::path canonical = fs::canonical(path, error);
     if (error) return Because(error.message());
-    if (const Folder* held = Find(canonical)) return held;
-    auto folder = std::make_unique<Folder>();
-    if (auto opened = folder->Open(canonical); !opened) return opened.Why();
-    if (auto locked = Hold(canonical, std::move(folder)); !locked) return locked.Why();
+    if (auto locked = Hold(canonical); !locked) return locked.Why();
     return Find(canonical);
 }
 
-Result<> FolderLock::Hold(const fs::path& canonical, std::unique_ptr<Folder> folder) {
-    if (auto locked = folder->Lock(); !locked) return locked;
+/// The system would take two threads for two runs.
+Result<> FolderLock::Hold(const fs::path& canonical) {
+    if (folders_.contains(canonical)) return {};
+    const std::lock_guard alone(FoldersOfRun::mutex);
+    auto& held = FoldersOfRun::held[canonical];
+    auto folder = held.lock();
+    if (!folder) {
+        folder = std::make_shared<Folder>();
+        if (auto opened = folder->Open(canonical); !opened) return opened;
+        if (auto locked = folder->Lock(); !locked) return locked;
+        held = folder;
+    }
     folders_.emplace(canonical, std::move(folder));
     return {};
 }

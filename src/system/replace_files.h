@@ -14,8 +14,8 @@
 
 namespace bannersmith {
 
-/// Keeps other runs of Bannersmith, and other threads of this one, from changing files of some
-/// folders, from `Take` to the end of the object, which is to be in the same thread. Advisory:
+/// Keeps other runs of Bannersmith from changing files of some folders, from `Take` to the end of
+/// the object. Threads of one run share the folders that they hold at the same time. Advisory:
 /// other programs do not know of it, and where the file system has no locks it keeps nobody out.
 class FolderLock {
  public:
@@ -40,9 +40,9 @@ class FolderLock {
     const Folder* Find(const std::filesystem::path& path) const;
 
  private:
-    Result<> Hold(const std::filesystem::path& canonical, std::unique_ptr<Folder> folder);
+    Result<> Hold(const std::filesystem::path& canonical);
 
-    std::map<std::filesystem::path, std::unique_ptr<Folder>> folders_;  ///< by canonical path
+    std::map<std::filesystem::path, std::shared_ptr<Folder>> folders_;  ///< by canonical path
 };
 
 /// What a file is to hold from now on.

@@ -38,7 +38,7 @@ struct FolderLock::Folder {
     Result<> Sync() const;
 
     std::filesystem::path path;
-    std::intptr_t handle = NoHandle;  ///< a descriptor of the folder, or a mutex of its name
+    std::intptr_t handle = NoHandle;  ///< a descriptor of the folder, or a semaphore of its name
     bool alone = false;               ///< no other run can be at work in it
     bool card = false;  ///< on a file system of memory cards, whose order of writes matters
 };
@@ -89,7 +89,8 @@ class Replacement {
 /// The file that `path` leads to through any number of links, which need not exist.
 Result<std::filesystem::path> Follow_Links(std::filesystem::path path);
 
-/// Removes from the folder what runs that were killed have left there.
+/// Removes from the folder what runs that were killed have left there, but nothing of this one,
+/// whose other threads may be at work.
 void Remove_Leftovers(const FolderLock::Folder& folder);
 
 }  // namespace bannersmith

@@ -403,11 +403,13 @@ Result<fs::path> Follow_Links(fs::path path) {
 
 void Remove_Leftovers(const FolderLock::Folder& folder) {
     if (!folder.alone) return;
+    const std::string own = LeftoverPrefix + std::to_string(::getpid()) + "-";
     std::error_code error;
     for (fs::directory_iterator at(folder.path, error), end; !error && at != end;
          at.increment(error)) {
         const std::string name = at->path().filename().string();
         if (!name.starts_with(LeftoverPrefix) || name.starts_with(KeptPrefix)) continue;
+        if (name.starts_with(own)) continue;
         std::error_code ignored;
         if (fs::is_regular_file(at->symlink_status(ignored))) fs::remove(at->path(), ignored);
     }

@@ -45,9 +45,9 @@ Result<> Require_Replaceable(const std::wstring& path) {
     return {};
 }
 
-/// The same for all processes that work in one folder. A mutex has no name longer than a path, and
+/// The same for all processes that work in one folder. A lock has no name longer than a path, and
 /// none with a separator in it.
-std::wstring Mutex_Name(const fs::path& folder) {
+std::wstring Lock_Name(const fs::path& folder) {
     std::wstring path = folder.wstring();
     ::CharLowerBuffW(path.data(), static_cast<DWORD>(path.size()));
     std::uint64_t hash = 0xCBF29CE484222325;  // FNV-1a
@@ -62,28 +62,29 @@ Result<> FolderLock::Folder::Open(fs::path folder) {
     std::error_code error;
     path = fs::canonical(folder, error);
     if (error) return Because(error.message());
+    // Not a mutex, which one thread alone could let go.
     handle =
-        reinterpret_cast<std::intptr_t>(::CreateMutexW(nullptr, FALSE, Mutex_Name(path).c_str()));
+        reinterpret_cast<std::intptr_t>(::CreateSemaphoreW(nullptr, 1, 1, Lock_Name(path).c_str()));
     return {};
 }
 
 FolderLock::Folder::~Folder() {
     if (handle == NoHandle) return;
-    const auto mutex = reinterpret_cast<HANDLE>(handle);
-    if (alone) ::ReleaseMutex(mutex);
-    if (mutex != nullptr) ::CloseHandle(mutex);
+    const auto lock = reinterpret_cast<HANDLE>(handle);
+    if (alone) ::ReleaseSemaphore(lock, 1, nullptr);
+    if (lock != nullptr) ::CloseHandle(lock);
 }
 
 Result<> FolderLock::Folder::Lock() {
     constexpr DWORD Part = 50, Parts = 200;  // of ten seconds, in milliseconds
-    const auto mutex = reinterpret_cast<HANDLE>(handle);
-    for (DWORD i = 0; mutex != nullptr && i < Parts; ++i) {
-        const DWORD result = ::WaitForSingleObject(mutex, Part);
-        alone = result == WAIT_OBJECT_0 || result == WAIT_ABANDONED;
+    const auto lock = reinterpret_cast<HANDLE>(handle);
+    for (DWORD i = 0; lock != nullptr && i < Parts; ++i) {
+        const DWORD result = ::WaitForSingleObject(lock, Part);
+        alone = result == WAIT_OBJECT_0;
         if (alone || result == WAIT_FAILED) return {};
         if (InterruptionsHeld::Pending()) return Because("Interrupted");
     }
-    if (mutex == nullptr) return {};
+    if (lock == nullptr) return {};
     return Because("Another run of Bannersmith is at work in its folder");
 }
 
@@ -216,12 +217,14 @@ Result<fs::path> Follow_Links(fs::path path) {
 void Remove_Leftovers(const FolderLock::Folder& folder) {
     if (!folder.alone) return;
     const std::wstring kept = fs::path(KeptPrefix).wstring();
+    const std::wstring own =
+        fs::path(LeftoverPrefix).wstring() + std::to_wstring(::GetCurrentProcessId()) + L"-";
     const std::wstring pattern = (folder.path / (std::string(LeftoverPrefix) + "*")).wstring();
     WIN32_FIND_DATAW found{};
     const HANDLE search = ::FindFirstFileW(pattern.c_str(), &found);
     for (BOOL more = search != INVALID_HANDLE_VALUE; more; more = ::FindNextFileW(search, &found)) {
         const std::wstring name = found.cFileName;
-        if (name.starts_with(kept)) continue;
+        if (name.starts_with(kept) || name.starts_with(own)) continue;
         ::DeleteFileW((folder.path / name).c_str());
     }
     if (search != INVALID_HANDLE_VALUE) ::FindClose(search);
