@@ -19,9 +19,14 @@ namespace {
 
 /// The folders that this run holds at the moment, by their paths.
 struct FoldersOfRun {
-    static inline std::mutex mutex;
-    static inline std::map<fs::path, std::weak_ptr<FolderLock::Folder>> held;
+    std::mutex mutex;
+    std::map<fs::path, std::weak_ptr<FolderLock::Folder>> held;
 };
+
+FoldersOfRun& Folders_Of_Run() {
+    static FoldersOfRun folders;
+    return folders;
+}
 
 fs::path Folder_Of(const fs::path& file) {
     const fs::path folder = file.parent_path();
@@ -203,12 +208,13 @@ FolderLock::FolderLock(FolderLock&& other) noexcept = default;
 FolderLock& FolderLock::operator=(FolderLock&& other) noexcept = default;
 
 FolderLock::~FolderLock() {
-    const std::lock_guard alone(FoldersOfRun::mutex);
+    FoldersOfRun& run = Folders_Of_Run();
+    const std::lock_guard alone(run.mutex);
     for (auto& [path, folder] : folders_) {
         folder.reset();
-        const auto held = FoldersOfRun::held.find(path);
-        if (held != FoldersOfRun::held.end() && held->second.expired()) {
-            FoldersOfRun::held.erase(held);
+        const auto held = run.held.find(path);
+        if (held != run.held.end() && held->second.expired()) {
+            run.held.erase(held);
         }
     }
 }
@@ -235,8 +241,9 @@ Result<const FolderLock::Folder*> FolderLock::Take_Folder(const fs::path& path) 
 /// The system would take two threads for two runs.
 Result<> FolderLock::Hold(const fs::path& canonical) {
     if (folders_.contains(canonical)) return {};
-    const std::lock_guard alone(FoldersOfRun::mutex);
-    auto& held = FoldersOfRun::held[canonical];
+    FoldersOfRun& run = Folders_Of_Run();
+    const std::lock_guard alone(run.mutex);
+    auto& held = run.held[canonical];
     auto folder = held.lock();
     if (!folder) {
         folder = std::make_shared<Folder>();
