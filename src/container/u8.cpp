@@ -147,8 +147,8 @@ class Walk {
 std::vector<std::size_t> In_Order_Of_Bytes(const std::vector<U8Member>& members) {
     std::vector<std::size_t> order(members.size());
     std::iota(order.begin(), order.end(), 0);
-    std::stable_sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
-        return members[a].offset < members[b].offset;
+    std::sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
+        return std::pair(members[a].offset, a) < std::pair(members[b].offset, b);
     });
     return order;
 }
