@@ -21,6 +21,7 @@ int main(int argc, char** argv) {
                      Group_Section("RootGroup", {}), Group_Section("ENG", {"A"}), Empty_Section("gre1")});
     const std::string archive = U8_Archive({{"arc/blyt/banner.brlyt", small}, {"arc/timg/my_Back.tpl", "x"}});
     const Picture picture{9, 7, std::string(9 * 7 * TexelSize, 'x')};
+    std::string jpeg = Jpeg_File(picture);
     const auto pixel = [](int x, int y) { return Pixel{0.1 * x, 0.1 * y, 0, 0.1 * x}; };
     const std::pair<const char*, std::string> seeds[] = {
         {"layout/fields", "TITLE A \"b\"-YEAR 1985-PLAY 4-ESRB E-SYSTEM X^Y-PAD +4\n" + small},
@@ -30,7 +31,9 @@ int main(int argc, char** argv) {
         {"archive/part", Channel_Part(archive)},
         {"archive/channel", Channel_File("x", {}, {0, archive.size(), 0}, U8_Archive({{"meta/banner.bin", archive}}))},
         {"texture/png", Write_Png(picture)},
-        {"texture/jpeg", Jpeg_File(picture)},
+        {"texture/jpeg", jpeg},
+        // Broke the reader once: codes that no table explains.
+        {"texture/jpeg_without_tables", jpeg.replace(jpeg.find("\xFF\xC4"), 2, "\xFF\xE5")},
         {"texture/rgb5a3", Texture_File(TextureFormat::rgb5a3, 9, 7, pixel)},
         {"recipe/table", "banner;title-ger;color:Back0\r\nx;\"a\"\"b\";010203,040506\r\n"},
         {"recipe/objects", "[{\"banner\": \"x\", \"text:T_PF\": \"\\u3042\"},\n {\"banner\": \"y\", \"year\": 1990}]"},
