@@ -287,6 +287,17 @@ std::optional<ChannelNames> Banner::Names() const {
     return source_.Packed_In()->Names();
 }
 
+std::map<std::string, std::string> Banner::Files_Of_Part(bool of_other) const {
+    std::map<std::string, std::string> files = source_.Files_Of_Part(of_other);
+    const auto folder = source_.Folder_Of_Part(of_other);
+    for (const NewContents& texture : state_.textures) {
+        if (!folder || !texture.path.starts_with(*folder)) continue;
+        const std::u16string path = texture.path.substr(folder->size());
+        files[To_Utf8(Replace_All(path, u"\\", u"/"))] = texture.bytes;
+    }
+    return files;
+}
+
 std::vector<std::u16string> Banner::Replaced_Textures() const {
     std::vector<std::u16string> paths;
     for (const NewContents& texture : state_.textures) paths.push_back(texture.path);

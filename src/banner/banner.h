@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <deque>
+#include <map>
 #include <optional>
 #include <span>
 #include <string>
@@ -69,6 +70,9 @@ class Banner {
     /// The picture of the game as it is now, edits included: the banner's, or the icon's. The
     /// failure has the name of the source or of the texture.
     Result<Picture> Game_Picture() const;
+
+    /// The files of a part of the channel, see `BannerSource`, as they are now, edits included.
+    std::map<std::string, std::string> Files_Of_Part(bool of_other) const;
 
     /// The paths of the textures that edits have replaced, as `BannerSource` tells them.
     std::vector<std::u16string> Replaced_Textures() const;

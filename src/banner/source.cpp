@@ -125,6 +125,47 @@ std::vector<NewContents> BannerSource::Animations() const {
     return animations;
 }
 
+std::optional<std::u16string> BannerSource::Folder_Of_Part(bool of_other) const {
+    constexpr std::u16string_view Inner = u"timg";
+    std::u16string layout = archive_ ? From_Utf8(archive_->Layout_Path()) : path_;
+    if (of_other) layout = In_Other_Part(layout);
+    std::u16string folder = Folder_Beside(layout, Inner);
+    if (folder.empty()) return {};
+    folder.resize(folder.size() - Inner.size() - 1);
+    return archive_ ? Replace_All(folder, u"\\", u"/") : folder;
+}
+
+std::map<std::string, std::string> BannerSource::Files_Of_Part(bool of_other) const {
+    std::map<std::string, std::string> files;
+    const auto begin = Folder_Of_Part(of_other);
+    if (!begin) return files;
+    if (archive_) {
+        const std::string folder = To_Utf8(*begin);
+        static_cast<void>(
+            archive_->Visit_Files([&](const std::string& path, std::string_view bytes) -> Result<> {
+                if (path.starts_with(folder)) files.emplace(path.substr(folder.size()), bytes);
+                return {};
+            }));
+        return files;
+    }
+    for (const std::u16string_view inner : {u"blyt", u"anim", u"timg"}) {
+        const std::u16string folder = *begin + std::u16string(inner) + u"\\";
+        if (!Is_Folder(folder).Value_Or(false)) continue;
+        for (const std::u16string& name :
+             List_Files(folder, {".brlyt", ".brlan", ".tpl"}).Value_Or({})) {
+            auto bytes = Read_File(folder + name);
+            if (bytes) files[To_Utf8(inner) + "/" + To_Utf8(name)] = std::move(*bytes);
+        }
+    }
+    return files;
+}
+
+bool BannerSource::Is_Icon() const {
+    const std::u16string path =
+        With_Backslashes(archive_ ? From_Utf8(archive_->Layout_Path()) : path_);
+    return Capitals(std::u16string_view(path).substr(path.rfind(u'\\') + 1)).starts_with(u"ICON");
+}
+
 Result<std::string> BannerSource::Texture(const std::u16string& path) const {
     if (!archive_) return Read_File(path);
     auto packed = archive_->Find_File(To_Utf8(path));

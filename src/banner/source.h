@@ -1,6 +1,7 @@
 // Where a banner comes from and where it is saved.
 #pragma once
 
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -54,6 +55,18 @@ class BannerSource {
     /// other part of the archive or, for a layout file, in the unpacked channel, where the folder
     /// that holds "arc" is called as this one, with "icon" in place of "banner".
     Result<std::vector<std::u16string>> Find_Game_Pictures() const;
+
+    /// The files of the channel's part that the layout lies in, or of its other part, the icon
+    /// beside a banner: those in the folders "blyt", "anim" and "timg", each by its path from the
+    /// folder that holds these ("timg/VCPic.tpl"), as far as they can be read.
+    std::map<std::string, std::string> Files_Of_Part(bool of_other) const;
+
+    /// What stands in front of these paths where the whole one is told; nothing where there is no
+    /// such part.
+    std::optional<std::u16string> Folder_Of_Part(bool of_other) const;
+
+    /// Whether the layout is that of an icon, by its name.
+    bool Is_Icon() const;
 
     /// The animations beside the layout, in the folder "anim", their paths and bytes, as far as
     /// they can be read.

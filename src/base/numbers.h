@@ -2,6 +2,7 @@
 // floors above it and nothing of the platform.
 #pragma once
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -19,6 +20,11 @@ inline std::uint16_t Read_U16(std::string_view bytes, std::size_t offset) {
 /// The unsigned big-endian 32-bit number at `offset`, with the same duty of the caller.
 inline std::uint32_t Read_U32(std::string_view bytes, std::size_t offset) {
     return static_cast<std::uint32_t>(Read_U16(bytes, offset)) << 16 | Read_U16(bytes, offset + 2);
+}
+
+/// The IEEE 754 number of four bytes at `offset`, with the same duty of the caller.
+inline float Read_F32(std::string_view bytes, std::size_t offset) {
+    return std::bit_cast<float>(Read_U32(bytes, offset));
 }
 
 /// Overwrites two bytes of `bytes` at `offset` with `value`, high byte first. The caller makes sure

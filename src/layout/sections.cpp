@@ -100,23 +100,30 @@ std::string Hex(std::size_t number) {
     return "0x" + digits;
 }
 
+SectionChain Read_Chain(std::string_view data) {
+    SectionChain chain;
+    const std::string_view layout = data.substr(0, Read_U32(data, header::FileLength));
+    std::size_t at = Read_U16(data, header::Length);
+    while (at + section::Body <= layout.size()) {
+        const std::size_t size = Read_U32(layout, at + section::Size);
+        if (size < section::Body) {
+            chain.fault = "section at " + Hex(at) + " has size " + std::to_string(size);
+            return chain;
+        }
+        chain.sections.push_back({at, layout.substr(at, 4), layout.substr(at, size)});
+        at += size;
+    }
+    if (at != layout.size()) chain.fault = "the last section does not end with the layout";
+    return chain;
+}
+
 LayoutInfo Read_Layout(std::string_view data) {
     LayoutInfo info;
     info.file_size = data.size();
     info.header_length = Read_U32(data, header::FileLength);
-    const std::string_view layout = data.substr(0, info.header_length);
-    std::size_t at = Read_U16(data, header::Length);
-    while (at + section::Body <= layout.size()) {
-        const std::size_t size = Read_U32(layout, at + section::Size);
-        const ChainSection part{at, layout.substr(at, 4), layout.substr(at, size)};
-        if (size < section::Body) {
-            Add_Fault(info, "section at " + Hex(at) + " has size " + std::to_string(size));
-            return info;
-        }
-        Read_Section(part, info);
-        at += size;
-    }
-    if (at != layout.size()) Add_Fault(info, "the last section does not end with the layout");
+    const SectionChain chain = Read_Chain(data);
+    for (const ChainSection& part : chain.sections) Read_Section(part, info);
+    if (!chain.fault.empty()) Add_Fault(info, chain.fault);
     return info;
 }
 

@@ -18,6 +18,17 @@ struct ChainSection {
     std::string_view bytes;
 };
 
+/// The chain as far as it goes.
+struct SectionChain {
+    std::vector<ChainSection> sections;
+    std::string fault;  ///< what breaks it; empty for a whole one
+};
+
+/// The sections of `data`, a file of the family that layouts belong to: its own length at offset 8,
+/// the place of its first section at 12, each section's size behind its tag. `data` has at least
+/// that header. A section that the data ends in is the last one, as far as it is there.
+SectionChain Read_Chain(std::string_view data);
+
 /// A text box as its own fields describe it.
 struct TextBoxInfo {
     std::size_t offset = 0;
