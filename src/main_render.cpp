@@ -57,6 +57,7 @@ struct Options {
     std::vector<std::string> banners;
     std::string output, frame = "loop", frames, background = "000000", font;
     still::View view;
+    bool has_texts = true;
 };
 
 void Tell(const Failure& failure) {
@@ -134,7 +135,7 @@ Options Read_Options(const std::vector<std::u16string>& arguments) {
     parser.parse(std::move(backwards));
     if (const std::string why = Misused(options); !why.empty()) throw CLI::ValidationError(why);
     options.view.part = part == "icon" ? still::PartKind::icon : still::PartKind::banner;
-    options.view.has_texts = !without_texts;
+    options.has_texts = !without_texts;
     options.view.language = To_Utf8(Capitals(From_Utf8(options.view.language)));
     const std::size_t color = *Number(options.background, 16);
     const auto octet = [&](unsigned shift) { return static_cast<std::uint8_t>(color >> shift); };
@@ -160,9 +161,9 @@ std::u16string Numbered(const std::u16string& file, std::size_t frame) {
            file.substr(file.size() - Ending);
 }
 
-Result<> Write(still::Still& part, const Options& options, std::size_t frame,
+Result<> Write(still::Still& part, const Options& options, still::Font* font, std::size_t frame,
                const std::u16string& file, std::vector<std::string>& faults) {
-    const still::Drawn drawn = part.Draw(options.view, frame);
+    const still::Drawn drawn = part.Draw(options.view, frame, font);
     for (const std::string& fault : drawn.faults) {
         if (std::find(faults.begin(), faults.end(), fault) == faults.end()) faults.push_back(fault);
     }
@@ -170,7 +171,7 @@ Result<> Write(still::Still& part, const Options& options, std::size_t frame,
 }
 
 /// Draws one banner. Returns the exit status.
-int Render(const Options& options, const std::u16string& name) {
+int Render(const Options& options, const std::u16string& name, still::Font* font) {
     const auto banner = Banner::Load(BannerSource(Layout_File_Of(name), name), 0);
     if (!banner) return Tell(banner.Why()), NotRead;
     if (!Is_Layout(banner->Bytes())) return Tell({name, "Not a layout file"}), NotRead;
@@ -183,13 +184,13 @@ int Render(const Options& options, const std::u16string& name) {
     if (!options.frames.empty()) {
         const auto [first, last] = *Read_Frames(options.frames);
         for (std::size_t frame = first; frame <= last && written; ++frame) {
-            written = Write(part, options, frame, Numbered(file, frame), faults);
+            written = Write(part, options, font, frame, Numbered(file, frame), faults);
         }
     } else {
         const std::size_t frame = options.frame == "loop"    ? part.Start_Frames()
                                   : options.frame == "start" ? 0
                                                              : *Number(options.frame);
-        written = Write(part, options, frame, file, faults);
+        written = Write(part, options, font, frame, file, faults);
     }
     for (const std::string& fault : faults) Tell({name, "Not drawn: " + fault});
     if (!written) return Tell(written.Why()), NotWritten;
@@ -209,8 +210,11 @@ int main(int argc, char** argv) {
     try {
         const Options options = Read_Options(arguments);
         int status = Done;
+        auto font = still::Font::Open(Program_Folder(), From_Utf8(options.font));
+        if (!font) return Tell(font.Why()), NotRead;
+        still::Font* drawn = options.has_texts ? &*font : nullptr;
         for (const std::string& banner : options.banners) {
-            status = std::max(status, Render(options, From_Utf8(banner)));
+            status = std::max(status, Render(options, From_Utf8(banner), drawn));
         }
         return status;
     } catch (const CLI::Error& error) {

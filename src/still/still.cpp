@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "still/matrix.h"
+#include "still/setting.h"
 
 namespace bannersmith::still {
 
@@ -47,10 +48,11 @@ Point Flipped(Point at, unsigned flip) {
 /// Draws a scene that stands as it is to be shown.
 class SceneDrawing {
  public:
-    SceneDrawing(const Scene& scene, const View& view, Textures& textures)
+    SceneDrawing(const Scene& scene, const View& view, Textures& textures, Font* font)
         : scene_(scene),
           view_(view),
           textures_(textures),
+          font_(font),
           extent_(Extent_Of(view.part, view.is_wide)),
           canvas_(Pixels_Of(extent_.width), Pixels_Of(extent_.height), view.background) {}
 
@@ -112,6 +114,7 @@ class SceneDrawing {
 
     void Draw_Pane(const Pane& pane, const PanePlace& place) {
         if (pane.window) return Draw_Window(pane, place);
+        if (pane.text && font_ != nullptr) return Draw_Text(pane, place, *pane.text);
         if (pane.surface) Draw_Surface(pane, place, Rectangle_Of(pane), *pane.surface);
     }
 
@@ -184,6 +187,82 @@ class SceneDrawing {
         }
         if (!region.missing.empty()) Tell(region.missing);
         drawn_.regions.push_back(std::move(region));
+    }
+
+    /// A letter goes through the material as its only texture.
+    void Draw_Text(const Pane& pane, const PanePlace& place, const TextLook& look) {
+        const Rectangle box = Rectangle_Of(pane);
+        Region region{pane.name, "", "", Corners(place.matrix, box)};
+        if (look.material >= scene_.materials.size()) {
+            region.missing = "text box " + pane.name + " has no material";
+        } else if (look.font >= scene_.fonts.size()) {
+            region.missing = "text box " + pane.name + " has no font";
+        }
+        if (!region.missing.empty()) {
+            Tell(region.missing);
+        } else if (!look.text.empty()) {
+            Material material = scene_.materials[look.material];
+            region.material = material.name;
+            material.maps = {TextureMap{}};
+            material.coordinates = {CoordinateSource{}};
+            const SetText set = Set(look, box.Width(), box.Height(), *font_);
+            Shader shader(material);
+            for (const Cell& cell : set.cells) {
+                Draw_Letter(cell, look, {box.left + cell.x, box.top - cell.y}, place, material,
+                            shader);
+            }
+            constexpr double Little = 0.01;
+            drawn_.texts.push_back({pane.name, set.width > box.Width() + Little,
+                                    set.height > box.Height() + Little});
+        }
+        drawn_.regions.push_back(std::move(region));
+    }
+
+    /// How many pixels a unit along a column of a matrix takes.
+    static double Length(const Matrix& matrix, std::size_t column) {
+        return std::hypot(matrix.rows[0][column], matrix.rows[1][column]);
+    }
+
+    struct CellPlace {
+        double left, top;
+    };
+
+    /// A letter is drawn as large as it will be seen, and lies where its cell is.
+    void Draw_Letter(const Cell& cell, const TextLook& look, CellPlace at, const PanePlace& place,
+                     const Material& material, Shader& shader) {
+        const double em_width = look.font_size[0], line = look.font_size[1];
+        const double em_height = line * EmHeight;
+        const double width = em_width * Length(place.matrix, 0);
+        const double height = em_height * Length(place.matrix, 1);
+        if (!(width > 0 && height > 0)) return;
+        const Glyph& glyph = font_->Take(cell.letter, width, height);
+        if (glyph.texels == nullptr) return;
+        const double unit_x = em_width / std::min(width, Font::LargestEm);
+        const double unit_y = em_height / std::min(height, Font::LargestEm);
+        const auto columns = static_cast<float>(glyph.texels->Width());
+        const auto rows = static_cast<float>(glyph.texels->Height());
+        Rectangle ink;
+        ink.left = at.left + glyph.left * unit_x;
+        ink.top = at.top - Baseline * line + glyph.top * unit_y;
+        ink.right = ink.left + columns * unit_x;
+        ink.bottom = ink.top - rows * unit_y;
+        const auto shade = [&](double y) {
+            const double down = std::clamp((at.top - y) / line, 0.0, 1.0);
+            Rgba color{};
+            for (std::size_t i = 0; i < 4; ++i) {
+                color[i] = static_cast<std::uint8_t>(
+                    look.top[i] + (look.bottom[i] - look.top[i]) * down + 0.5);
+            }
+            return color;
+        };
+        const Rgba top = shade(ink.top), bottom = shade(ink.bottom);
+        Fill(canvas_,
+             {Corners(place.matrix, ink), {top, top, bottom, bottom},
+              static_cast<float>(place.alpha)},
+             material, shader,
+             std::vector<QuadTexture>(shader.Taps().size(),
+                                      {glyph.texels.get(), Wrap::clamp, Wrap::clamp,
+                                       {{{0, 0}, {columns, 0}, {0, rows}, {columns, rows}}}}));
     }
 
     /// The size of the texture that a piece of a frame shows; none where it has none.
@@ -271,6 +350,7 @@ class SceneDrawing {
     const Scene& scene_;
     const View& view_;
     Textures& textures_;
+    Font* font_;
     Extent extent_;
     Canvas canvas_;
     std::vector<PanePlace> places_;
@@ -310,12 +390,12 @@ void Still::Move(Scene& scene, std::size_t frame) const {
     Move_To(scene, *loop_, static_cast<float>((frame - start) % Loop_Frames()));
 }
 
-Drawn Still::Draw(const View& view, std::size_t frame) {
+Drawn Still::Draw(const View& view, std::size_t frame, Font* font) {
     Scene scene = scene_;
     const std::string language = view.language.empty() ? Usual_Language(scene) : view.language;
     const bool is_there = Show_Language(scene, language);
     Move(scene, frame);
-    Drawn drawn = SceneDrawing(scene, view, textures_).Draw();
+    Drawn drawn = SceneDrawing(scene, view, textures_, font).Draw();
     std::vector<std::string> faults = scene_.faults;
     faults.insert(faults.end(), faults_.begin(), faults_.end());
     if (!is_there) faults.push_back("there is no text in the language " + language);

@@ -9,6 +9,7 @@
 
 #include "still/animation.h"
 #include "still/filling.h"
+#include "still/font.h"
 #include "still/scene.h"
 #include "still/textures.h"
 #include "texture/picture.h"
@@ -33,7 +34,6 @@ struct View {
     bool is_wide = false;
     double scale = 1;  ///< pixels to a unit of the screen, above 0
     Rgba background{0, 0, 0, 255};
-    bool has_texts = true;
 };
 
 /// What was drawn where, for who points at it.
@@ -43,10 +43,18 @@ struct Region {
     std::array<Point, 4> corners{};  ///< left top, right top, left bottom, right bottom, in pixels
 };
 
+/// How a text that was drawn fits into its box, by the font that it was drawn with.
+struct TextFit {
+    std::string pane;
+    bool is_too_wide = false;  ///< a line as it is written is wider, so that it was broken
+    bool is_too_high = false;  ///< the lines are higher than the box
+};
+
 /// A picture of it.
 struct Drawn {
     Picture picture;              ///< opaque
     std::vector<Region> regions;  ///< in the order of drawing
+    std::vector<TextFit> texts;
     std::vector<std::string> faults;  ///< what could not be drawn and why, each once
 };
 
@@ -73,7 +81,8 @@ class Still {
 
     /// The banner at a frame, counted from the beginning of the start; `Start_Frames` is the first
     /// of the loop and shows all in its place.
-    Drawn Draw(const View& view, std::size_t frame);
+    /// Texts are drawn in `font`, none where it is null.
+    Drawn Draw(const View& view, std::size_t frame, Font* font);
 
     const Scene& Layout() const { return scene_; }
 
