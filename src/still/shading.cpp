@@ -129,10 +129,13 @@ std::uint16_t Compared(unsigned operation, std::size_t channel, const Lanes& a, 
 }  // namespace
 
 Shader::Shader(const Material& material) {
-    const std::vector<Stage> stages =
-        material.stages.empty() ? Default_Stages(material) : material.stages;
     for (std::size_t i = 0; i < 3; ++i) initial_[i + 1] = Shortened(Both(material.registers[i]));
-    for (const Stage& stage : stages) steps_.push_back(Unpack(stage, material));
+    Material with_stages = material;
+    if (material.stages.empty()) {
+        with_stages.stages = Default_Stages(material);
+        with_stages.swaps = Material().swaps;
+    }
+    for (const Stage& stage : with_stages.stages) steps_.push_back(Unpack(stage, with_stages));
 }
 
 Shader::Step Shader::Unpack(const Stage& stage, const Material& material) {
