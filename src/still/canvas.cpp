@@ -85,44 +85,66 @@ Lanes Put_Over(const BlendMode& mode, Lanes source, Lanes there) {
     }
 }
 
-/// A register can hold what is no colour.
-Lanes As_Colors(Lanes numbers) {
-    const auto number = reinterpret_cast<SignedLanes>(numbers);
-    const SignedLanes zero{}, most = reinterpret_cast<SignedLanes>(Everywhere(255));
-    const SignedLanes above = number < zero ? zero : number;
-    return reinterpret_cast<Lanes>(above > most ? most : above);
+/// Puts `count` pixels over those at a place, two at a time.
+template <typename Over>
+void Put_Row(std::uint16_t* place, std::size_t count, Pixels pixels, Over put_over) {
+    const std::size_t pairs = count / 2, step = pixels.is_constant ? 0 : 1;
+    const Lanes* source = pixels.first;
+    for (std::size_t i = 0; i < pairs; ++i, place += 8, source += step) {
+        Store(place, put_over(*source, Load(place)));
+    }
+    if (count % 2 == 0) return;
+    const Lanes last = put_over(*source, Load(place));
+    std::memcpy(place, &last, sizeof last / 2);
+}
+
+/// Four pixels of two each, as their octets, opaque.
+void Store_Opaque(char* place, Lanes first, Lanes second) {
+    using Octets = std::uint8_t __attribute__((vector_size(16)));
+    const Lanes opaque{0, 0, 0, 0xFF, 0, 0, 0, 0xFF};
+    const auto octets = __builtin_shufflevector(
+        reinterpret_cast<Octets>(first | opaque), reinterpret_cast<Octets>(second | opaque), 0, 2,
+        4, 6, 8, 10, 12, 14, 16, 18, 20, 22, 24, 26, 28, 30);
+    std::memcpy(place, &octets, sizeof octets);
 }
 
 }  // namespace
 
 Canvas::Canvas(std::size_t width, std::size_t height, Rgba background)
-    : width_(width), height_(height), numbers_(width * height * 4 + 4) {
-    for (std::size_t i = 0; i < width * height * 4; ++i) numbers_[i] = background[i % 4];
+    : width_(width),
+      height_(height),
+      pairs_((width * height + 1) / 2 + 1),
+      numbers_(std::make_unique_for_overwrite<Lanes[]>(pairs_ + 1)) {
+    std::fill_n(numbers_.get(), pairs_ + 1, Both(background));
 }
 
 void Canvas::Put(std::size_t x, std::size_t y, std::size_t count, Pixels pixels,
                  const AlphaCompare& compare, const BlendMode& mode) {
-    std::uint16_t* place = &numbers_[(y * width_ + x) * 4];
+    auto* place = reinterpret_cast<std::uint16_t*>(numbers_.get()) + (y * width_ + x) * 4;
     const bool is_usual = mode.type == Blends && (mode.source & 7) == SourceAlpha &&
                           (mode.destination & 7) == OneMinusSourceAlpha;
-    const bool is_compared = !Lets_All_Through(compare);
-    for (std::size_t i = 0; i < count; i += 2, place += 8) {
-        const Lanes source = As_Colors(pixels.At(i / 2)), there = Load(place);
-        Lanes put = is_usual ? Mix(there, source, Spread_Alpha(source))
-                             : Put_Over(mode, source, there);
-        for (std::size_t lane = 0; is_compared && lane < 8; ++lane) {
+    if (is_usual && Lets_All_Through(compare)) {
+        Put_Row(place, count, pixels, [](Lanes source, Lanes there) {
+            return Mix(there, source, Spread_Alpha(source));
+        });
+        return;
+    }
+    Put_Row(place, count, pixels, [&](Lanes source, Lanes there) {
+        Lanes put = Put_Over(mode, source, there);
+        for (std::size_t lane = 0; lane < 8; ++lane) {
             if (!Passes(compare, source[lane / 4 * 4 + 3])) put[lane] = there[lane];
         }
-        if (i + 1 < count) Store(place, put);
-        else std::memcpy(place, &put, sizeof put / 2);
-    }
+        return put;
+    });
 }
 
 Picture Canvas::Taken() const {
-    Picture picture{width_, height_, std::string(width_ * height_ * TexelSize, '\xFF')};
-    for (std::size_t i = 0; i < picture.texels.size(); ++i) {
-        if (i % 4 != 3) picture.texels[i] = static_cast<char>(numbers_[i]);
+    Picture picture{width_, height_, {}};
+    picture.texels.resize(pairs_ / 2 * 2 * 2 * TexelSize);
+    for (std::size_t i = 0; i + 1 < pairs_; i += 2) {
+        Store_Opaque(&picture.texels[i * 2 * TexelSize], numbers_[i], numbers_[i + 1]);
     }
+    picture.texels.resize(width_ * height_ * TexelSize);
     return picture;
 }
 

@@ -3,7 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <vector>
+#include <memory>
 
 #include "still/scene.h"
 #include "still/shading.h"
@@ -29,7 +29,8 @@ class Canvas {
 
  private:
     std::size_t width_, height_;
-    std::vector<std::uint16_t> numbers_;
+    std::size_t pairs_;  ///< of pixels, at least one more than there are
+    std::unique_ptr<Lanes[]> numbers_;
 };
 
 }  // namespace bannersmith::still

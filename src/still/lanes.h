@@ -46,9 +46,10 @@ inline Lanes Over_255(Lanes product) {
     return (rounded + (rounded >> 8)) >> 8;
 }
 
-/// From `a`, where `c` is 0, to `b`, where it is 255.
+/// From `a`, where `c` is 0, to `b`, where it is 255. What the numbers lose above in between, the
+/// sum has not.
 inline Lanes Mix(Lanes a, Lanes b, Lanes c) {
-    return Over_255(a * (255 - c) + b * c);
+    return Over_255((a << 8) - a + c * (b - a));
 }
 
 /// Two pixels at any place.

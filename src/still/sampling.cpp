@@ -73,8 +73,8 @@ Lanes Pair(const std::uint32_t* texels) {
     const Words words{both, 0};
     const auto octets = reinterpret_cast<Octets>(words);
     const Octets zero{};
-    return reinterpret_cast<Lanes>(__builtin_shufflevector(octets, zero, 0, 16, 1, 16, 2, 16, 3, 16,
-                                                           4, 16, 5, 16, 6, 16, 7, 16));
+    return reinterpret_cast<Lanes>(__builtin_shufflevector(octets, zero, 0, 16, 1, 17, 2, 18, 3, 19,
+                                                           4, 20, 5, 21, 6, 22, 7, 23));
 }
 
 }  // namespace
@@ -110,19 +110,29 @@ bool Sampler::Axis::Follow(const Travel& travel, Wrap wrap, std::size_t side, st
 void Sampler::Take(const Travel& s, const Travel& t, std::size_t count, Lanes* out) {
     const bool is_one_column = across_.Follow(s, s_, texels_->width_, count);
     const bool is_one_row = down_.Follow(t, t_, texels_->height_, count);
-    const std::size_t stride = texels_->width_ + 2;
+    const std::size_t stride = texels_->width_ + 2, across_step = is_one_column ? 0 : 1;
     const auto& weights = Weights();
-    const std::size_t across_step = is_one_column ? 0 : 1, down_step = is_one_row ? 0 : 1;
-    auto* pixel = reinterpret_cast<std::uint16_t*>(out);
-    for (std::size_t i = 0; i < count; ++i, pixel += 4) {
-        const std::uint32_t x = across_.places[i * across_step], y = down_.places[i * down_step];
-        const std::uint32_t* upper = &texels_->texels_[(y >> 8) * stride + (x >> 8)];
-        const Lanes down = Everywhere(y & 0xFF);
-        const Lanes column = (Pair(upper) * (256 - down) + Pair(upper + stride) * down + 128) >> 8;
+    auto* pixel = reinterpret_cast<char*>(out);
+    const auto take = [&](std::uint32_t x, const std::uint32_t* row, Lanes down) {
+        const Lanes upper = Pair(row + (x >> 8)), lower = Pair(row + (x >> 8) + stride);
+        const Lanes column = ((upper << 8) + down * (lower - upper) + 128) >> 8;
         const Lanes sides = column * weights[x & 0xFF];
         const Lanes both = sides + __builtin_shufflevector(sides, sides, 4, 5, 6, 7, 0, 1, 2, 3);
         const Lanes rounded = (both + 128) >> 8;
-        std::memcpy(pixel, &rounded, 8);
+        std::memcpy(pixel, &rounded, sizeof rounded / 2);
+        pixel += sizeof rounded / 2;
+    };
+    const std::uint32_t* across = across_.places.data();
+    if (is_one_row) {
+        const std::uint32_t y = down_.places[0];
+        const std::uint32_t* row = &texels_->texels_[(y >> 8) * stride];
+        const Lanes down = Everywhere(y & 0xFF);
+        for (std::size_t i = 0; i < count; ++i, across += across_step) take(*across, row, down);
+        return;
+    }
+    for (std::size_t i = 0; i < count; ++i, across += across_step) {
+        const std::uint32_t y = down_.places[i];
+        take(*across, &texels_->texels_[(y >> 8) * stride], Everywhere(y & 0xFF));
     }
 }
 

@@ -40,8 +40,8 @@ class Texels {
 /// The pixels of a row that one use of a texture takes. Keeps what the next row can share.
 class Sampler {
  public:
-    /// At most so many pixels at once.
-    static constexpr std::size_t MostPixels = 256;
+    /// At most so many pixels at once: those of a row of the wide screen.
+    static constexpr std::size_t MostPixels = 832;
 
     Sampler(const Texels& texels, Wrap s, Wrap t) : texels_(&texels), s_(s), t_(t) {}
 
@@ -57,7 +57,7 @@ class Sampler {
      public:
         /// Whether all places are the first one.
         bool Follow(const Travel& travel, Wrap wrap, std::size_t side, std::size_t count);
-        std::array<std::uint32_t, MostPixels> places{};
+        std::array<std::uint32_t, MostPixels> places;
 
      private:
         Travel last_{};

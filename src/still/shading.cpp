@@ -1,6 +1,7 @@
 #include "still/shading.h"
 
 #include <algorithm>
+#include <variant>
 
 namespace bannersmith::still {
 
@@ -19,6 +20,7 @@ constexpr std::uint8_t NothingDrawn = 0xFF, ColorAndAlphaDrawn = 4;
 constexpr std::size_t NoMap = 0x1FF;
 constexpr std::uint8_t SameChannels = 0xE4;
 constexpr std::uint16_t HalfOf255 = 128;
+constexpr unsigned FirstComparison = 8;
 
 /// The sixteen bytes of a stage that only adds: a, b, c and d of colour and alpha.
 Stage Plain_Stage(std::size_t map, std::array<unsigned, 4> color, std::array<unsigned, 4> alpha,
@@ -110,6 +112,43 @@ Lanes Shortened(Lanes number) {
     return reinterpret_cast<Lanes>(reinterpret_cast<SignedLanes>(number << Unused) >> Unused);
 }
 
+bool Is_All(Pixels pixels, unsigned number) {
+    if (!pixels.is_constant) return false;
+    const Lanes& first = *pixels.first;
+    for (std::size_t lane = 0; lane < 8; ++lane) {
+        if (first[lane] != number) return false;
+    }
+    return true;
+}
+
+/// The pixels of a row, which are all one, or each its own.
+struct Same {
+    Lanes pixels;
+    Lanes operator[](std::size_t) const { return pixels; }
+};
+struct Each {
+    const Lanes* pixels;
+    Lanes operator[](std::size_t pair) const { return pixels[pair]; }
+};
+using Input = std::variant<Same, Each>;
+
+Input Input_Of(Pixels pixels) {
+    constexpr std::uint16_t Octet = 0xFF;
+    if (pixels.is_constant) return Same{*pixels.first & Octet};
+    return Each{pixels.first};
+}
+
+/// From a to b by c, which is all that most stages do.
+void Mix_Row(const std::array<Pixels, 4>& inputs, std::size_t pairs, Lanes* out) {
+    std::visit(
+        [&](auto a, auto b, auto c) {
+            for (std::size_t i = 0; i < pairs; ++i) {
+                out[i] = Mix(a[i] & 0xFF, b[i] & 0xFF, c[i] & 0xFF);
+            }
+        },
+        Input_Of(inputs[0]), Input_Of(inputs[1]), Input_Of(inputs[2]));
+}
+
 /// What a comparing stage adds to d: c where a is above b, or is b.
 std::uint16_t Compared(unsigned operation, std::size_t channel, const Lanes& a, const Lanes& b,
                        const Lanes& c, std::size_t first) {
@@ -136,6 +175,9 @@ Shader::Shader(const Material& material) {
         with_stages.swaps = Material().swaps;
     }
     for (const Stage& stage : with_stages.stages) steps_.push_back(Unpack(stage, with_stages));
+    const Step& last = steps_.back();
+    ends_in_colors_ = last.outputs == std::array<std::size_t, 2>{0, 0} && last.low[0] == 0 &&
+                      last.low[3] == 0;
 }
 
 Shader::Step Shader::Unpack(const Stage& stage, const Material& material) {
@@ -166,20 +208,21 @@ Shader::Step Shader::Unpack(const Stage& stage, const Material& material) {
     for (std::size_t half = 0; half < 2; ++half) {
         constexpr std::array Biases = {0, 128, -128, 0}, TwiceScales = {2, 4, 8, 1};
         const unsigned operation = stage[6 + 4 * half], end = stage[7 + 4 * half];
-        step.comparison[half] = operation & 0xF;
+        step.operations[half] = operation & 0xF;
         bias[half] = Biases[operation >> 4 & 3];
         scale[half] = TwiceScales[operation >> 6];
         low[half] = (end & 1) != 0 ? 0 : -1024;
         high[half] = (end & 1) != 0 ? 255 : 1023;
         step.outputs[half] = end >> 1 & 3;
     }
-    const auto subtracts = [&](std::size_t half) { return step.comparison[half] == 1 ? -1 : 0; };
+    const auto subtracts = [&](std::size_t half) { return step.operations[half] == 1 ? -1 : 0; };
     step.negated = Split(subtracts(0), subtracts(1));
     step.bias = Split(bias[0], bias[1]);
     step.twice_scale = reinterpret_cast<SignedLanes>(Split(scale[0], scale[1]));
     step.low = reinterpret_cast<SignedLanes>(Split(low[0], low[1]));
     step.high = reinterpret_cast<SignedLanes>(Split(high[0], high[1]));
-    step.is_plain = step.comparison == std::array{0U, 0U} && bias == std::array{0, 0} &&
+    step.compares = std::max(step.operations[0], step.operations[1]) >= FirstComparison;
+    step.is_plain = step.operations == std::array{0U, 0U} && bias == std::array{0, 0} &&
                     scale == std::array{2, 2};
     return step;
 }
@@ -192,9 +235,32 @@ Pixels Shader::Shade(Pixels drawn, const std::vector<Pixels>& textures, std::siz
                                   : Pixels{&Nothing, true};
         texture_ = step.tap ? Swapped(textures[*step.tap], step.swaps[1], pairs, texture_row_)
                             : Pixels{&Nothing, true};
-        Run(step, pairs);
+        if (!Changes_Nothing(step)) Run(step, pairs);
     }
-    return registers_[steps_.back().outputs[0]];
+    return As_Colors(registers_[0], pairs);
+}
+
+/// Multiplying with white is what most materials without stages end with.
+bool Shader::Changes_Nothing(const Step& step) const {
+    using namespace color_input;
+    const bool multiplies = step.is_plain && step.outputs == std::array<std::size_t, 2>{0, 0} &&
+                            step.operands[0] == Operand{Zero, alpha_input::Zero} &&
+                            step.operands[1] == Operand{Previous, alpha_input::Previous} &&
+                            step.operands[2] == Operand{Drawn, alpha_input::Drawn} &&
+                            step.operands[3] == Operand{Zero, alpha_input::Zero};
+    return multiplies && Is_All(drawn_, 255);
+}
+
+/// A register can hold what is no colour, unless the last stage that wrote it cut that off.
+Pixels Shader::As_Colors(Pixels numbers, std::size_t pairs) {
+    if (ends_in_colors_) return numbers;
+    const SignedLanes zero{}, most = reinterpret_cast<SignedLanes>(Everywhere(255));
+    for (std::size_t i = 0; i < (numbers.is_constant ? 1 : pairs); ++i) {
+        const auto number = reinterpret_cast<SignedLanes>(numbers.At(i));
+        const SignedLanes above = number < zero ? zero : number;
+        result_[i] = reinterpret_cast<Lanes>(above > most ? most : above);
+    }
+    return {result_.data(), numbers.is_constant};
 }
 
 Pixels Shader::Swapped(Pixels pixels, std::uint8_t swap, std::size_t pairs, Row& room) {
@@ -242,6 +308,7 @@ Pixels Shader::Read(const Step& step, std::size_t operand, std::size_t pairs) {
 
 void Shader::Combine(const Step& step, const std::array<Pixels, 4>& inputs, std::size_t pairs,
                      Lanes* out) const {
+    if (step.is_plain && Is_All(inputs[3], 0)) return Mix_Row(inputs, pairs, out);
     const auto clamped = [&](SignedLanes sum) {
         sum = sum > step.high ? step.high : sum;
         return reinterpret_cast<Lanes>(sum < step.low ? step.low : sum);
@@ -249,15 +316,11 @@ void Shader::Combine(const Step& step, const std::array<Pixels, 4>& inputs, std:
     for (std::size_t i = 0; i < pairs; ++i) {
         const Lanes mixed =
             Mix(inputs[0].At(i) & 0xFF, inputs[1].At(i) & 0xFF, inputs[2].At(i) & 0xFF);
-        if (step.is_plain) {
-            out[i] = clamped(reinterpret_cast<SignedLanes>(inputs[3].At(i) + mixed));
-            continue;
-        }
         const Lanes sum = inputs[3].At(i) + ((mixed ^ step.negated) - step.negated) + step.bias;
         Lanes result = clamped((reinterpret_cast<SignedLanes>(sum) * step.twice_scale) >> 1);
-        for (std::size_t lane = 0; lane < 8; ++lane) {
-            const unsigned operation = step.comparison[lane % 4 / 3];
-            if (operation < 8) continue;
+        for (std::size_t lane = 0; step.compares && lane < 8; ++lane) {
+            const unsigned operation = step.operations[lane % 4 / 3];
+            if (operation < FirstComparison) continue;
             const auto d = static_cast<std::int16_t>(inputs[3].At(i)[lane]);
             const int total = d + Compared(operation, lane % 4, inputs[0].At(i), inputs[1].At(i),
                                            inputs[2].At(i), lane / 4 * 4);

@@ -47,6 +47,8 @@ class Shader {
     /// One of the numbers that a stage computes with: its colours and its alpha are told apart.
     struct Operand {
         unsigned color = 0, alpha = 0;  ///< the numbers by which the format tells them
+
+        bool operator==(const Operand&) const = default;
     };
 
     /// A stage, unpacked. Colours and alpha have settings of their own, side by side in lanes.
@@ -56,10 +58,11 @@ class Shader {
         std::array<std::uint8_t, 2> swaps{};  ///< of what is drawn and of the texture
         std::array<Operand, 4> operands{};    ///< a, b, c, d
         Lanes constant{};                     ///< K
-        bool is_plain = true;                 ///< adds, without bias or scale
+        std::array<unsigned, 2> operations{};  ///< of colour and alpha: 0 adds, 1 subtracts
+        bool compares = false;                 ///< one of them compares instead
+        bool is_plain = true;                  ///< adds, without bias or scale
         Lanes negated{}, bias{};
         SignedLanes twice_scale{}, low{}, high{};
-        std::array<unsigned, 2> comparison{};  ///< of colour and alpha: above 7 compares
         std::array<std::size_t, 2> outputs{};  ///< registers of colour and alpha
     };
 
@@ -71,11 +74,14 @@ class Shader {
                  Lanes* out) const;
     Lanes* Room_Of(std::size_t number, bool is_constant);
     void Write(const Step& step, std::size_t pairs, bool is_constant);
+    bool Changes_Nothing(const Step& step) const;
+    Pixels As_Colors(Pixels numbers, std::size_t pairs);
     static Pixels Swapped(Pixels pixels, std::uint8_t swap, std::size_t pairs, Row& room);
 
     std::vector<Step> steps_;
     std::vector<Tap> taps_;
     std::array<Lanes, 4> initial_{};  ///< PREV, C0 to C2
+    bool ends_in_colors_ = true;
 
     // While a row is shaded.
     std::array<Pixels, 4> registers_;
