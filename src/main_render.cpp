@@ -115,6 +115,7 @@ Options Read_Options(const std::vector<std::u16string>& arguments) {
     bool without_texts = false;
     CLI::App parser;
     parser.set_help_flag();
+    parser.allow_windows_style_options(false);  // a path begins with a slash
     parser.add_option("banners", options.banners);
     parser.add_option("-o,--output", options.output);
     parser.add_option("--language", options.view.language)

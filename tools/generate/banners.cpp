@@ -42,10 +42,10 @@ struct BoxKind {
     float font_size;
 };
 
-constexpr BoxKind TitleBox = {box_prefix::Title, {0, -150, 560, 60}, 28};
-constexpr BoxKind YearBox = {box_prefix::Year, {-190, 70, 200, 30}, 20};
-constexpr BoxKind PlayersBox = {box_prefix::Players, {-190, 10, 200, 60}, 20};
-constexpr BoxKind RatingBox = {box_prefix::Rating, {130, -200, 300, 30}, 18};
+constexpr BoxKind TitleBox = {box_prefix::Title, {0, -150, 560, 60}, 27.2F};
+constexpr BoxKind YearBox = {box_prefix::Year, {-190, 70, 200, 30}, 17.6F};
+constexpr BoxKind PlayersBox = {box_prefix::Players, {-190, 10, 200, 60}, 17.6F};
+constexpr BoxKind RatingBox = {box_prefix::Rating, {130, -200, 300, 30}, 14.4F};
 
 std::u16string Stored_Text(const BoxKind& kind, std::u16string_view code) {
     std::u16string value;
@@ -60,8 +60,17 @@ class MaterialList {
  public:
     /// Adds a material in the colours of an element of the scheme and returns its index.
     unsigned Add(std::string_view name, std::u16string_view element, int texture = -1) {
+        Material material{std::string(name)};
+        material.texture = texture;
+        return Add(std::move(material), element, 255);
+    }
+
+    /// The same for a material with textures and stages; `alpha` is that of the second colour.
+    unsigned Add(Material material, std::u16string_view element, std::int16_t alpha) {
         const ColorPair& pair = colors_[Element_Index(element)];
-        list_.push_back({std::string(name), Rgba_Of(pair[0], 0), Rgba_Of(pair[1], 255), texture});
+        material.first = Rgba_Of(pair[0], 0);
+        material.second = Rgba_Of(pair[1], alpha);
+        list_.push_back(std::move(material));
         return static_cast<unsigned>(list_.size() - 1);
     }
 
@@ -100,16 +109,76 @@ constexpr Picture Pictures[] = {
     {"VCPic", u"VCPic", {120, 20, 224, 168}, 1},
 };
 
+/// The textures of a channel's banner, in the order of its list.
+enum ChannelTexture : unsigned { logo, game, mask, ramp, shadow, line };
+
+constexpr std::array<float, 8> WholeSet = {0, 0, 1, 0, 0, 1, 1, 1};
+constexpr std::array<float, 8> UpsideDown = {0, 1, 1, 1, 0, 0, 1, 0};
+
+/// The logo in rows: one colour, and its shape as the alpha.
+constexpr StageSpec ShapeOnly{0, {15, 15, 15, 4}, {7, 2, 4, 7}};
+
+/// The game's picture, cut to the shape of a screen.
+constexpr StageSpec GameColors{0, {15, 15, 15, 8}, {7, 7, 7, 5}};
+constexpr StageSpec CutToMask{1, {15, 15, 15, 0}, {7, 0, 4, 7}};
+
+/// Its reflection: tinted, and fading away as the ramp says.
+constexpr StageSpec TintedGame{0, {15, 4, 8, 15}, {7, 7, 7, 7}};
+constexpr StageSpec FadeByRamp{1, {15, 15, 15, 0}, {1, 2, 4, 7}};
+constexpr StageSpec MaskWithoutIt{2, {15, 15, 15, 0}, {0, 7, 7, 4}, true};
+
+/// A picture of a channel's banner, drawn as the console's own banners are.
+struct ChannelPicture {
+    Material material;
+    const char16_t* element;
+    std::int16_t alpha;
+    Place place;
+    PictureLook look{};
+};
+
+/// As often as the logo fits, `beside` texels to the side.
+std::array<float, 8> Row_Of_Logos(float beside) {
+    const float left = beside / 512, right = left + 608.F / 512;
+    return {left, 0, right, 0, left, 1, right, 1};
+}
+
+std::vector<ChannelPicture> Channel_Background() {
+    const auto row = [](const char* name, const char16_t* element, float y, float beside) {
+        return ChannelPicture{{name, {}, {}, -1, {{logo, 1, 1}}, {ShapeOnly}},
+                              element, 112, {0, y, 608, 64}, {.sets = {Row_Of_Logos(beside)}}};
+    };
+    return {
+        {{"Back0", {}, {}, ramp}, u"Back0", 255, {0, 0, 608, 456}},
+        row("Back1", u"Back1", 128, 0), row("Back2", u"Back2", 50, 32),
+        row("Back3", u"Back3", -28, 0), row("Back4", u"Back4", -106, 32),
+        {{"BackMask1", {}, {}, ramp}, u"BackMask1", 255, {0, -120, 608, 40}},
+        {{"BackMask2", {}, {}, -1}, u"BackMask2", 255, {0, -184, 608, 88}},
+        {{"PFLine", {}, {}, line}, u"PFLINE", 255, {0, 204, 608, 36}},
+        {{"YearLine", {}, {}, -1}, u"YearLine", 255, {-190, 52, 200, 2}},
+        {{"PlayLine", {}, {}, -1}, u"PlayLine", 255, {-190, -20, 200, 2}},
+    };
+}
+
+std::vector<ChannelPicture> Channel_Game_Picture() {
+    return {
+        {{"Shade", {}, {}, shadow}, u"Shade", 255, {6, -6, 256, 200}},
+        {{"VCPicSha", {}, {}, -1, {{game}, {ramp}, {mask}}, {TintedGame, FadeByRamp, MaskWithoutIt}},
+         u"VCPicSha", 255, {0, -150, 224, 132}, {.sets = {UpsideDown, WholeSet, UpsideDown}}},
+        {{"VCPicBase", {}, {}, mask}, u"VCPicBase", 255, {0, 0, 234, 178}},
+        {{"VCPic", {}, {}, -1, {{game}, {mask}}, {GameColors, CutToMask}},
+         u"VCPic", 255, {0, 0, 224, 168}, {.sets = {WholeSet, WholeSet}}},
+    };
+}
+
+/// Which pictures a banner has.
+enum class BannerKind { plain, channel };
+
 /// The sections of a banner, put together in the order that the format asks for.
 class Banner {
  public:
-    Banner() {
-        for (const Picture& picture : Pictures) {
-            const unsigned material =
-                materials_.Add(picture.name, picture.element, picture.texture);
-            panes_.push_back(Picture_Section(picture.name, material, picture.place));
-        }
-        Add_Text("T_PF", u"T_PF", Sample.system, {190, 205, 200, 26}, 18);
+    explicit Banner(BannerKind kind = BannerKind::plain) {
+        kind == BannerKind::plain ? Add_Pictures() : Add_Channel_Pictures();
+        Add_Text("T_PF", u"T_PF", Sample.system, {160, 205, 280, 26}, 16.64F);
     }
 
     /// The four texts of one language and its group. The group has three members: the title, the
@@ -156,6 +225,29 @@ class Banner {
     }
 
  private:
+    void Add_Pictures() {
+        for (const Picture& picture : Pictures) {
+            const unsigned material =
+                materials_.Add(picture.name, picture.element, picture.texture);
+            panes_.push_back(Picture_Section(picture.name, material, picture.place));
+        }
+    }
+
+    void Add_Channel_Picture(const ChannelPicture& picture) {
+        const unsigned material =
+            materials_.Add(picture.material, picture.element, picture.alpha);
+        panes_.push_back(
+            Picture_Section(picture.material.name, material, picture.place, picture.look));
+    }
+
+    void Add_Channel_Pictures() {
+        for (const ChannelPicture& picture : Channel_Background()) Add_Channel_Picture(picture);
+        panes_.push_back(Pane_Section("N_VCPic", {130, 44, 0, 0}, true));
+        panes_.push_back(Empty_Section("pas1"));
+        for (const ChannelPicture& picture : Channel_Game_Picture()) Add_Channel_Picture(picture);
+        panes_.push_back(Empty_Section("pae1"));
+    }
+
     void Add_Text(const std::string& name, std::u16string_view element, std::u16string_view text,
                   Place place, float font_size) {
         const unsigned material = materials_.Add(name, element);
@@ -183,9 +275,10 @@ std::string Seven_Language_Banner() {
 }
 
 std::string Channel_Banner() {
-    Banner banner;
+    Banner banner(BannerKind::channel);
     for (const std::u16string_view code : Languages) banner.Add_Language(code);
-    return banner.File(true, {"my_BackSample_a.tpl", "VCPic.tpl", "my_Shade_a.tpl"});
+    return banner.File(true, {"my_BackSample_a.tpl", "VCPic.tpl", "my_TVW_a.tpl", "my_Grad_b.tpl",
+                              "my_Shade_a.tpl", "my_VCLine_e.tpl"});
 }
 
 std::string Channel_Icon() {

@@ -107,22 +107,37 @@ std::string Texture(const std::string& name) {
             return Pixel{0.9, 0.4, 0.1 + x / 224.0, inside ? 1.0 : 0.0};
         });
     }
-    if (name == "my_VCLine_e") {
-        return Texture_File(ia4, 128, 64, [](int x, int y) {
-            return Pixel{0, x / 127.0, 0, y / 63.0};
+    if (name == "my_VCLine_e") {  // a band that ends in a bright line
+        return Texture_File(ia4, 128, 64, [](int, int y) {
+            const bool is_line = y >= 58;
+            return Pixel{0, is_line ? 1.0 : y / 116.0, 0, is_line ? 1.0 : 0.4 + y / 116.0};
         });
     }
-    if (name == "my_BackSample_a") {
+    if (name == "my_BackSample_a") {  // a comet in each square
         return Texture_File(i4, 512, 64, [](int x, int y) {
-            const double distance = std::hypot(x % 64 - 32, y - 32);
-            return Grey(std::clamp(0.5 - std::abs(distance - 20) + 4, 0.0, 1.0));
+            const double across = x % 64 - 40, down = y - 32;
+            const double head = 9 - std::hypot(across, down);
+            const double tail = across < 0 ? 7 * (1 + across / 36) - std::abs(down) : 0;
+            return Grey(std::clamp(std::max(head, tail), 0.0, 1.0));
         });
     }
-    const int small = name == "my_Beta16x16_a" || name == "Back_a" ? 16 : 32;
-    const int width = name == "my_TVW_a" ? 128 : name == "my_Grad_b" ? 8 : small;
-    const int height = name == "my_TVW_a" ? 128 : small;
-    return Texture_File(i4, width, height,
-                        [=](int x, int y) { return Grey(1.0 * (y + x % 2) / height); });
+    if (name == "my_TVW_a") {  // the shape of a screen
+        return Texture_File(i4, 128, 128, [](int x, int y) {
+            const double across = std::max(std::abs(x - 63.5) - 52, 0.0);
+            const double down = std::max(std::abs(y - 63.5) - 48, 0.0) * 0.75;
+            return Grey(std::clamp(11 - std::hypot(across, down), 0.0, 1.0));
+        });
+    }
+    if (name == "my_Shade_a") {  // soft at its sides
+        return Texture_File(i4, 32, 32, [](int x, int y) {
+            const double side = std::max(std::abs(x - 15.5), std::abs(y - 15.5)) / 15.5;
+            return Grey(std::clamp((1 - side) * 5, 0.0, 1.0) * 0.5);
+        });
+    }
+    if (name == "my_Grad_b") {  // a ramp from top to bottom
+        return Texture_File(i4, 8, 32, [](int, int y) { return Grey(y / 31.0); });
+    }
+    return Texture_File(i4, 16, 16, [](int x, int y) { return Grey((x + y) % 2 == 0 ? 0.2 : 0); });
 }
 
 void Add_Textures(std::vector<PackedFile>& files, const std::vector<std::string>& names) {
@@ -133,13 +148,21 @@ void Add_Textures(std::vector<PackedFile>& files, const std::vector<std::string>
 
 std::string Banner_Content() {
     const std::vector<Curve> start = {
-        {"VCPic", false, "RLVC", 16, {{0, 0, 0}, {60, 0, 0}, {120, 255, 0}}},
-        {"VCPic", false, "RLPA", 0, {{0, 400, 0}, {120, 120, 0}}},
+        {"N_VCPic", false, "RLVC", 16, {{0, 0, 0}, {60, 0, 0}, {120, 255, 0}}},
+        {"N_VCPic", false, "RLPA", 0, {{0, 400, 0}, {120, 130, 0}}},
+        {"Back1", true, "RLTS", 0, {{0, -1, 0.02F}, {210, 0, 0.001F}}},
+        {"Back2", true, "RLTS", 0, {{0, 1, -0.02F}, {210, 0, -0.001F}}},
+        {"Back3", true, "RLTS", 0, {{0, -1, 0.02F}, {210, 0, 0.001F}}},
+        {"Back4", true, "RLTS", 0, {{0, 1, -0.02F}, {210, 0, -0.001F}}},
+    };
+    const auto along = [](const char* name, float by) {
+        return Curve{name, true, "RLTS", 0, {{0, 0, by / 3998}, {3998, by, by / 3998}}};
     };
     const std::vector<Curve> loop = {
-        {"VCPic", false, "RLVC", 16, {{0, 255, 0}, {3998, 255, 0}}},
-        {"VCPic", false, "RLPA", 1, {{0, 20, 0}, {2000, 24, 0}, {3998, 20, 0}}},
-        {"Back0", true, "RLTS", 0, {{0, 0, 0}, {3998, 4, 0}}},
+        {"N_VCPic", false, "RLVC", 16, {{0, 255, 0}, {3998, 255, 0}}},
+        {"N_VCPic", false, "RLPA", 0, {{0, 130, 0}, {3998, 130, 0}}},
+        {"N_VCPic", false, "RLPA", 1, {{0, 44, 0}, {2000, 48, 0}, {3998, 44, 0}}},
+        along("Back1", 4), along("Back2", -4), along("Back3", 4), along("Back4", -4),
     };
     std::string layout = Channel_Banner();
     layout.resize(12000, '\0');  // the room that channels reserve

@@ -11,9 +11,9 @@ namespace {
 constexpr std::uint32_t TextOffset = 0x74;
 
 /// The part that panes of every kind share.
-void Append_Pane(ByteWriter& out, std::string_view name, Place place) {
-    constexpr unsigned Visible = 1, Centred = 4, Opaque = 255;
-    out.U8(Visible).U8(Centred).U8(Opaque).U8(0).Name(name, 16).Zeros(8);
+void Append_Pane(ByteWriter& out, std::string_view name, Place place, bool passes_alpha = false) {
+    constexpr unsigned Visible = 1, PassesAlpha = 2, Centred = 4, Opaque = 255;
+    out.U8(passes_alpha ? Visible | PassesAlpha : Visible).U8(Centred).U8(Opaque).U8(0).Name(name, 16).Zeros(8);
     out.F32(place.x).F32(place.y).F32(0);  // translation
     out.F32(0).F32(0).F32(0);              // rotation
     out.F32(1).F32(1);                     // scale
@@ -24,19 +24,34 @@ void Append_Color(ByteWriter& out, const Rgba& color) {
     for (const std::int16_t component : color) out.U16(static_cast<std::uint16_t>(component));
 }
 
+void Append_Stage(ByteWriter& out, const StageSpec& stage) {
+    constexpr unsigned VertexColors = 4, Clamped = 1;
+    out.U8(stage.map).U8(VertexColors).U8(stage.map).U8(0);
+    const auto append = [&](const std::array<unsigned, 4>& inputs, unsigned operation) {
+        out.U8(inputs[0] | inputs[1] << 4).U8(inputs[2] | inputs[3] << 4);
+        out.U8(operation).U8(Clamped);
+    };
+    append(stage.color, 0);
+    append(stage.alpha, stage.subtracts_alpha ? 1 : 0);
+    out.U32(0);
+}
+
 std::string One_Material(const Material& material) {
-    constexpr std::uint32_t OneMapOneTransformOneGenerator = 0x111;
     ByteWriter out;
     out.Name(material.name, 20);
     Append_Color(out, material.first);
     Append_Color(out, material.second);
     Append_Color(out, {255, 255, 255, 255});
     for (int tev = 0; tev < 4; ++tev) out.U32(0xFFFFFFFF);
-    if (material.texture < 0) return out.U32(0).Data();
-    out.U32(OneMapOneTransformOneGenerator);
-    out.U16(static_cast<unsigned>(material.texture)).U8(0).U8(0);
-    out.F32(0).F32(0).F32(0).F32(1).F32(1);
-    out.U8(1).U8(4).U8(30).U8(0);
+    std::vector<TextureUse> uses = material.more;
+    if (material.texture >= 0) uses = {{static_cast<unsigned>(material.texture), 0, 0}};
+    const auto textures = static_cast<std::uint32_t>(uses.size());
+    const auto stages = static_cast<std::uint32_t>(material.stages.size());
+    out.U32(textures * 0x111 | stages << 18);  // as many maps, transforms and generators
+    for (const TextureUse& use : uses) out.U16(use.texture).U8(use.wrap_s).U8(use.wrap_t);
+    for (std::uint32_t i = 0; i < textures; ++i) out.F32(0).F32(0).F32(0).F32(1).F32(1);
+    for (std::uint32_t i = 0; i < textures; ++i) out.U8(1).U8(4 + i).U8(30 + 3 * i).U8(0);
+    for (const StageSpec& stage : material.stages) Append_Stage(out, stage);
     return out.Data();
 }
 
@@ -103,22 +118,25 @@ std::string Text_Box_Section(const TextBoxSpec& box) {
     body.U16(box.buffer_length).U16(box.text_length).U16(box.material).U16(0);
     body.U8(4).U8(0).Zeros(2).U32(TextOffset);  // centred
     body.U32(box.color).U32(box.color);
-    body.F32(box.font_size).F32(box.font_size).F32(0).F32(0);
+    body.F32(box.font_size).F32(box.font_size * 38 / 32).F32(0).F32(0);  // as the console's font
     return Section("txt1", body.Bytes(box.stored).Data());
 }
 
-std::string Pane_Section(std::string_view name, Place place) {
+std::string Pane_Section(std::string_view name, Place place, bool passes_alpha) {
     ByteWriter body;
-    Append_Pane(body, name, place);
+    Append_Pane(body, name, place, passes_alpha);
     return Section("pan1", body.Data());
 }
 
-std::string Picture_Section(std::string_view name, unsigned material, Place place) {
+std::string Picture_Section(std::string_view name, unsigned material, Place place,
+                            const PictureLook& look) {
     ByteWriter body;
     Append_Pane(body, name, place);
-    for (int corner = 0; corner < 4; ++corner) body.U32(0xFFFFFFFF);
-    body.U16(material).U8(1).U8(0);
-    for (const float coordinate : {0.F, 0.F, 1.F, 0.F, 0.F, 1.F, 1.F, 1.F}) body.F32(coordinate);
+    for (const std::uint32_t color : look.colors) body.U32(color);
+    body.U16(material).U8(static_cast<unsigned>(look.sets.size())).U8(0);
+    for (const auto& set : look.sets) {
+        for (const float coordinate : set) body.F32(coordinate);
+    }
     return Section("pic1", body.Data());
 }
 

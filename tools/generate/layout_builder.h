@@ -36,12 +36,36 @@ class ByteWriter {
 /// Red, green, blue, alpha.
 using Rgba = std::array<std::int16_t, 4>;
 
-/// One entry of the material list, with one texture where `texture` is not negative.
+/// A texture of a material, by its index; it goes on beyond its sides clamped, repeated (1) or
+/// mirrored (2).
+struct TextureUse {
+    unsigned texture = 0, wrap_s = 0, wrap_t = 0;
+};
+
+/// A stage of a colour computation: the texture with the coordinates of the same number, and a, b,
+/// c, d by the format's numbers. It adds, or subtracts in its alpha, and clamps.
+struct StageSpec {
+    unsigned map = 0;
+    std::array<unsigned, 4> color{15, 15, 15, 0}, alpha{7, 7, 7, 0};
+    bool subtracts_alpha = false;
+};
+
+/// One entry of the material list, with one texture where `texture` is not negative, or with those
+/// of `more`. Each has coordinates of its own, which can be moved.
 struct Material {
     std::string name;
     Rgba first{0, 0, 0, 0};
     Rgba second{255, 255, 255, 255};
     int texture = -1;
+    std::vector<TextureUse> more{};
+    std::vector<StageSpec> stages{};
+};
+
+/// How a picture is drawn: its corners' colours, and where its textures' corners lie, both in the
+/// order left top, right top, left bottom, right bottom.
+struct PictureLook {
+    std::array<std::uint32_t, 4> colors{0xFFFFFFFF, 0xFFFFFFFF, 0xFFFFFFFF, 0xFFFFFFFF};
+    std::vector<std::array<float, 8>> sets{{0, 0, 1, 0, 0, 1, 1, 1}};
 };
 
 /// Where a pane lies and how large it is, in units of the banner's 608 x 456 screen.
@@ -68,10 +92,12 @@ TextBoxSpec Clean_Text_Box(std::string_view name, std::u16string_view text, unsi
 /// A section: tag, size and body, filled up to a multiple of four bytes.
 std::string Section(std::string_view tag, std::string_view body);
 
-/// The sections "txt1", "pan1", "pic1" (one texture, drawn whole) and "mat1".
+/// The sections "txt1", "pan1", "pic1" and "mat1". A plain pane that passes its alpha on fades what
+/// is in it.
 std::string Text_Box_Section(const TextBoxSpec& box);
-std::string Pane_Section(std::string_view name, Place place);
-std::string Picture_Section(std::string_view name, unsigned material, Place place);
+std::string Pane_Section(std::string_view name, Place place, bool passes_alpha = false);
+std::string Picture_Section(std::string_view name, unsigned material, Place place,
+                            const PictureLook& look = {});
 std::string Material_Section(const std::vector<Material>& materials);
 /// A list of names: "txl1" for textures, "fnl1" for fonts.
 std::string Name_List_Section(std::string_view tag, const std::vector<std::string>& names);
