@@ -5,12 +5,14 @@
 #include <QLineEdit>
 #include <QScreen>
 #include <QScrollArea>
+#include <QTabWidget>
 #include <QVBoxLayout>
 #include <array>
 #include <map>
 #include <utility>
 
 #include "desktop/binding.h"
+#include "desktop/live_view_widget.h"
 #include "desktop/preview_view.h"
 #include "desktop/text.h"
 #include "desktop/widgets.h"
@@ -30,7 +32,11 @@ ColorWindowView::ColorWindowView(frmColor& window, std::function<void()> closed,
     rows->addLayout(Make_Bar(window));
     rows->addLayout(upper);
     rows->addLayout(lower);
-    rows->addWidget(new PreviewView(window.preview), 1);
+    auto* previews = new QTabWidget;
+    previews->setDocumentMode(true);
+    previews->addTab(new PreviewView(window.preview), "Pre&view");
+    previews->addTab(new LiveViewWidget(window.live), "&As the console draws it");
+    rows->addWidget(previews, 1);
     auto* scrolled = new QScrollArea;
     scrolled->setFrameStyle(QFrame::NoFrame);
     scrolled->setFocusPolicy(Qt::NoFocus);

@@ -7,6 +7,7 @@
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QSplitter>
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QUrl>
@@ -16,6 +17,7 @@
 #include "desktop/color_window_view.h"
 #include "desktop/fonts.h"
 #include "desktop/game_picture_view.h"
+#include "desktop/live_view_widget.h"
 #include "desktop/text.h"
 #include "desktop/text_editor_view.h"
 #include "desktop/widgets.h"
@@ -70,12 +72,16 @@ MainWindowView::MainWindowView(Form1& window) : window_(window) {
     connect(&drag_ended_, &QTimer::timeout, this, &MainWindowView::Take_Dropped_File);
     auto* content = new QWidget;
     auto* rows = new QVBoxLayout(content);
-    rows->addWidget(Make_Pages());
+    auto* halves = new QSplitter;
+    halves->setChildrenCollapsible(false);
+    halves->addWidget(Make_Pages());
+    halves->addWidget(new LiveViewWidget(window_.live));
+    halves->setStretchFactor(1, 1);
+    rows->addWidget(halves, 1);
     rows->addWidget(Make_File_Frame());
     auto* save = Make_Button("&Save Changes", "Write the layout file", QKeySequence::Save,
                              [this] { window_.cmdSave_Click(); });
     rows->addWidget(save);
-    rows->addStretch();
     setCentralWidget(content);
     Make_Status_Line();
     // A file is dropped on the window, not into the text under the pointer.

@@ -24,11 +24,38 @@ Form1::Form1(Process process, Desktop& desktop)
       NoneRegion(opened_.banner.Neutral()),
       info(opened_.banner, [this](const Edit& edit) { Apply(edit); }),
       names(opened_.banner, [this](const Edit& edit) { Apply(edit); }),
+      live({opened_.banner, [this] { return Unset_Edits(); }, [this] { return Language_Of_Name(); },
+            process.program_folder},
+           desktop),
       cmbForce({LanguageList.begin(), LanguageList.end()}),
       process_(std::move(process)),
       desktop_(desktop) {
     txtSrc.Change = [this] { txtSrc_Change(); };
     cmbLogo.picture_of = [this](int index) { return Logo_Picture(index); };
+    Watch_Fields();
+}
+
+/// What stands in the fields is seen at once.
+void Form1::Watch_Fields() {
+    for (TextBox* box :
+         {&info.txtName, &info.txtYear, &info.txtPlayers, &info.txtESRB, &info.txtSystem}) {
+        box->Change = [this] { live.Take_Changes(); };
+    }
+    cmbFileList.Click = [this] { live.Take_Changes(); };
+}
+
+std::u16string Form1::Language_Of_Name() const {
+    return info.cmbRegion[static_cast<std::size_t>(Field::title)].Selected();
+}
+
+/// As Set would write them.
+std::vector<Edit> Form1::Unset_Edits() const {
+    std::vector<Edit> edits = info.Unset_Edits();
+    if (cmbFileList.Index() > 0) {
+        edits.emplace_back(
+            ApplyScheme{Scheme_Path(process_.program_folder, cmbFileList.Selected())});
+    }
+    return edits;
 }
 
 bool Form1::Form_Load() {
@@ -51,6 +78,7 @@ void Form1::txtSrc_Change() {
     opened_ = Open_Layout(process_.program_folder, txtSrc.Text(), Banner::MostHistory);
     if (opened_.banner.Is_Loaded()) info.Refill();
     names.Refill();
+    live.Take_Banner();
     Read_Archive();
     lblLastCommand.Set(u"");
     Tell_What_Is_Loaded();
@@ -59,6 +87,7 @@ void Form1::txtSrc_Change() {
 bool Form1::Apply(const Edit& edit) {
     const auto applied = opened_.banner.Apply(edit);
     if (!applied) desktop_.Report(applied.Why());
+    live.Take_Changes();
     return static_cast<bool>(applied);
 }
 
@@ -109,7 +138,9 @@ std::optional<Picture> Form1::Logo_Picture(int index) const {
 void Form1::cmdEditColor_Click() {
     ColorWindow =
         std::make_unique<frmColor>(MainWindowForColors{form, txtSrc, cmbFileList, info.cmbRegion,
-                                                       [this] { return info.Texts(); }},
+                                                       [this] { return info.Texts(); },
+                                                       opened_.banner,
+                                                       [this] { return Unset_Edits(); }},
                                    process_.program_folder, desktop_);
     ColorWindowMade.Raise();
     ColorWindow->Form_Load();
@@ -148,6 +179,7 @@ void Form1::cmdPicture_Click() {
     }
     const auto apply = [this](const Edit& edit) {
         if (!Apply(edit)) return;
+        live.Take_Banner();
         lblLastCommand.Set(u"Game picture: the next save writes it");
         Tell_What_Is_Loaded();
     };

@@ -14,6 +14,7 @@
 #include "forms/controls.h"
 #include "forms/desktop.h"
 #include "gamepicture/game_picture.h"
+#include "liveview/live_view.h"
 #include "mainwindow/channel_names.h"
 #include "mainwindow/game_info.h"
 #include "mainwindow/layout_file.h"
@@ -40,6 +41,7 @@ class Form1 {
     Form form;
     GameInfo info;
     ChannelNamesPage names;
+    LiveView live;   ///< with the texts as they stand in the fields, and the chosen scheme
     TextBox txtSrc;  ///< the layout's path as typed; a change runs `txtSrc_Change`
     /// Read by each save, see `Read_Padding`.
     TextBox txtPad{std::u16string(DefaultPadding)};
@@ -126,6 +128,9 @@ class Form1 {
     Result<> Check_Save() const;
     bool Save_Is_Wanted();
     std::vector<Edit> Chosen_Edits() const;
+    std::vector<Edit> Unset_Edits() const;
+    std::u16string Language_Of_Name() const;
+    void Watch_Fields();
     Result<SavePlan> Save();
 
     void Tell_Changes(std::u16string_view command, const std::string& before);

@@ -29,6 +29,10 @@ TextBox& GameInfo::Box_Of_Field(std::size_t field) {
     return *std::array{&txtName, &txtYear, &txtPlayers, &txtESRB}[field];
 }
 
+const TextBox& GameInfo::Box_Of_Field(std::size_t field) const {
+    return *std::array{&txtName, &txtYear, &txtPlayers, &txtESRB}[field];
+}
+
 std::u16string GameInfo::Selected_Text(Field field) const {
     const DropDownList& list = cmbRegion[static_cast<std::size_t>(field)];
     return Read_Box(BrlytData, Box_To_Read(field, list.Selected()));
@@ -85,6 +89,22 @@ void GameInfo::cmdSetAll_Click(std::int16_t Index) {
     } else {
         apply_(WriteBox{std::u16string(SystemBox), txtSystem.Text()});
     }
+}
+
+std::vector<Edit> GameInfo::Unset_Edits() const {
+    std::vector<Edit> edits;
+    for (std::size_t i = 0; i < cmbRegion.size(); ++i) {
+        const auto field = static_cast<Field>(i);
+        const std::u16string& typed = Box_Of_Field(i).Text();
+        const std::u16string code = cmbRegion[i].Selected();
+        if (code.empty() || typed == Bare_Value(field, Selected_Text(field), code)) continue;
+        if (field == Field::players) edits.emplace_back(SetFieldEverywhere{field, typed});
+        else edits.emplace_back(SetField{field, code, typed});
+    }
+    if (txtSystem.Text() != Read_Box(BrlytData, SystemBox)) {
+        edits.emplace_back(WriteBox{std::u16string(SystemBox), txtSystem.Text()});
+    }
+    return edits;
 }
 
 PreviewTexts GameInfo::Texts() const {

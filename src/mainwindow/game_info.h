@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "banner/banner.h"
 #include "colors/window/preview.h"
@@ -47,11 +48,15 @@ class GameInfo {
     /// players, 3 system, 4 rating; else nothing.
     void cmdSetAll_Click(std::int16_t Index);
 
+    /// What Set would write for each field that differs from what the banner has.
+    std::vector<Edit> Unset_Edits() const;
+
     /// What the colour window's preview shows of the fields.
     PreviewTexts Texts() const;
 
  private:
     TextBox& Box_Of_Field(std::size_t field);
+    const TextBox& Box_Of_Field(std::size_t field) const;
     std::u16string Selected_Text(Field field) const;
 
     const std::string& BrlytData;

@@ -355,14 +355,18 @@ bool Show_Language(Scene& scene, std::string_view code) {
     return shown != nullptr || !has_languages;
 }
 
-std::string Usual_Language(const Scene& scene) {
-    std::string first;
+std::vector<std::string> Languages_Of(const Scene& scene) {
+    std::vector<std::string> codes;
     for (const Group& group : scene.groups) {
-        if (!Is_Of_A_Language(group)) continue;
-        if (group.name == "ENG") return group.name;
-        if (first.empty()) first = group.name;
+        if (Is_Of_A_Language(group)) codes.push_back(group.name);
     }
-    return first;
+    return codes;
+}
+
+std::string Usual_Language(const Scene& scene) {
+    const std::vector<std::string> codes = Languages_Of(scene);
+    if (codes.empty()) return {};
+    return std::find(codes.begin(), codes.end(), "ENG") == codes.end() ? codes.front() : "ENG";
 }
 
 }  // namespace bannersmith::still

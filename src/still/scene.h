@@ -142,6 +142,9 @@ Scene Read_Scene(std::string_view layout);
 /// that its region would take. False where there are groups of languages and none is shown.
 bool Show_Language(Scene& scene, std::string_view code);
 
+/// The codes of the languages that the layout has groups for, in their order.
+std::vector<std::string> Languages_Of(const Scene& scene);
+
 /// The code of the language to be shown where none is asked for: English, or else the first that
 /// the layout has a group for; empty where it has none.
 std::string Usual_Language(const Scene& scene);

@@ -53,6 +53,10 @@ std::u16string VbColor2RGB(Color color) {
 
 frmColor::frmColor(MainWindowForColors main, std::u16string program_folder, Desktop& desktop)
     : preview(desktop),
+      live({main.banner, [this] { return Unset_Edits(); },
+            [this] { return main_.cmbRegion[static_cast<std::size_t>(Field::title)].Selected(); },
+            program_folder},
+           desktop),
       main_(std::move(main)),
       program_folder_(std::move(program_folder)),
       desktop_(desktop) {
@@ -204,6 +208,17 @@ void frmColor::Load_Scheme_Colors(std::u16string_view name) {
 
 void frmColor::MakePreview() {
     preview.Draw(Colors(), main_.texts());
+    live.Take_Changes();
+}
+
+/// What is typed in the main window, in the boxes' colours.
+std::vector<Edit> frmColor::Unset_Edits() const {
+    std::vector<Edit> edits = main_.unset();
+    SetColors colors;
+    const Scheme scheme = Colors();
+    for (std::size_t i = 0; i < scheme.size(); ++i) colors.pairs[i] = scheme[i];
+    edits.emplace_back(std::move(colors));
+    return edits;
 }
 
 }  // namespace bannersmith

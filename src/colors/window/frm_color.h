@@ -7,11 +7,13 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "colors/scheme.h"
 #include "colors/window/preview.h"
 #include "forms/controls.h"
 #include "forms/desktop.h"
+#include "liveview/live_view.h"
 
 namespace bannersmith {
 
@@ -23,6 +25,8 @@ struct MainWindowForColors {
     /// The languages of the text colours, by their `Field`.
     const std::array<DropDownList, FieldPrefixes.size()>& cmbRegion;
     std::function<PreviewTexts()> texts;  ///< what the preview shows now
+    const Banner& banner;                 ///< the one that is open
+    std::function<std::vector<Edit>()> unset;  ///< what was typed there and not yet set
 };
 
 /// The colour window as state and events. Closing it is the main window's to do.
@@ -45,6 +49,7 @@ class frmColor {
     ColorBox picClr;                             ///< the same as a swatch
     Label lblEdit;                               ///< the box being edited: key, blank, 0 or 1
     Preview preview;
+    LiveView live;  ///< the banner in the colours of the boxes
 
     /// Fills this window's list and takes path and scheme over from the main window.
     void Form_Load();
@@ -87,6 +92,7 @@ class frmColor {
     void Show_Components(Color color);
     void Read_Element_Set(std::string_view data);
     Scheme Colors() const;
+    std::vector<Edit> Unset_Edits() const;
 
     MainWindowForColors main_;
     std::u16string program_folder_;

@@ -1,0 +1,148 @@
+#include "desktop/live_view_widget.h"
+
+#include <QEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QToolTip>
+
+#include "base/text.h"
+#include "desktop/binding.h"
+#include "desktop/text.h"
+#include "desktop/widgets.h"
+
+namespace bannersmith {
+
+namespace {
+
+constexpr int ClockMilliseconds = 16;  // the console's sixty frames a second
+
+QComboBox* Make_List(DropDownList& list, const QString& name) {
+    auto* combo = new ListBox;
+    combo->setToolTip(name);
+    combo->setAccessibleName(name);
+    combo->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    Bind(*combo, list);
+    return combo;
+}
+
+}  // namespace
+
+LivePicture::LivePicture(LiveView& live) : live_(live) {
+    setAccessibleName("The banner as the console draws it");
+}
+
+void LivePicture::Take() {
+    const Picture& picture = live_.picture.Value();
+    const auto width = static_cast<int>(picture.width), height = static_cast<int>(picture.height);
+    image_ = QImage();
+    if (!picture.texels.empty()) {
+        image_ = QImage(reinterpret_cast<const uchar*>(picture.texels.data()), width, height,
+                        width * 4, QImage::Format_RGBX8888);
+    }
+    update();
+}
+
+/// Where the picture lies: in the middle, its sides as they are to each other.
+QRectF LivePicture::Place() const {
+    const QSizeF size = QSizeF(image_.size()).scaled(QSizeF(rect().size()), Qt::KeepAspectRatio);
+    return {QPointF((width() - size.width()) / 2, (height() - size.height()) / 2), size};
+}
+
+void LivePicture::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.fillRect(rect(), Qt::black);
+    if (image_.isNull()) {
+        painter.setPen(Qt::lightGray);
+        painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, Shown(live_.lblAbout.Caption()));
+        return;
+    }
+    const QRectF place = Place();
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(place, image_);
+    painter.setClipRect(place);
+    painter.translate(place.topLeft());
+    const double scale = place.width() / image_.width();
+    for (const still::Region& region : live_.Regions()) {
+        if (region.missing.empty()) continue;
+        QPolygonF outline;
+        for (const std::size_t corner : {0, 1, 3, 2}) {
+            outline << QPointF(region.corners[corner].x, region.corners[corner].y) * scale;
+        }
+        painter.setPen(QPen(Qt::gray, 1, Qt::DashLine));
+        painter.drawPolygon(outline);
+        painter.setPen(Qt::lightGray);
+        painter.drawText(outline.boundingRect().adjusted(3, 3, -3, -3), Qt::AlignCenter,
+                         Shown(From_Utf8(region.pane)));
+    }
+}
+
+bool LivePicture::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) return QWidget::event(event);
+    const auto* help = static_cast<QHelpEvent*>(event);
+    const QRectF place = Place();
+    const double scale = image_.isNull() ? 1 : place.width() / image_.width();
+    const QPointF at = (QPointF(help->pos()) - place.topLeft()) / scale;
+    const QString text = Shown(live_.What_Is_At(static_cast<float>(at.x()),
+                                                static_cast<float>(at.y())));
+    QToolTip::showText(help->globalPos(), text, this);
+    return true;
+}
+
+LiveViewWidget::LiveViewWidget(LiveView& live) : live_(live), picture_(new LivePicture(live)) {
+    auto* play = Make_Button("&Play", "Play the animation, from its beginning", {},
+                             [this] { live_.Play_Click(); });
+    auto* save = Make_Button("Sa&ve Picture...", "Write the picture into a PNG file", {},
+                             [this] { live_.Save_Click(); });
+    auto* about = new ElidedLabel;
+    about->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    auto* controls = new QHBoxLayout;
+    controls->addWidget(Make_List(live.cmbPart, "Which part of the channel is shown"));
+    controls->addWidget(Make_List(live.cmbLanguage, "The language that is shown"));
+    controls->addWidget(Make_List(live.cmbWidth, "The shape of the screen"));
+    controls->addStretch();
+    controls->addWidget(play);
+    controls->addWidget(save);
+    auto* rows = new QVBoxLayout(this);
+    rows->setContentsMargins({});
+    rows->addWidget(picture_, 1);
+    rows->addLayout(controls);
+    rows->addWidget(about);
+
+    idle_.setSingleShot(true);
+    clock_.setTimerType(Qt::PreciseTimer);
+    connect(&idle_, &QTimer::timeout, this, [this] { live_.Draw(); });
+    connect(&clock_, &QTimer::timeout, this,
+            [this] { live_.Play_To(static_cast<double>(played_.elapsed()) / 1000); });
+    live_.Wanted = [this] { Draw_Soon(); };
+    live_.picture.Shown = [this] { picture_->Take(); };
+    live_.lblPlay.Shown = [this, play] {
+        play->setText(Shown(live_.lblPlay.Caption()));
+        Follow_Playing();
+    };
+    live_.lblAbout.Shown = [this, about] { about->Show_Text(Shown(live_.lblAbout.Caption())); };
+}
+
+/// Not before all that comes with a change has happened, and not while nobody sees it.
+void LiveViewWidget::Draw_Soon() {
+    if (isVisible() && !idle_.isActive()) idle_.start(0);
+}
+
+void LiveViewWidget::Follow_Playing() {
+    if (!live_.Is_Playing()) return clock_.stop();
+    played_.start();
+    clock_.start(ClockMilliseconds);
+}
+
+void LiveViewWidget::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    Draw_Soon();
+}
+
+void LiveViewWidget::hideEvent(QHideEvent* event) {
+    if (live_.Is_Playing()) live_.Play_Click();
+    QWidget::hideEvent(event);
+}
+
+}  // namespace bannersmith

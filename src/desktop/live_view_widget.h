@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QImage>
+#include <QPushButton>
+#include <QTimer>
+#include <QWidget>
+
+#include "liveview/live_view.h"
+
+namespace bannersmith {
+
+/// The picture of a live view, as large as there is room, its outlines, and what is under the mouse.
+class LivePicture : public QWidget {
+ public:
+    explicit LivePicture(LiveView& live);
+
+    /// Shows what the live view has drawn.
+    void Take();
+
+    QSize sizeHint() const override { return {608, 456}; }
+    QSize minimumSizeHint() const override { return {304, 228}; }
+
+ protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+ private:
+    QRectF Place() const;
+
+    LiveView& live_;
+    QImage image_;
+};
+
+/// A live view with its controls. `live` must outlive it.
+class LiveViewWidget : public QWidget {
+ public:
+    explicit LiveViewWidget(LiveView& live);
+
+ protected:
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
+ private:
+    void Draw_Soon();
+    void Follow_Playing();
+
+    LiveView& live_;
+    LivePicture* picture_;
+    QTimer idle_, clock_;
+    QElapsedTimer played_;
+};
+
+}  // namespace bannersmith
