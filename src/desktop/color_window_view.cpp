@@ -35,7 +35,7 @@ ColorWindowView::ColorWindowView(frmColor& window, std::function<void()> closed,
     auto* previews = new QTabWidget;
     previews->setDocumentMode(true);
     previews->addTab(new PreviewView(window.preview), "Pre&view");
-    previews->addTab(new LiveViewWidget(window.live), "&As the console draws it");
+    previews->addTab(new LiveViewWidget(window.live), "As the console &draws it");
     rows->addWidget(previews, 1);
     auto* scrolled = new QScrollArea;
     scrolled->setFrameStyle(QFrame::NoFrame);

@@ -91,7 +91,7 @@ bool LivePicture::event(QEvent* event) {
 }
 
 LiveViewWidget::LiveViewWidget(LiveView& live) : live_(live), picture_(new LivePicture(live)) {
-    auto* play = Make_Button("&Play", "Play the animation, from its beginning", {},
+    auto* play = Make_Button("Pl&ay", "Play the animation, from its beginning", {},
                              [this] { live_.Play_Click(); });
     auto* save = Make_Button("Sa&ve Picture...", "Write the picture into a PNG file", {},
                              [this] { live_.Save_Click(); });

@@ -37,7 +37,7 @@ LiveView::LiveView(LiveSource source, Desktop& desktop)
       cmbWidth({u"4:3", u"16:9"}),
       source_(std::move(source)),
       desktop_(desktop) {
-    lblPlay.Set(u"&Play");
+    lblPlay.Set(u"Pl&ay");
     for (DropDownList* list : {&cmbLanguage, &cmbPart, &cmbWidth}) list->Select(0);
     cmbLanguage.Click = [this] { Take_Changes(); };
     cmbWidth.Click = [this] { Take_Changes(); };
@@ -146,7 +146,7 @@ void LiveView::Draw() {
 
 void LiveView::Play_Click() {
     is_playing_ = !is_playing_ && still_;
-    lblPlay.Set(is_playing_ ? u"Sto&p" : u"&Play");
+    lblPlay.Set(is_playing_ ? u"St&op" : u"Pl&ay");
     frame_ = is_playing_ || !still_ ? 0 : still_->Start_Frames();
     Want();
 }

@@ -144,7 +144,7 @@ int main(int argc, char** argv) {
     // change.
     const QTemporaryDir copy;
     qputenv("XDG_CONFIG_HOME", copy.path().toUtf8());
-    for (const char* folder : {"cfgs", "samples", "schemes", "logos"}) {
+    for (const char* folder : {"cfgs", "samples", "schemes", "logos", "fonts"}) {
         fs::copy(fs::path(argv[1]) / folder, fs::path(copy.path().toStdString()) / folder,
                  fs::copy_options::recursive);
     }
