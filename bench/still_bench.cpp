@@ -5,9 +5,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "container/archive.h"
 #include "generate/channel.h"
 #include "still/part.h"
-#include "container/archive.h"
 
 namespace bannersmith::still {
 
@@ -45,8 +45,11 @@ void BareFill(benchmark::State& state) {
         const auto pixel = [](float at, float most) {
             return static_cast<std::size_t>(std::clamp(std::ceil(at - 0.5F), 0.F, most));
         };
-        Bare bare{pixel(region.corners[0].x, 608), pixel(region.corners[0].y, 456), pixel(region.corners[3].x, 608),
-                  pixel(region.corners[3].y, 456), {}};
+        Bare bare{pixel(region.corners[0].x, 608),
+                  pixel(region.corners[0].y, 456),
+                  pixel(region.corners[3].x, 608),
+                  pixel(region.corners[3].y, 456),
+                  {}};
         const Material& material = scene.materials[scene.Find_Material(region.material)];
         const Shader shader(material);
         for (const Tap& tap : shader.Taps()) {
@@ -60,12 +63,14 @@ void BareFill(benchmark::State& state) {
     const Lanes color = Everywhere(77);
     for (auto _ : state) {
         for (Bare& bare : all) {
-            const double width = static_cast<double>(bare.right - bare.left), height = static_cast<double>(bare.bottom - bare.top);
+            const double width = static_cast<double>(bare.right - bare.left),
+                         height = static_cast<double>(bare.bottom - bare.top);
             for (std::size_t y = bare.top; y < bare.bottom; ++y) {
                 for (std::size_t x = bare.left; x < bare.right; x += Sampler::MostPixels) {
                     const std::size_t count = std::min(bare.right - x, Sampler::MostPixels);
                     for (Sampler& sampler : bare.samplers) {
-                        const double w = static_cast<double>(sampler.Source().Width()), h = static_cast<double>(sampler.Source().Height());
+                        const double w = static_cast<double>(sampler.Source().Width()),
+                                     h = static_cast<double>(sampler.Source().Height());
                         sampler.Take({static_cast<double>(x - bare.left) * w / width, w / width},
                                      {static_cast<double>(y - bare.top) * h / height, 0}, count, row.data());
                         benchmark::DoNotOptimize(row.data());

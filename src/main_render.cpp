@@ -66,8 +66,7 @@ void Tell(const Failure& failure) {
 
 std::optional<std::size_t> Number(std::string_view text, int base = 10) {
     std::size_t number = 0;
-    const auto [end, error] =
-        std::from_chars(text.data(), text.data() + text.size(), number, base);
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number, base);
     if (error != std::errc() || end != text.data() + text.size()) return {};
     return number;
 }

@@ -55,7 +55,8 @@ void LivePicture::paintEvent(QPaintEvent* /*event*/) {
     painter.fillRect(rect(), Qt::black);
     if (image_.isNull()) {
         painter.setPen(Qt::lightGray);
-        painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, Shown(live_.lblAbout.Caption()));
+        painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap,
+                         Shown(live_.lblAbout.Caption()));
         return;
     }
     const QRectF place = Place();
@@ -84,8 +85,8 @@ bool LivePicture::event(QEvent* event) {
     const QRectF place = Place();
     const double scale = image_.isNull() ? 1 : place.width() / image_.width();
     const QPointF at = (QPointF(help->pos()) - place.topLeft()) / scale;
-    const QString text = Shown(live_.What_Is_At(static_cast<float>(at.x()),
-                                                static_cast<float>(at.y())));
+    const QString text =
+        Shown(live_.What_Is_At(static_cast<float>(at.x()), static_cast<float>(at.y())));
     QToolTip::showText(help->globalPos(), text, this);
     return true;
 }

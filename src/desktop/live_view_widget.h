@@ -10,7 +10,8 @@
 
 namespace bannersmith {
 
-/// The picture of a live view, as large as there is room, its outlines, and what is under the mouse.
+/// The picture of a live view, as large as there is room, its outlines, and what is under the
+/// mouse.
 class LivePicture : public QWidget {
  public:
     explicit LivePicture(LiveView& live);

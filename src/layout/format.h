@@ -41,7 +41,8 @@ inline constexpr std::size_t EntryBytes = 8;
 
 /// A pane of any kind, from the first byte of its section. Numbers of 4 bytes are IEEE 754 ones.
 namespace pane {
-inline constexpr std::string_view Plain = "pan1", Picture = "pic1", Window = "wnd1", Bounds = "bnd1";
+inline constexpr std::string_view Plain = "pan1", Picture = "pic1", Window = "wnd1",
+                                  Bounds = "bnd1";
 inline constexpr std::size_t Flags = 0x08;
 inline constexpr unsigned IsVisible = 1, PassesAlpha = 2, KeepsShape = 4;  ///< bits of the flags
 inline constexpr std::size_t BasePosition = 0x09;  ///< row x 3 + column of the point at its place
@@ -57,7 +58,8 @@ inline constexpr std::size_t End = 0x4C;
 
 /// What fills a rectangle, in a picture behind the pane, in a window at its content's place.
 namespace surface {
-inline constexpr std::size_t Colors = 0x00;  ///< RGBA of left top, right top, left bottom, right one
+inline constexpr std::size_t Colors =
+    0x00;  ///< RGBA of left top, right top, left bottom, right one
 inline constexpr std::size_t Material = 0x10;  ///< 2 bytes
 inline constexpr std::size_t SetCount = 0x12;  ///< 1 byte
 inline constexpr std::size_t Sets = 0x14;      ///< s and t of each corner, in the colours' order
@@ -84,10 +86,10 @@ inline constexpr std::size_t BufferLength = 0x4C;   ///< 2 bytes: room for the t
 inline constexpr std::size_t TextLength = 0x4E;     ///< 2 bytes: text and terminator, in bytes
 inline constexpr std::size_t FieldsEnd = 0x50;      ///< no text can begin before this offset
 inline constexpr std::size_t Material = 0x50, Font = 0x52;  ///< 2 bytes each: which of the list
-inline constexpr std::size_t Position = 0x54;       ///< row x 3 + column of the text in the box
-inline constexpr std::size_t TextOffset = 0x58;     ///< 4 bytes: where the text begins
+inline constexpr std::size_t Position = 0x54;    ///< row x 3 + column of the text in the box
+inline constexpr std::size_t TextOffset = 0x58;  ///< 4 bytes: where the text begins
 inline constexpr std::size_t TopColor = 0x5C, BottomColor = 0x60;  ///< RGBA
-inline constexpr std::size_t FontSize = 0x64;       ///< width, height
+inline constexpr std::size_t FontSize = 0x64;                      ///< width, height
 inline constexpr std::size_t CharacterSpace = 0x6C, LineSpace = 0x70;
 inline constexpr std::size_t UsualTextOffset = 0x74;
 }  // namespace record
@@ -100,10 +102,10 @@ inline constexpr std::size_t NameBytes = 20;
 inline constexpr std::size_t FirstColor = 0x14;   ///< red, green, blue, alpha: signed 16 bits each
 inline constexpr std::size_t SecondColor = 0x1C;  ///< the same
 inline constexpr std::size_t ColorsEnd = 0x24;
-inline constexpr std::size_t ThirdColor = 0x24;      ///< the same
-inline constexpr std::size_t Constants = 0x2C;       ///< four RGBA colours
-inline constexpr std::size_t Counts = 0x3C;          ///< 4 bytes: how many of what stands behind it
-inline constexpr std::size_t Smallest = 0x40;        ///< no material is shorter
+inline constexpr std::size_t ThirdColor = 0x24;  ///< the same
+inline constexpr std::size_t Constants = 0x2C;   ///< four RGBA colours
+inline constexpr std::size_t Counts = 0x3C;      ///< 4 bytes: how many of what stands behind it
+inline constexpr std::size_t Smallest = 0x40;    ///< no material is shorter
 }  // namespace material
 
 /// A group of panes, from the first byte of its section.

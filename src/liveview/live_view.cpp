@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/text.h"
+#include "layout/file_length.h"
 #include "layout/kind.h"
 #include "system/replace_files.h"
 
@@ -71,7 +72,7 @@ bool LiveView::Is_Own_Part() const {
 std::string LiveView::Layout_Now() const {
     Banner banner = Banner::From_Bytes(source_.banner.Bytes(), {}, 0);
     for (const Edit& edit : source_.unset()) static_cast<void>(banner.Apply(edit));
-    return banner.Bytes();
+    return Set_File_Len(banner.Bytes());
 }
 
 void LiveView::Show_Nothing(const std::u16string& why) {

@@ -16,9 +16,9 @@ namespace bannersmith {
 /// What the view shows.
 struct LiveSource {
     const Banner& banner;
-    std::function<std::vector<Edit>()> unset;     ///< what was typed or chosen and not yet set
-    std::function<std::u16string()> language;     ///< the code of the one that is worked on
-    std::u16string program_folder;                ///< where the fonts are
+    std::function<std::vector<Edit>()> unset;  ///< what was typed or chosen and not yet set
+    std::function<std::u16string()> language;  ///< the code of the one that is worked on
+    std::u16string program_folder;             ///< where the fonts are
 };
 
 /// The view as state and events. Nothing is drawn before `Draw`, which a view calls when it has
@@ -30,8 +30,8 @@ class LiveView {
     LiveView(const LiveView&) = delete;
     LiveView& operator=(const LiveView&) = delete;
 
-    /// What of the banner is shown: the language that is worked on, or one of its own; the banner or
-    /// the icon; 4:3 or 16:9.
+    /// What of the banner is shown: the language that is worked on, or one of its own; the banner
+    /// or the icon; 4:3 or 16:9.
     DropDownList cmbLanguage, cmbPart, cmbWidth;
     PictureBox picture;  ///< no texels where there is none
     Label lblPlay;       ///< what the button does: "Play" or "Stop"

@@ -136,12 +136,11 @@ std::optional<Picture> Form1::Logo_Picture(int index) const {
 }
 
 void Form1::cmdEditColor_Click() {
-    ColorWindow =
-        std::make_unique<frmColor>(MainWindowForColors{form, txtSrc, cmbFileList, info.cmbRegion,
-                                                       [this] { return info.Texts(); },
-                                                       opened_.banner,
-                                                       [this] { return Unset_Edits(); }},
-                                   process_.program_folder, desktop_);
+    ColorWindow = std::make_unique<frmColor>(
+        MainWindowForColors{form, txtSrc, cmbFileList, info.cmbRegion,
+                            [this] { return info.Texts(); }, opened_.banner,
+                            [this] { return Unset_Edits(); }},
+        process_.program_folder, desktop_);
     ColorWindowMade.Raise();
     ColorWindow->Form_Load();
     ColorWindow->form.Show();

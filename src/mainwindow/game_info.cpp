@@ -98,8 +98,10 @@ std::vector<Edit> GameInfo::Unset_Edits() const {
         const std::u16string& typed = Box_Of_Field(i).Text();
         const std::u16string code = cmbRegion[i].Selected();
         if (code.empty() || typed == Bare_Value(field, Selected_Text(field), code)) continue;
-        if (field == Field::players) edits.emplace_back(SetFieldEverywhere{field, typed});
-        else edits.emplace_back(SetField{field, code, typed});
+        if (field == Field::players)
+            edits.emplace_back(SetFieldEverywhere{field, typed});
+        else
+            edits.emplace_back(SetField{field, code, typed});
     }
     if (txtSystem.Text() != Read_Box(BrlytData, SystemBox)) {
         edits.emplace_back(WriteBox{std::u16string(SystemBox), txtSystem.Text()});

@@ -94,8 +94,8 @@ class AnimationReader {
             if (!Has_Room(fields, entry, 4, "targets")) return;
             const Fields record = fields.Behind(fields.U32(entry));
             if (!Has_Room(record, 0, target::End, "targets")) return;
-            AnimationTarget read{name_, of_material_, letters, record.U8(target::Id),
-                                 record.U8(target::Number), {}};
+            AnimationTarget read{
+                name_, of_material_, letters, record.U8(target::Id), record.U8(target::Number), {}};
             if (Read_Keys(record, read.curve)) read_.targets.push_back(std::move(read));
         }
     }
@@ -113,8 +113,8 @@ class AnimationReader {
                                      ? Key{keys.F32(at), keys.F32(at + 4), keys.F32(at + 8)}
                                      : Key{keys.F32(at), static_cast<float>(keys.U16(at + 4)), 0});
             const Key& key = curve.keys.back();
-            const bool is_number = std::isfinite(key.frame) && std::isfinite(key.value) &&
-                                   std::isfinite(key.slope);
+            const bool is_number =
+                std::isfinite(key.frame) && std::isfinite(key.value) && std::isfinite(key.slope);
             if (!is_number) curve.keys.pop_back();
         }
         std::stable_sort(curve.keys.begin(), curve.keys.end(),
@@ -138,10 +138,14 @@ std::int16_t Word_Of(float value) {
 }
 
 void Move_Place(Pane& pane, unsigned number, float value) {
-    if (number < 3) pane.translation[number] = value;
-    else if (number < 6) pane.rotation[number - 3] = value;
-    else if (number < 8) pane.scale[number - 6] = value;
-    else if (number < 10) pane.size[number - 8] = value;
+    if (number < 3)
+        pane.translation[number] = value;
+    else if (number < 6)
+        pane.rotation[number - 3] = value;
+    else if (number < 8)
+        pane.scale[number - 6] = value;
+    else if (number < 10)
+        pane.size[number - 8] = value;
 }
 
 /// A text has two colours, of its upper and its lower corners.
@@ -159,9 +163,12 @@ void Move_Vertex_Color(Pane& pane, unsigned number, float value) {
 }
 
 void Move_Material_Color(Material& material, unsigned number, float value) {
-    if (number < 4) material.color[number] = Byte_Of(value);
-    else if (number < 16) material.registers[number / 4 - 1][number % 4] = Word_Of(value);
-    else if (number < 32) material.constants[number / 4 - 4][number % 4] = Byte_Of(value);
+    if (number < 4)
+        material.color[number] = Byte_Of(value);
+    else if (number < 16)
+        material.registers[number / 4 - 1][number % 4] = Word_Of(value);
+    else if (number < 32)
+        material.constants[number / 4 - 4][number % 4] = Byte_Of(value);
 }
 
 void Move_Matrix(TextureMatrix& matrix, unsigned number, float value) {
@@ -211,10 +218,9 @@ void Move_To(Scene& scene, const Animation& animation, float frame) {
         if (target.kind != "RLTP" || target.id >= material.maps.size()) return;
         const auto index = static_cast<std::size_t>(Word_Of(value));
         if (index >= animation.textures.size()) return;
-        const auto named = std::find(scene.textures.begin(), scene.textures.end(),
-                                     animation.textures[index]);
-        material.maps[target.id].texture =
-            static_cast<std::size_t>(named - scene.textures.begin());
+        const auto named =
+            std::find(scene.textures.begin(), scene.textures.end(), animation.textures[index]);
+        material.maps[target.id].texture = static_cast<std::size_t>(named - scene.textures.begin());
         if (named == scene.textures.end()) scene.textures.push_back(animation.textures[index]);
     };
     std::string_view last;
@@ -229,8 +235,10 @@ void Move_To(Scene& scene, const Animation& animation, float frame) {
         }
         if (index == Pane::None) continue;
         const float value = target.curve.At(frame);
-        if (target.of_material) move_material(scene.materials[index], target, value);
-        else Move_Pane(scene.panes[index], target, value);
+        if (target.of_material)
+            move_material(scene.materials[index], target, value);
+        else
+            Move_Pane(scene.panes[index], target, value);
     }
 }
 

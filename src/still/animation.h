@@ -38,7 +38,7 @@ struct AnimationTarget {
 
 /// An animation.
 struct Animation {
-    std::size_t frames = 0;  ///< how many
+    std::size_t frames = 0;             ///< how many
     std::vector<std::string> textures;  ///< that its texture changes name
     std::vector<AnimationTarget> targets;
     std::vector<std::string> faults;  ///< what is broken and so moves nothing

@@ -19,10 +19,14 @@ bool Passes(const AlphaCompare& compare, unsigned alpha) {
     const bool first = Passes(compare.comparisons & 7U, alpha, compare.references[0]);
     const bool second = Passes(compare.comparisons >> 4U & 7U, alpha, compare.references[1]);
     switch (compare.operation & 3) {
-        case 0: return first && second;
-        case 1: return first || second;
-        case 2: return first != second;
-        default: return first == second;
+        case 0:
+            return first && second;
+        case 1:
+            return first || second;
+        case 2:
+            return first != second;
+        default:
+            return first == second;
     }
 }
 
@@ -33,14 +37,22 @@ bool Lets_All_Through(const AlphaCompare& compare) {
 /// A factor of what is drawn or of what is there; `other` is the other one of the two.
 Lanes Factor(unsigned number, Lanes other, Lanes source, Lanes there) {
     switch (number) {
-        case 0: return Lanes{};
-        case 1: return Everywhere(255);
-        case 2: return other;
-        case 3: return 255 - other;
-        case 4: return Spread_Alpha(source);
-        case 5: return 255 - Spread_Alpha(source);
-        case 6: return Spread_Alpha(there);
-        default: return 255 - Spread_Alpha(there);
+        case 0:
+            return Lanes{};
+        case 1:
+            return Everywhere(255);
+        case 2:
+            return other;
+        case 3:
+            return 255 - other;
+        case 4:
+            return Spread_Alpha(source);
+        case 5:
+            return 255 - Spread_Alpha(source);
+        case 6:
+            return Spread_Alpha(there);
+        default:
+            return 255 - Spread_Alpha(there);
     }
 }
 
@@ -51,22 +63,38 @@ Lanes At_Most_255(Lanes sum) {
 Lanes By_Logic(unsigned operation, Lanes source, Lanes there) {
     const Lanes all = Everywhere(255);
     switch (operation & 0xF) {
-        case 0: return Lanes{};
-        case 1: return source & there;
-        case 2: return source & ~there;
-        case 3: return source;
-        case 4: return ~source & there;
-        case 5: return there;
-        case 6: return source ^ there;
-        case 7: return source | there;
-        case 8: return ~(source | there) & all;
-        case 9: return ~(source ^ there) & all;
-        case 10: return ~there & all;
-        case 11: return (source | ~there) & all;
-        case 12: return ~source & all;
-        case 13: return (~source | there) & all;
-        case 14: return ~(source & there) & all;
-        default: return all;
+        case 0:
+            return Lanes{};
+        case 1:
+            return source & there;
+        case 2:
+            return source & ~there;
+        case 3:
+            return source;
+        case 4:
+            return ~source & there;
+        case 5:
+            return there;
+        case 6:
+            return source ^ there;
+        case 7:
+            return source | there;
+        case 8:
+            return ~(source | there) & all;
+        case 9:
+            return ~(source ^ there) & all;
+        case 10:
+            return ~there & all;
+        case 11:
+            return (source | ~there) & all;
+        case 12:
+            return ~source & all;
+        case 13:
+            return (~source | there) & all;
+        case 14:
+            return ~(source & there) & all;
+        default:
+            return all;
     }
 }
 
@@ -78,10 +106,14 @@ Lanes Blended(const BlendMode& mode, Lanes source, Lanes there) {
 
 Lanes Put_Over(const BlendMode& mode, Lanes source, Lanes there) {
     switch (mode.type) {
-        case Blends: return Blended(mode, source, there);
-        case Logic: return By_Logic(mode.logic, source, there);
-        case Subtracts: return there > source ? there - source : Lanes{};
-        default: return source;
+        case Blends:
+            return Blended(mode, source, there);
+        case Logic:
+            return By_Logic(mode.logic, source, there);
+        case Subtracts:
+            return there > source ? there - source : Lanes{};
+        default:
+            return source;
     }
 }
 
@@ -102,9 +134,9 @@ void Put_Row(std::uint16_t* place, std::size_t count, Pixels pixels, Over put_ov
 void Store_Opaque(char* place, Lanes first, Lanes second) {
     using Octets = std::uint8_t __attribute__((vector_size(16)));
     const Lanes opaque{0, 0, 0, 0xFF, 0, 0, 0, 0xFF};
-    const auto octets = __builtin_shufflevector(
-        reinterpret_cast<Octets>(first | opaque), reinterpret_cast<Octets>(second | opaque), 0, 2,
-        4, 6, 8, 10, 12, 14, 16, 18, 20, 22, 24, 26, 28, 30);
+    const auto octets = __builtin_shufflevector(reinterpret_cast<Octets>(first | opaque),
+                                                reinterpret_cast<Octets>(second | opaque), 0, 2, 4,
+                                                6, 8, 10, 12, 14, 16, 18, 20, 22, 24, 26, 28, 30);
     std::memcpy(place, &octets, sizeof octets);
 }
 
@@ -124,9 +156,8 @@ void Canvas::Put(std::size_t x, std::size_t y, std::size_t count, Pixels pixels,
     const bool is_usual = mode.type == Blends && (mode.source & 7) == SourceAlpha &&
                           (mode.destination & 7) == OneMinusSourceAlpha;
     if (is_usual && Lets_All_Through(compare)) {
-        Put_Row(place, count, pixels, [](Lanes source, Lanes there) {
-            return Mix(there, source, Spread_Alpha(source));
-        });
+        Put_Row(place, count, pixels,
+                [](Lanes source, Lanes there) { return Mix(there, source, Spread_Alpha(source)); });
         return;
     }
     Put_Row(place, count, pixels, [&](Lanes source, Lanes there) {

@@ -26,8 +26,8 @@ constexpr std::array<std::size_t, 3> Lower = {LeftTop, RightBottom, LeftBottom};
 
 bool Is_Plane(const Corners& number) {
     constexpr double Nothing = 1e-3;
-    return std::abs(number[LeftTop] + number[RightBottom] - number[RightTop] -
-                    number[LeftBottom]) < Nothing;
+    return std::abs(number[LeftTop] + number[RightBottom] - number[RightTop] - number[LeftBottom]) <
+           Nothing;
 }
 
 /// Draws a quad row by row.
@@ -66,8 +66,7 @@ class Filling {
     using ThreeCorners = std::array<std::size_t, 3>;
 
     void Set_Color(const Quad& quad, std::size_t channel) {
-        const bool of_vertex =
-            channel < 3 ? material_.color_of_vertex : material_.alpha_of_vertex;
+        const bool of_vertex = channel < 3 ? material_.color_of_vertex : material_.alpha_of_vertex;
         for (std::size_t i = 0; i < 4; ++i) {
             colors_[channel][i] = of_vertex ? quad.colors[i][channel] : material_.color[channel];
             if (channel == 3) colors_[channel][i] *= quad.alpha;
@@ -180,9 +179,9 @@ class Filling {
         if (is_constant) pairs = 1;
         for (std::size_t i = 0; i < pairs; ++i) {
             const Wide next = at + step;
-            drawn_[i] = __builtin_shufflevector(reinterpret_cast<Lanes>(at),
-                                                reinterpret_cast<Lanes>(next), 1, 3, 5, 7, 9, 11,
-                                                13, 15);
+            drawn_[i] =
+                __builtin_shufflevector(reinterpret_cast<Lanes>(at), reinterpret_cast<Lanes>(next),
+                                        1, 3, 5, 7, 9, 11, 13, 15);
             at = next + step;
         }
         return {drawn_.data(), is_constant};

@@ -46,9 +46,8 @@ Picture As_Picture(const FT_Bitmap& bitmap) {
     picture.texels.resize(picture.width * picture.height * TexelSize);
     for (std::size_t y = 0; y < bitmap.rows; ++y) {
         for (std::size_t x = 0; x < bitmap.width; ++x) {
-            const unsigned char ink =
-                bitmap.buffer[static_cast<std::ptrdiff_t>(y) * bitmap.pitch +
-                              static_cast<std::ptrdiff_t>(x)];
+            const unsigned char ink = bitmap.buffer[static_cast<std::ptrdiff_t>(y) * bitmap.pitch +
+                                                    static_cast<std::ptrdiff_t>(x)];
             const std::size_t at = ((y + 1) * picture.width + x + 1) * TexelSize;
             std::fill_n(&picture.texels[at], TexelSize, static_cast<char>(ink));
         }
@@ -150,8 +149,7 @@ const Glyph& Font::Take(char32_t letter, double width, double height) {
     const std::tuple key(letter, In_64ths(width), In_64ths(height));
     const auto known = faces_->glyphs.find(key);
     if (known != faces_->glyphs.end()) return known->second;
-    return faces_->glyphs[key] =
-               faces_->Draw(letter, In_64ths(width), In_64ths(height));
+    return faces_->glyphs[key] = faces_->Draw(letter, In_64ths(width), In_64ths(height));
 }
 
 }  // namespace bannersmith::still

@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "base/text.h"
+#include "layout/file_length.h"
 #include "layout/kind.h"
 
 namespace bannersmith::still {
@@ -63,7 +64,7 @@ Result<PartFiles> Files_For(const Banner& banner, PartKind part) {
         if (layout == nullptr) layout = Find_Only(*files, "blyt/", ".brlyt");
         if (layout != nullptr) chosen.layout = *layout;
     } else {
-        chosen.layout = banner.Bytes();
+        chosen.layout = Set_File_Len(banner.Bytes());  // which only a save makes right
     }
     if (!Is_Layout(chosen.layout)) {
         return Failure{banner.Source().Name(), "Has no layout of the channel's " + name};

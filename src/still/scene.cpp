@@ -60,7 +60,9 @@ class MaterialReader {
         constexpr unsigned FirstSet = 4, FirstMatrix = 30;
         for (std::size_t i = Count(0, 4); i > 0; --i) {
             const std::size_t at = Take(4);
-            const auto wrap = [&](std::size_t offset) { return Wrap((record_.U8(at + offset) & 3) % 3); };
+            const auto wrap = [&](std::size_t offset) {
+                return Wrap((record_.U8(at + offset) & 3) % 3);
+            };
             read.maps.push_back({record_.U16(at), wrap(2), wrap(3)});
         }
         for (std::size_t i = Count(4, 4); i > 0; --i) {
@@ -172,7 +174,8 @@ Pane Read_Pane(Fields fields) {
     return read;
 }
 
-/// Reads section after section; panes and groups are nested by sections that open and close a level.
+/// Reads section after section; panes and groups are nested by sections that open and close a
+/// level.
 class SceneReader {
  public:
     Scene Read(std::string_view layout) {
@@ -285,11 +288,7 @@ constexpr std::array<std::string_view, 9> LanguageGroups = {"JPN", "ENG", "GER",
 
 /// In which order each region looks for a language that a banner has.
 constexpr std::array<std::array<std::string_view, 6>, 5> Regions = {
-    {{"ENG", "FRA", "GER", "SPA", "ITA", "NED"},
-     {"ENG", "FRA", "SPA"},
-     {"JPN"},
-     {"KOR"},
-     {"CHN"}}};
+    {{"ENG", "FRA", "GER", "SPA", "ITA", "NED"}, {"ENG", "FRA", "SPA"}, {"JPN"}, {"KOR"}, {"CHN"}}};
 
 bool Is_Of_A_Language(const Group& group) {
     return group.depth == 1 && std::find(LanguageGroups.begin(), LanguageGroups.end(),

@@ -22,8 +22,8 @@ struct Line {
 std::u32string Letters_Of(std::u16string_view text) {
     std::u32string letters;
     for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool is_pair = i + 1 < text.size() && (text[i] & 0xFC00) == 0xD800 &&
-                             (text[i + 1] & 0xFC00) == 0xDC00;
+        const bool is_pair =
+            i + 1 < text.size() && (text[i] & 0xFC00) == 0xD800 && (text[i + 1] & 0xFC00) == 0xDC00;
         letters += is_pair ? 0x10000 + ((text[i] & 0x3FFU) << 10) + (text[i + 1] & 0x3FFU)
                            : static_cast<char32_t>(text[i]);
         if (is_pair) ++i;
@@ -92,11 +92,13 @@ SetText Set(const TextLook& look, double box_width, double box_height, Font& fon
     const double pitch = look.font_size[1] + look.line_space;
     set.lines = lines.size();
     set.height = look.font_size[1] + pitch * static_cast<double>(lines.size() - 1);
-    const double column = (look.position % 3) / 2.0, row = static_cast<double>(look.position / 3) / 2;
+    const double column = (look.position % 3) / 2.0,
+                 row = static_cast<double>(look.position / 3) / 2;
     double y = (box_height - set.height) * row;
     for (const Line& line : lines) {
         const double x = (box_width - line.width) * column;
-        for (const Placed& placed : line.letters) set.cells.push_back({placed.letter, x + placed.x, y});
+        for (const Placed& placed : line.letters)
+            set.cells.push_back({placed.letter, x + placed.x, y});
         y += pitch;
     }
     return set;

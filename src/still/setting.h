@@ -20,8 +20,8 @@ struct Cell {
 struct SetText {
     std::vector<Cell> cells;
     std::size_t lines = 0, written_lines = 0;  ///< as it stands, and as its line feeds ask for
-    double width = 0;   ///< of the widest line as written
-    double height = 0;  ///< of all lines
+    double width = 0;                          ///< of the widest line as written
+    double height = 0;                         ///< of all lines
 };
 
 /// Sets a text into a box of that size. A line that is wider goes on below, broken at the letter.

@@ -30,10 +30,22 @@ Stage Plain_Stage(std::size_t map, std::array<unsigned, 4> color, std::array<uns
     };
     const auto end = static_cast<std::uint8_t>(1 | constant << 3);  // clamped, to PREV
     const auto coordinates = static_cast<std::uint8_t>(map);
-    return {coordinates, ColorAndAlphaDrawn, coordinates, 0,
-            low_first(color[0], color[1]), low_first(color[2], color[3]), 0, end,
-            low_first(alpha[0], alpha[1]), low_first(alpha[2], alpha[3]), 0, end,
-            0, 0, 0, 0};
+    return {coordinates,
+            ColorAndAlphaDrawn,
+            coordinates,
+            0,
+            low_first(color[0], color[1]),
+            low_first(color[2], color[3]),
+            0,
+            end,
+            low_first(alpha[0], alpha[1]),
+            low_first(alpha[2], alpha[3]),
+            0,
+            end,
+            0,
+            0,
+            0,
+            0};
 }
 
 /// How each texture of several weighs: by a component of K3, then of K2, alpha first.
@@ -67,9 +79,8 @@ std::vector<Stage> Default_Stages(const Material& material) {
     namespace color = color_input;
     namespace alpha = alpha_input;
     const std::size_t count = material.maps.size();
-    const bool is_tinted =
-        material.registers[0] != std::array<std::int16_t, 4>{0, 0, 0, 0} ||
-        material.registers[1] != std::array<std::int16_t, 4>{255, 255, 255, 255};
+    const bool is_tinted = material.registers[0] != std::array<std::int16_t, 4>{0, 0, 0, 0} ||
+                           material.registers[1] != std::array<std::int16_t, 4>{255, 255, 255, 255};
     if (count == 0) {
         return {Plain_Stage(0, {color::Zero, color::C1, color::Drawn, color::Zero},
                             {alpha::Zero, alpha::A1, alpha::Drawn, alpha::Zero})};
@@ -155,10 +166,14 @@ std::uint16_t Compared(unsigned operation, std::size_t channel, const Lanes& a, 
     const auto number = [&](const Lanes& lanes) -> std::uint32_t {
         const auto at = [&](std::size_t i) { return lanes[first + i] & 0xFFU; };
         switch (operation / 2) {
-            case 4: return at(0);
-            case 5: return at(0) | at(1) << 8;
-            case 6: return at(0) | at(1) << 8 | at(2) << 16;
-            default: return at(channel);
+            case 4:
+                return at(0);
+            case 5:
+                return at(0) | at(1) << 8;
+            case 6:
+                return at(0) | at(1) << 8 | at(2) << 16;
+            default:
+                return at(channel);
         }
     };
     const bool holds = operation % 2 == 0 ? number(a) > number(b) : number(a) == number(b);
@@ -176,8 +191,8 @@ Shader::Shader(const Material& material) {
     }
     for (const Stage& stage : with_stages.stages) steps_.push_back(Unpack(stage, with_stages));
     const Step& last = steps_.back();
-    ends_in_colors_ = last.outputs == std::array<std::size_t, 2>{0, 0} && last.low[0] == 0 &&
-                      last.low[3] == 0;
+    ends_in_colors_ =
+        last.outputs == std::array<std::size_t, 2>{0, 0} && last.low[0] == 0 && last.low[3] == 0;
 }
 
 Shader::Step Shader::Unpack(const Stage& stage, const Material& material) {
@@ -202,8 +217,8 @@ Shader::Step Shader::Unpack(const Stage& stage, const Material& material) {
     }
     const auto color_constant = Constant_Of(stage[7] >> 3, material);
     const auto alpha_constant = Constant_Of(stage[11] >> 3, material);
-    step.constant = Both(std::array{color_constant[0], color_constant[1], color_constant[2],
-                                    alpha_constant[3]});
+    step.constant = Both(
+        std::array{color_constant[0], color_constant[1], color_constant[2], alpha_constant[3]});
     std::array<int, 2> bias{}, scale{}, low{}, high{};
     for (std::size_t half = 0; half < 2; ++half) {
         constexpr std::array Biases = {0, 128, -128, 0}, TwiceScales = {2, 4, 8, 1};
@@ -324,8 +339,8 @@ void Shader::Combine(const Step& step, const std::array<Pixels, 4>& inputs, std:
             const auto d = static_cast<std::int16_t>(inputs[3].At(i)[lane]);
             const int total = d + Compared(operation, lane % 4, inputs[0].At(i), inputs[1].At(i),
                                            inputs[2].At(i), lane / 4 * 4);
-            result[lane] = static_cast<std::uint16_t>(
-                std::clamp<int>(total, step.low[lane], step.high[lane]));
+            result[lane] =
+                static_cast<std::uint16_t>(std::clamp<int>(total, step.low[lane], step.high[lane]));
         }
         out[i] = result;
     }

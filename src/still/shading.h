@@ -55,9 +55,9 @@ class Shader {
     struct Step {
         std::optional<std::size_t> tap;
         bool takes_drawn = false;
-        std::array<std::uint8_t, 2> swaps{};  ///< of what is drawn and of the texture
-        std::array<Operand, 4> operands{};    ///< a, b, c, d
-        Lanes constant{};                     ///< K
+        std::array<std::uint8_t, 2> swaps{};   ///< of what is drawn and of the texture
+        std::array<Operand, 4> operands{};     ///< a, b, c, d
+        Lanes constant{};                      ///< K
         std::array<unsigned, 2> operations{};  ///< of colour and alpha: 0 adds, 1 subtracts
         bool compares = false;                 ///< one of them compares instead
         bool is_plain = true;                  ///< adds, without bias or scale

@@ -36,12 +36,18 @@ struct FramePlace {
 /// Texture coordinates as a frame's flip has them.
 Point Flipped(Point at, unsigned flip) {
     switch (flip) {
-        case 1: return {1 - at.x, at.y};
-        case 2: return {at.x, 1 - at.y};
-        case 3: return {at.y, 1 - at.x};
-        case 4: return {1 - at.x, 1 - at.y};
-        case 5: return {1 - at.y, at.x};
-        default: return at;
+        case 1:
+            return {1 - at.x, at.y};
+        case 2:
+            return {at.x, 1 - at.y};
+        case 3:
+            return {at.y, 1 - at.x};
+        case 4:
+            return {1 - at.x, 1 - at.y};
+        case 5:
+            return {1 - at.y, at.x};
+        default:
+            return at;
     }
 }
 
@@ -76,7 +82,8 @@ class SceneDrawing {
     };
 
     std::size_t Pixels_Of(std::size_t units) const {
-        return std::max<std::size_t>(static_cast<std::size_t>(static_cast<double>(units) * view_.scale + 0.5), 1);
+        return std::max<std::size_t>(
+            static_cast<std::size_t>(static_cast<double>(units) * view_.scale + 0.5), 1);
     }
 
     /// From the screen's places, 0, 0 in the middle, y up, to the canvas's.
@@ -151,8 +158,10 @@ class SceneDrawing {
             const double t = (surface.sets[source.set][2 * i + 1] - 0.5) * move.scale_t;
             const double turned_s = std::cos(angle) * s - std::sin(angle) * t + 0.5;
             const double turned_t = std::sin(angle) * s + std::cos(angle) * t + 0.5;
-            corners[i] = {static_cast<float>((turned_s + move.shift_s) * static_cast<double>(texels.Width())),
-                          static_cast<float>((turned_t + move.shift_t) * static_cast<double>(texels.Height()))};
+            corners[i] = {
+                static_cast<float>((turned_s + move.shift_s) * static_cast<double>(texels.Width())),
+                static_cast<float>((turned_t + move.shift_t) *
+                                   static_cast<double>(texels.Height()))};
         }
         return corners;
     }
@@ -180,9 +189,8 @@ class SceneDrawing {
                                     Coordinates(surface, material, tap.coordinates, *texels)});
             }
             if (region.missing.empty()) {
-                Fill(canvas_,
-                     {region.corners, surface.colors, static_cast<float>(place.alpha)}, material,
-                     shader, textures);
+                Fill(canvas_, {region.corners, surface.colors, static_cast<float>(place.alpha)},
+                     material, shader, textures);
             }
         }
         if (!region.missing.empty()) Tell(region.missing);
@@ -212,8 +220,8 @@ class SceneDrawing {
                             shader);
             }
             constexpr double Little = 0.01;
-            drawn_.texts.push_back({pane.name, set.width > box.Width() + Little,
-                                    set.height > box.Height() + Little});
+            drawn_.texts.push_back(
+                {pane.name, set.width > box.Width() + Little, set.height > box.Height() + Little});
         }
         drawn_.regions.push_back(std::move(region));
     }
@@ -250,18 +258,21 @@ class SceneDrawing {
             const double down = std::clamp((at.top - y) / line, 0.0, 1.0);
             Rgba color{};
             for (std::size_t i = 0; i < 4; ++i) {
-                color[i] = static_cast<std::uint8_t>(
-                    look.top[i] + (look.bottom[i] - look.top[i]) * down + 0.5);
+                color[i] = static_cast<std::uint8_t>(look.top[i] +
+                                                     (look.bottom[i] - look.top[i]) * down + 0.5);
             }
             return color;
         };
         const Rgba top = shade(ink.top), bottom = shade(ink.bottom);
         Fill(canvas_,
-             {Corners(place.matrix, ink), {top, top, bottom, bottom},
+             {Corners(place.matrix, ink),
+              {top, top, bottom, bottom},
               static_cast<float>(place.alpha)},
              material, shader,
              std::vector<QuadTexture>(shader.Taps().size(),
-                                      {glyph.texels.get(), Wrap::clamp, Wrap::clamp,
+                                      {glyph.texels.get(),
+                                       Wrap::clamp,
+                                       Wrap::clamp,
                                        {{{0, 0}, {columns, 0}, {0, rows}, {columns, rows}}}}));
     }
 
@@ -288,10 +299,10 @@ class SceneDrawing {
                      whole.bottom + last[1]};
         }
         const auto [left, right, top, bottom] = look.inflation;
-        Draw_Surface(pane, place,
-                     {inner.left - left, inner.top + top, inner.right + right,
-                      inner.bottom - bottom},
-                     *pane.surface);
+        Draw_Surface(
+            pane, place,
+            {inner.left - left, inner.top + top, inner.right + right, inner.bottom - bottom},
+            *pane.surface);
         if (has_frame) Draw_Frame(pane, place, whole, inner);
     }
 
@@ -309,8 +320,8 @@ class SceneDrawing {
         }};
         constexpr std::array<unsigned, 4> Turned = {0, 1, 2, 4};
         for (std::size_t i = 0; i < 4; ++i) {
-            const FramePart part = frame.size() < 4 ? FramePart{frame[0].material, Turned[i]}
-                                                    : frame[i];
+            const FramePart part =
+                frame.size() < 4 ? FramePart{frame[0].material, Turned[i]} : frame[i];
             Draw_Frame_Part(pane, place, part, corners[i], {i % 2, i / 2});
         }
         if (!has_sides) return;

@@ -39,7 +39,7 @@ struct View {
 /// What was drawn where, for who points at it.
 struct Region {
     std::string pane, material;
-    std::string missing;  ///< why nothing was drawn there; empty for most
+    std::string missing;             ///< why nothing was drawn there; empty for most
     std::array<Point, 4> corners{};  ///< left top, right top, left bottom, right bottom, in pixels
 };
 

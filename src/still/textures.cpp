@@ -14,8 +14,10 @@ Textures::Entry& Textures::Read(const std::string& name) {
         return entry;
     }
     auto picture = Decode_Texture(*bytes);
-    if (picture) entry.picture = std::move(*picture);
-    else entry.fault = "texture " + name + ": " + picture.Why().reason;
+    if (picture)
+        entry.picture = std::move(*picture);
+    else
+        entry.fault = "texture " + name + ": " + picture.Why().reason;
     return entry;
 }
 

@@ -145,12 +145,17 @@ std::array<float, 8> Row_Of_Logos(float beside) {
 std::vector<ChannelPicture> Channel_Background() {
     const auto row = [](const char* name, const char16_t* element, float y, float beside) {
         return ChannelPicture{{name, {}, {}, -1, {{logo, 1, 1}}, {ShapeOnly}},
-                              element, 112, {0, y, 608, 64}, {.sets = {Row_Of_Logos(beside)}}};
+                              element,
+                              112,
+                              {0, y, 608, 64},
+                              {.sets = {Row_Of_Logos(beside)}}};
     };
     return {
         {{"Back0", {}, {}, ramp}, u"Back0", 255, {0, 0, 608, 456}},
-        row("Back1", u"Back1", 128, 0), row("Back2", u"Back2", 50, 32),
-        row("Back3", u"Back3", -28, 0), row("Back4", u"Back4", -106, 32),
+        row("Back1", u"Back1", 128, 0),
+        row("Back2", u"Back2", 50, 32),
+        row("Back3", u"Back3", -28, 0),
+        row("Back4", u"Back4", -106, 32),
         {{"BackMask1", {}, {}, ramp}, u"BackMask1", 255, {0, -120, 608, 40}},
         {{"BackMask2", {}, {}, -1}, u"BackMask2", 255, {0, -184, 608, 88}},
         {{"PFLine", {}, {}, line}, u"PFLINE", 255, {0, 204, 608, 36}},
@@ -162,11 +167,22 @@ std::vector<ChannelPicture> Channel_Background() {
 std::vector<ChannelPicture> Channel_Game_Picture() {
     return {
         {{"Shade", {}, {}, shadow}, u"Shade", 255, {6, -6, 256, 200}},
-        {{"VCPicSha", {}, {}, -1, {{game}, {ramp}, {mask}}, {TintedGame, FadeByRamp, MaskWithoutIt}},
-         u"VCPicSha", 255, {0, -150, 224, 132}, {.sets = {UpsideDown, WholeSet, UpsideDown}}},
+        {{"VCPicSha",
+          {},
+          {},
+          -1,
+          {{game}, {ramp}, {mask}},
+          {TintedGame, FadeByRamp, MaskWithoutIt}},
+         u"VCPicSha",
+         255,
+         {0, -150, 224, 132},
+         {.sets = {UpsideDown, WholeSet, UpsideDown}}},
         {{"VCPicBase", {}, {}, mask}, u"VCPicBase", 255, {0, 0, 234, 178}},
         {{"VCPic", {}, {}, -1, {{game}, {mask}}, {GameColors, CutToMask}},
-         u"VCPic", 255, {0, 0, 224, 168}, {.sets = {WholeSet, WholeSet}}},
+         u"VCPic",
+         255,
+         {0, 0, 224, 168},
+         {.sets = {WholeSet, WholeSet}}},
     };
 }
 
@@ -234,8 +250,7 @@ class Banner {
     }
 
     void Add_Channel_Picture(const ChannelPicture& picture) {
-        const unsigned material =
-            materials_.Add(picture.material, picture.element, picture.alpha);
+        const unsigned material = materials_.Add(picture.material, picture.element, picture.alpha);
         panes_.push_back(
             Picture_Section(picture.material.name, material, picture.place, picture.look));
     }

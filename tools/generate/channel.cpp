@@ -162,7 +162,10 @@ std::string Banner_Content() {
         {"N_VCPic", false, "RLVC", 16, {{0, 255, 0}, {3998, 255, 0}}},
         {"N_VCPic", false, "RLPA", 0, {{0, 130, 0}, {3998, 130, 0}}},
         {"N_VCPic", false, "RLPA", 1, {{0, 44, 0}, {2000, 48, 0}, {3998, 44, 0}}},
-        along("Back1", 4), along("Back2", -4), along("Back3", 4), along("Back4", -4),
+        along("Back1", 4),
+        along("Back2", -4),
+        along("Back3", 4),
+        along("Back4", -4),
     };
     std::string layout = Channel_Banner();
     layout.resize(12000, '\0');  // the room that channels reserve

@@ -13,7 +13,12 @@ constexpr std::uint32_t TextOffset = 0x74;
 /// The part that panes of every kind share.
 void Append_Pane(ByteWriter& out, std::string_view name, Place place, bool passes_alpha = false) {
     constexpr unsigned Visible = 1, PassesAlpha = 2, Centred = 4, Opaque = 255;
-    out.U8(passes_alpha ? Visible | PassesAlpha : Visible).U8(Centred).U8(Opaque).U8(0).Name(name, 16).Zeros(8);
+    out.U8(passes_alpha ? Visible | PassesAlpha : Visible)
+        .U8(Centred)
+        .U8(Opaque)
+        .U8(0)
+        .Name(name, 16)
+        .Zeros(8);
     out.F32(place.x).F32(place.y).F32(0);  // translation
     out.F32(0).F32(0).F32(0);              // rotation
     out.F32(1).F32(1);                     // scale

@@ -24,8 +24,8 @@ struct MainWindowForColors {
     DropDownList& cmbFileList;  ///< the schemes; gets this window's list and selection
     /// The languages of the text colours, by their `Field`.
     const std::array<DropDownList, FieldPrefixes.size()>& cmbRegion;
-    std::function<PreviewTexts()> texts;  ///< what the preview shows now
-    const Banner& banner;                 ///< the one that is open
+    std::function<PreviewTexts()> texts;       ///< what the preview shows now
+    const Banner& banner;                      ///< the one that is open
     std::function<std::vector<Edit>()> unset;  ///< what was typed there and not yet set
 };
 
