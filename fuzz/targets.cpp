@@ -1,11 +1,15 @@
 // The fuzz targets. Each is built as a program of its own, which calls its function.
 #include <cstdlib>
 
+#include "base/numbers.h"
 #include "colors/scheme.h"
 #include "container/archive.h"
 #include "exchange/options.h"
 #include "exchange/recipe.h"
+#include "generate/banners.h"
+#include "layout/kind.h"
 #include "plain_rules.h"
+#include "still/still.h"
 #include "texture/fitting.h"
 
 using namespace bannersmith;
@@ -71,6 +75,34 @@ void Require(bool holds) {
         Require(static_cast<bool>(RecipeReader(written).Next()));
     }
     Require(false);
+}
+
+still::TextureReader Any_Texture() {
+    static const std::string texture = Encode_Texture(Texel_Formats()[0], {8, 8, std::string(8 * 8 * TexelSize, 'x')});
+    return [](const std::string& name) { return name.empty() ? std::nullopt : std::optional(texture); };
+}
+
+/// Any layout is drawn, as small as a stamp, with whatever its last byte asks for; what is broken is told.
+[[maybe_unused]] void Fuzz_still(const std::string& bytes) {
+    if (!Is_Layout(bytes)) return;
+    static auto font = still::Font::Open(u"" PRISTINE_FOLDER, u"");
+    still::Still part({bytes, "", "", Any_Texture()});
+    const auto wish = static_cast<unsigned char>(bytes.back());
+    const still::View view{wish % 2 == 0 ? still::PartKind::banner : still::PartKind::icon, wish % 4 < 2 ? "" : "GER",
+                           wish % 8 < 4, 0.07};
+    const still::Drawn drawn = part.Draw(view, 0, wish % 16 < 8 ? &*font : nullptr);
+    Require(drawn.picture.texels.size() == drawn.picture.width * drawn.picture.height * TexelSize);
+}
+
+/// Any animation moves a small banner, at a frame that its last bytes tell.
+[[maybe_unused]] void Fuzz_animation(const std::string& bytes) {
+    static const still::Scene scene = still::Read_Scene(Channel_Icon());
+    const auto animation = still::Read_Animation(bytes);
+    Require(animation || !animation.Why().reason.empty());
+    if (!animation) return;
+    still::Scene moved = scene;
+    still::Move_To(moved, *animation, static_cast<float>(Read_U16(bytes, bytes.size() - 2)) / 16);
+    Require(moved.panes.size() == scene.panes.size() && moved.materials.size() == scene.materials.size());
 }
 
 }  // namespace
