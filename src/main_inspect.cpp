@@ -4,9 +4,10 @@
 #include <string>
 #include <vector>
 
-#include "banner/source.h"
+#include "banner/banner.h"
 #include "base/message.h"
 #include "base/text.h"
+#include "inspect/drawing.h"
 #include "inspect/extract.h"
 #include "inspect/report.h"
 #include "inspect/warnings.h"
@@ -81,6 +82,17 @@ std::optional<ChannelNames> Names_Of(const Opened& opened) {
     return opened.archive ? opened.archive->Names() : std::nullopt;
 }
 
+/// What the menu would show otherwise than it is meant; nothing of an archive that is not read.
+void Add_Drawing_Warnings(const std::u16string& file, FileReport& report) {
+    const auto banner = Banner::Load(BannerSource(Layout_File_Of(file), file), 0);
+    if (!banner || !Is_Layout(banner->Bytes())) return;
+    static auto font = still::Font::Open(Program_Folder(), u"");
+    still::Font* letters = font && font->Has_Letters() ? &*font : nullptr;
+    for (Warning& warning : Find_Drawing_Warnings(*banner, report.info, letters)) {
+        report.warnings.push_back(std::move(warning));
+    }
+}
+
 /// Writes the report of a file behind `before`. Returns the file's exit status.
 Result<int> Inspect(const std::u16string& file, bool json, const char* before,
                     StandardOutput& output) {
@@ -89,6 +101,7 @@ Result<int> Inspect(const std::u16string& file, bool json, const char* before,
         if (!opened) return opened.Why();
         FileReport report{To_Utf8(file), {}, Read_Layout(opened->data), {}};
         report.warnings = Find_Warnings(opened->data, report.info);
+        Add_Drawing_Warnings(file, report);
         if (opened->archive) report.archive = Read_Archive_Info(*opened->archive);
         if (json) report.values = Values_Of(CutPadding(opened->data), Names_Of(*opened));
         output.Write(before);

@@ -136,6 +136,10 @@ Result<Font> Font::From_Bytes(std::string bytes) {
     return Font(std::move(faces));
 }
 
+bool Font::Has_Letters() {
+    return faces_->Find(U'?').first != nullptr;
+}
+
 double Font::Advance(char32_t letter) {
     const auto [face, index] = faces_->Find(letter);
     if (face == nullptr || FT_Load_Glyph(face, index, FT_LOAD_NO_SCALE) != 0) return 0.5;

@@ -35,6 +35,9 @@ class Font {
     Font& operator=(Font&&) noexcept;
     ~Font();
 
+    /// Whether any file can be read.
+    bool Has_Letters();
+
     /// How far the pen moves for a letter, in widths of an em.
     double Advance(char32_t letter);
 

@@ -70,6 +70,7 @@ Result<PartFiles> Files_For(const Banner& banner, PartKind part) {
         return Failure{banner.Source().Name(), "Has no layout of the channel's " + name};
     }
     Choose_Animations(*files, name, chosen);
+    chosen.has_textures = files->lower_bound("timg/") != files->lower_bound("timg0");
     chosen.texture = [files](const std::string& texture) -> std::optional<std::string> {
         const std::string* bytes = Find(*files, "timg/" + texture);
         return bytes != nullptr ? std::optional(*bytes) : std::nullopt;

@@ -25,6 +25,7 @@ struct PartFiles {
     std::string start;   ///< the animation that plays once; empty where there is none
     std::string loop;    ///< the one that goes on for ever; empty where there is none
     TextureReader texture;
+    bool has_textures = true;  ///< whether there are any
 };
 
 /// How it is looked at.
