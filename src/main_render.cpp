@@ -40,7 +40,7 @@ constexpr char Usage[] =
     "  --part PART         banner (the default) or icon\n"
     "  --frame FRAME       a number, counted from the beginning; start, the first; loop\n"
     "                      (the default), where all is in its place\n"
-    "  --frames A-B        these frames, into OUT-00000.png and so on\n"
+    "  --frames RANGE      these frames, as 0-59, into OUT-00000.png and so on\n"
     "  --scale N           pixels to a unit of the screen, up to 8\n"
     "  --background COLOR  behind it, as RRGGBB; black without it\n"
     "  --without-texts     leaves the texts out\n"

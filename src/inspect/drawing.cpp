@@ -54,8 +54,7 @@ std::optional<std::size_t> Find_Box(const LayoutInfo& info, const std::string& n
 /// Draws the banner once for each language, as small as a stamp.
 void Check_Drawing(const Banner& banner, const LayoutInfo& info, still::Font* font,
                    std::vector<Warning>& found) {
-    const auto kind =
-        banner.Source().Is_Icon() ? still::PartKind::icon : still::PartKind::banner;
+    const auto kind = banner.Source().Is_Icon() ? still::PartKind::icon : still::PartKind::banner;
     auto files = still::Files_For(banner, kind);
     if (!files) return;
     const bool has_textures = files->has_textures;
@@ -76,13 +75,14 @@ void Check_Drawing(const Banner& banner, const LayoutInfo& info, still::Font* fo
             if (has_textures && !region.missing.empty()) tell(region.missing, {});
         }
         for (const still::TextFit& text : drawn.texts) {
-            const std::string box = "text box " + text.pane + " may ";
+            const std::string box = "text box " + text.pane;
             const auto index = Find_Box(info, text.pane);
             if (text.is_too_wide) {
-                tell(box + "be too narrow for its text, which breaks (approximate font)", index);
+                tell(box + " may be too narrow for its text, which breaks (approximate font)",
+                     index);
             }
             if (text.is_too_high) {
-                tell(box + "be too low for its lines (approximate font)", index);
+                tell(box + " may be too low for its lines (approximate font)", index);
             }
         }
     }

@@ -17,7 +17,8 @@ import tempfile
 import jsonschema
 
 USER_PAGES = ["docs/manual.md", "docs/messages.md"]
-PROGRAMS = ["bannersmith", "bannersmith-edit", "bannersmith-window", "bannersmith-inspect", "bannersmith-texture"]
+PROGRAMS = ["bannersmith", "bannersmith-edit", "bannersmith-window", "bannersmith-inspect", "bannersmith-render",
+            "bannersmith-texture"]
 # A text of three words or more (four without a capital), or one that ends in "!", is a message; what holds a line
 # break or a | is none.
 SENTENCE = re.compile(r'"((?=[^"]*!")[^"|\\n]*|[A-Z][\w\']*(?:,? [\w\'+.]+){2}[^"|]*|'
