@@ -8,7 +8,10 @@
 #include "generate/banners.h"
 #include "generate/channel.h"
 #include "layout/file_length.h"
+#include "mainwindow/form1.h"
+#include "noting_desktop.h"
 #include "still/part.h"
+#include "support.h"
 
 using namespace bannersmith;
 using still::Lanes, still::Pixels, still::Wrap;
@@ -271,6 +274,54 @@ TEST(Channel, IsDrawnByItsLanguagesPartsAndFrames) {
     EXPECT_EQ(wide.width * 1000 + wide.height, 832456);
     EXPECT_EQ(Difference(draw({}, 211 + 7).picture, draw({}, 211 + 7 + 3999).picture)[3], 0) << "it begins anew";
     EXPECT_EQ(still::Read_Scene(Set_File_Len(banner.Bytes())).faults.size(), 0);
+}
+
+TEST(LiveView, ShowsWhatIsTypedAndChosenAndPlays) {
+    const TempFolder home;
+    NotingDesktop desktop;
+    home.Write("c.app", Sample_Channel());
+    home.Write("alone/blyt/x.brlyt", Channel_Banner());
+    home.Write("schemes/Black.vccs", Format_Scheme({}));
+    std::filesystem::create_directory_symlink(PROGRAM_FOLDER "/fonts", home.Path() / "fonts");
+    Form1 main({home.Text(), u""}, desktop);
+    main.txtSrc.Set(u"\\c.app");
+    const auto draw = [&] {
+        main.live.Draw();
+        return main.live.picture.Value();
+    };
+    EXPECT_EQ(draw().width, 608);
+    int wanted = 0;
+    main.live.Wanted = [&] { ++wanted; };
+    const auto step = [&](const std::function<void()>& change) {
+        const Picture before = draw();
+        change();
+        return Difference(before, draw());
+    };
+    const auto typed = step([&] { main.info.txtName.Set(u"X"); });
+    EXPECT_TRUE(wanted == 1 && typed[0] > 150 && typed[1] > 330 && typed[3] < 420) << typed[1];
+    EXPECT_EQ(step([&] { main.cmdSet_Click(0); })[3], 0) << "set, it looks as it did when typed";
+    const Picture set = draw();
+    EXPECT_GT(step([&] { main.info.cmbRegion[0].Pick(1); })[3], 0) << "the language of the name";
+    EXPECT_GT(step([&] { main.live.cmbLanguage.Pick(7); })[3], 0) << "Japanese";
+    main.RefreshColorList_Here();
+    EXPECT_EQ(step([&] { main.cmbFileList.Pick(1); })[2], 608) << "all is black";
+    main.cmbFileList.Pick(0);
+    EXPECT_GT(step([&] { main.live.Play_Click(); })[3], 0);
+    EXPECT_GT(step([&] { main.live.Play_To(100 / 60.0); })[3], 0);
+    main.live.Play_Click();
+    main.live.cmbLanguage.Pick(1);
+    EXPECT_EQ(Difference(set, draw())[3], 0) << "English again, and all in its place";
+    EXPECT_TRUE(main.live.What_Is_At(450, 180).starts_with(u"VCPic (VCPic)\nVCPicBase"));
+    main.live.cmbPart.Pick(1);
+    main.live.cmbWidth.Pick(1);
+    EXPECT_EQ(draw().width, 170);
+    main.live.cmbPart.Pick(0);
+    main.txtSrc.Set(u"\\alone/blyt/x.brlyt");
+    EXPECT_EQ(draw().width, 832);
+    EXPECT_EQ(std::ranges::count_if(main.live.Regions(), [](const auto& region) { return !region.missing.empty(); }),
+              10);
+    main.txtSrc.Set(u"\\none");
+    EXPECT_TRUE(draw().texels.empty() && main.live.lblAbout.Caption() == u"No banner to show");
 }
 
 }  // namespace
