@@ -319,7 +319,7 @@ TEST(LiveView, ShowsWhatIsTypedAndChosenAndPlays) {
     main.txtSrc.Set(u"\\alone/blyt/x.brlyt");
     EXPECT_EQ(draw().width, 832);
     EXPECT_EQ(std::ranges::count_if(main.live.Regions(), [](const auto& region) { return !region.missing.empty(); }),
-              10);
+              11);
     main.txtSrc.Set(u"\\none");
     EXPECT_TRUE(draw().texels.empty() && main.live.lblAbout.Caption() == u"No banner to show");
 }
