@@ -10,15 +10,13 @@ namespace {
 
 constexpr std::uint32_t TextOffset = 0x74;
 
+/// Flags of panes. What keeps its shape is not drawn wider on a wide screen.
+constexpr unsigned Visible = 1, PassesAlpha = 2, KeepsShape = 4;
+
 /// The part that panes of every kind share.
-void Append_Pane(ByteWriter& out, std::string_view name, Place place, bool passes_alpha = false) {
-    constexpr unsigned Visible = 1, PassesAlpha = 2, Centred = 4, Opaque = 255;
-    out.U8(passes_alpha ? Visible | PassesAlpha : Visible)
-        .U8(Centred)
-        .U8(Opaque)
-        .U8(0)
-        .Name(name, 16)
-        .Zeros(8);
+void Append_Pane(ByteWriter& out, std::string_view name, Place place, unsigned flags = Visible) {
+    constexpr unsigned Centred = 4, Opaque = 255;
+    out.U8(flags).U8(Centred).U8(Opaque).U8(0).Name(name, 16).Zeros(8);
     out.F32(place.x).F32(place.y).F32(0);  // translation
     out.F32(0).F32(0).F32(0);              // rotation
     out.F32(1).F32(1);                     // scale
@@ -119,7 +117,7 @@ std::string Section(std::string_view tag, std::string_view body) {
 
 std::string Text_Box_Section(const TextBoxSpec& box) {
     ByteWriter body;
-    Append_Pane(body, box.name, box.place);
+    Append_Pane(body, box.name, box.place, Visible | KeepsShape);
     body.U16(box.buffer_length).U16(box.text_length).U16(box.material).U16(0);
     body.U8(4).U8(0).Zeros(2).U32(TextOffset);  // centred
     body.U32(box.color).U32(box.color);
@@ -127,9 +125,9 @@ std::string Text_Box_Section(const TextBoxSpec& box) {
     return Section("txt1", body.Bytes(box.stored).Data());
 }
 
-std::string Pane_Section(std::string_view name, Place place, bool passes_alpha) {
+std::string Pane_Section(std::string_view name, Place place, bool fades) {
     ByteWriter body;
-    Append_Pane(body, name, place, passes_alpha);
+    Append_Pane(body, name, place, fades ? Visible | PassesAlpha | KeepsShape : Visible);
     return Section("pan1", body.Data());
 }
 

@@ -92,10 +92,10 @@ TextBoxSpec Clean_Text_Box(std::string_view name, std::u16string_view text, unsi
 /// A section: tag, size and body, filled up to a multiple of four bytes.
 std::string Section(std::string_view tag, std::string_view body);
 
-/// The sections "txt1", "pan1", "pic1" and "mat1". A plain pane that passes its alpha on fades what
-/// is in it.
+/// The sections "txt1", "pan1", "pic1" and "mat1". A plain pane that fades
+/// passes its alpha on to what is in it, which keeps its shape on a wide screen; so do texts.
 std::string Text_Box_Section(const TextBoxSpec& box);
-std::string Pane_Section(std::string_view name, Place place, bool passes_alpha = false);
+std::string Pane_Section(std::string_view name, Place place, bool fades = false);
 std::string Picture_Section(std::string_view name, unsigned material, Place place,
                             const PictureLook& look = {});
 std::string Material_Section(const std::vector<Material>& materials);
