@@ -321,9 +321,7 @@ TEST_F(Widgets, AreCaptionedAndNamedAndLeftAloneByTheWheel) {
     }
     EXPECT_EQ(
         captions,
-        "Pl&ay|Sa&ve Picture...|Approximate font; texture my_Back_logo.tpl is missing; texture my_White.tpl is "
-        "missing; "
-        "texture my_VCPic.tpl is missing|Name is bold|Set|Set All|System is bold|Set|Year is bold|Set|Set All|Players "
+        "Pl&ay|Sa&ve Picture...|Name is bold|Set|Set All|System is bold|Set|Year is bold|Set|Set All|Players "
         "is bold|Set|No Dashes!!  "
         "(E.g.  Type \"2\" for \"1-2\")|Set|Set All|Hardcore Manual Text Editor|Color Editor And Preview|"
         "Game Pic&ture...|....|&Save Changes|SaveScheme|Get Color Scheme|Select a Color by Clicking on it and edit "

@@ -6,6 +6,7 @@
 #include <QHelpEvent>
 #include <QPainter>
 #include <QToolTip>
+#include <utility>
 
 #include "base/text.h"
 #include "desktop/binding.h"
@@ -38,8 +39,9 @@ void LivePicture::Take() {
     const auto width = static_cast<int>(picture.width), height = static_cast<int>(picture.height);
     image_ = QImage();
     if (!picture.texels.empty()) {
+        constexpr qsizetype Octets = 4;
         image_ = QImage(reinterpret_cast<const uchar*>(picture.texels.data()), width, height,
-                        width * 4, QImage::Format_RGBX8888);
+                        Octets * width, QImage::Format_RGBX8888);
     }
     update();
 }
@@ -51,6 +53,7 @@ QRectF LivePicture::Place() const {
 }
 
 void LivePicture::paintEvent(QPaintEvent* /*event*/) {
+    Painted.Raise();
     QPainter painter(this);
     painter.fillRect(rect(), Qt::black);
     if (image_.isNull()) {
@@ -116,6 +119,9 @@ LiveViewWidget::LiveViewWidget(LiveView& live) : live_(live), picture_(new LiveP
     connect(&idle_, &QTimer::timeout, this, [this] { live_.Draw(); });
     connect(&clock_, &QTimer::timeout, this,
             [this] { live_.Play_To(static_cast<double>(played_.elapsed()) / 1000); });
+    picture_->Painted = [this] {
+        if (!std::exchange(is_seen_, true)) Draw_Soon();
+    };
     live_.Wanted = [this] { Draw_Soon(); };
     live_.picture.Shown = [this] { picture_->Take(); };
     live_.lblPlay.Shown = [this, play] {
@@ -125,9 +131,10 @@ LiveViewWidget::LiveViewWidget(LiveView& live) : live_(live), picture_(new LiveP
     live_.lblAbout.Shown = [this, about] { about->Show_Text(Shown(live_.lblAbout.Caption())); };
 }
 
-/// Not before all that comes with a change has happened, and not while nobody sees it.
+/// Not before all that comes with a change has happened, and not before somebody sees it, so that a
+/// window appears first.
 void LiveViewWidget::Draw_Soon() {
-    if (isVisible() && !idle_.isActive()) idle_.start(0);
+    if (is_seen_ && !idle_.isActive()) idle_.start(0);
 }
 
 void LiveViewWidget::Follow_Playing() {
@@ -136,13 +143,9 @@ void LiveViewWidget::Follow_Playing() {
     clock_.start(ClockMilliseconds);
 }
 
-void LiveViewWidget::showEvent(QShowEvent* event) {
-    QWidget::showEvent(event);
-    Draw_Soon();
-}
-
 void LiveViewWidget::hideEvent(QHideEvent* event) {
     if (live_.Is_Playing()) live_.Play_Click();
+    is_seen_ = false;
     QWidget::hideEvent(event);
 }
 

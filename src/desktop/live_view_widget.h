@@ -16,6 +16,8 @@ class LivePicture : public QWidget {
  public:
     explicit LivePicture(LiveView& live);
 
+    Event Painted;  ///< somebody sees it
+
     /// Shows what the live view has drawn.
     void Take();
 
@@ -39,7 +41,6 @@ class LiveViewWidget : public QWidget {
     explicit LiveViewWidget(LiveView& live);
 
  protected:
-    void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
  private:
@@ -50,6 +51,7 @@ class LiveViewWidget : public QWidget {
     LivePicture* picture_;
     QTimer idle_, clock_;
     QElapsedTimer played_;
+    bool is_seen_ = false;
 };
 
 }  // namespace bannersmith
