@@ -46,6 +46,13 @@ def same_edits(linux, windows):
         assert contents(windows) == contents(linux), "the files after %s" % arguments
 
 
+def same_pictures(linux, windows):
+    for program in ([linux / "bannersmith-render"], ["wine", windows / "bannersmith-render.exe"]):
+        subprocess.run([*program, "--language", "JPN", "-o", "samples", "samples/channel/00000000.app"],
+                       cwd=pathlib.Path(program[-1]).parent, check=True, timeout=120)
+    assert contents(windows) == contents(linux) and (windows / "samples/00000000.png").exists(), "a banner is drawn"
+
+
 # A name outside ASCII, stored in the code page; a drive letter; a scheme in other letters.
 def paths_of_windows(windows):
     full = windows.with_name("full.brlyt")
@@ -93,6 +100,7 @@ def main():
         assert len(contents(linux)) > 20 and contents(windows) == contents(linux), "the samples, schemes and logos"
         try:
             same_edits(linux, windows)
+            same_pictures(linux, windows)
             paths_of_windows(windows)
             folder_outside_the_code_page(windows)
             file_held_open(windows, os.path.abspath(sys.argv[3]))
