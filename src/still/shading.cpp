@@ -123,13 +123,22 @@ Lanes Shortened(Lanes number) {
     return reinterpret_cast<Lanes>(reinterpret_cast<SignedLanes>(number << Unused) >> Unused);
 }
 
-bool Is_All(Pixels pixels, unsigned number) {
+/// Whether the pixels are all the same, and their numbers from `least` to 255.
+bool Are_Same_From(Pixels pixels, unsigned least) {
     if (!pixels.is_constant) return false;
     const Lanes& first = *pixels.first;
     for (std::size_t lane = 0; lane < 8; ++lane) {
-        if (first[lane] != number) return false;
+        if (first[lane] < least || first[lane] > 255) return false;
     }
     return true;
+}
+
+/// The colour input that takes the colours of the pixels whose alpha an alpha input takes.
+unsigned Color_Beside(unsigned alpha) {
+    constexpr std::array<unsigned, 8> Beside = {
+        color_input::Previous, color_input::C0,    color_input::C1,       color_input::C1 + 2,
+        color_input::Texture,  color_input::Drawn, color_input::Constant, color_input::Zero};
+    return Beside[alpha];
 }
 
 /// The pixels of a row, which are all one, or each its own.
@@ -149,12 +158,14 @@ Input Input_Of(Pixels pixels) {
     return Each{pixels.first};
 }
 
-/// From a to b by c, which is all that most stages do.
+/// From a to b by c, and a number on top of it that is below 256, which is all that most stages do.
 void Mix_Row(const std::array<Pixels, 4>& inputs, std::size_t pairs, Lanes* out) {
+    const Lanes added = *inputs[3].first;
     std::visit(
         [&](auto a, auto b, auto c) {
             for (std::size_t i = 0; i < pairs; ++i) {
-                out[i] = Mix(a[i] & 0xFF, b[i] & 0xFF, c[i] & 0xFF);
+                const Lanes sum = Mix(a[i] & 0xFF, b[i] & 0xFF, c[i] & 0xFF) + added;
+                out[i] = sum > 255 ? Everywhere(255) : sum;
             }
         },
         Input_Of(inputs[0]), Input_Of(inputs[1]), Input_Of(inputs[2]));
@@ -207,6 +218,12 @@ Shader::Step Shader::Unpack(const Stage& stage, const Material& material) {
         step.operands[i] = {nibble(4), nibble(8) & 7};
         takes_texture = takes_texture || step.operands[i].color / 2 == color_input::Texture / 2 ||
                         step.operands[i].alpha == alpha_input::Texture;
+    }
+    // From zero to zero the way does not matter: it is taken as it lies beside the alpha.
+    const auto& [a, b, c, d] = step.operands;
+    const bool compares_colors = (stage[6] & 0xF) >= FirstComparison;
+    if (a.color == color_input::Zero && b.color == color_input::Zero && !compares_colors) {
+        step.operands[2].color = Color_Beside(c.alpha);
     }
     const std::size_t map = stage[2] | (stage[3] & 1U) << 8;
     if (takes_texture && map < material.maps.size()) {
@@ -263,7 +280,7 @@ bool Shader::Changes_Nothing(const Step& step) const {
                             step.operands[1] == Operand{Previous, alpha_input::Previous} &&
                             step.operands[2] == Operand{Drawn, alpha_input::Drawn} &&
                             step.operands[3] == Operand{Zero, alpha_input::Zero};
-    return multiplies && Is_All(drawn_, 255);
+    return multiplies && Are_Same_From(drawn_, 255);
 }
 
 /// A register can hold what is no colour, unless the last stage that wrote it cut that off.
@@ -323,7 +340,8 @@ Pixels Shader::Read(const Step& step, std::size_t operand, std::size_t pairs) {
 
 void Shader::Combine(const Step& step, const std::array<Pixels, 4>& inputs, std::size_t pairs,
                      Lanes* out) const {
-    if (step.is_plain && Is_All(inputs[3], 0)) return Mix_Row(inputs, pairs, out);
+    const bool clamps = step.low[0] == 0 && step.low[3] == 0;
+    if (step.is_plain && clamps && Are_Same_From(inputs[3], 0)) return Mix_Row(inputs, pairs, out);
     const auto clamped = [&](SignedLanes sum) {
         sum = sum > step.high ? step.high : sum;
         return reinterpret_cast<Lanes>(sum < step.low ? step.low : sum);
