@@ -92,11 +92,10 @@ SetText Set(const TextLook& look, double box_width, double box_height, Font& fon
     const double pitch = look.font_size[1] + look.line_space;
     set.lines = lines.size();
     set.height = look.font_size[1] + pitch * static_cast<double>(lines.size() - 1);
-    const double column = (look.position % 3) / 2.0,
-                 row = static_cast<double>(look.position / 3) / 2;
-    double y = (box_height - set.height) * row;
+    const unsigned column = look.position % 3, row = look.position / 3;
+    double y = (box_height - set.height) * row / 2;
     for (const Line& line : lines) {
-        const double x = (box_width - line.width) * column;
+        const double x = (box_width - line.width) * column / 2;
         for (const Placed& placed : line.letters)
             set.cells.push_back({placed.letter, x + placed.x, y});
         y += pitch;

@@ -1,6 +1,7 @@
 #include "still/still.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "still/matrix.h"
@@ -23,8 +24,9 @@ struct Rectangle {
 
 /// The base position tells which of a pane's points lies at its place.
 Rectangle Rectangle_Of(const Pane& pane) {
-    const double left = -pane.size[0] * static_cast<double>(pane.base_position % 3) / 2;
-    const double top = pane.size[1] * static_cast<double>(pane.base_position / 3) / 2;
+    const double column = pane.base_position % 3, row = (pane.base_position - column) / 3;
+    const double left = -pane.size[0] * column / 2;
+    const double top = pane.size[1] * row / 2;
     return {left, top, left + pane.size[0], top - pane.size[1]};
 }
 
@@ -82,8 +84,8 @@ class SceneDrawing {
     };
 
     std::size_t Pixels_Of(std::size_t units) const {
-        return std::max<std::size_t>(
-            static_cast<std::size_t>(static_cast<double>(units) * view_.scale + 0.5), 1);
+        const long pixels = std::lround(static_cast<double>(units) * view_.scale);
+        return static_cast<std::size_t>(std::max(pixels, 1L));
     }
 
     /// From the screen's places, 0, 0 in the middle, y up, to the canvas's.
@@ -242,7 +244,7 @@ class SceneDrawing {
         const double em_height = line * EmHeight;
         const double width = em_width * Length(place.matrix, 0);
         const double height = em_height * Length(place.matrix, 1);
-        if (!(width > 0 && height > 0)) return;
+        if (!(width > 0 && height > 0 && std::isfinite(width * height))) return;
         const Glyph& glyph = font_->Take(cell.letter, width, height);
         if (glyph.texels == nullptr) return;
         const double unit_x = em_width / std::min(width, Font::LargestEm);
@@ -258,8 +260,8 @@ class SceneDrawing {
             const double down = std::clamp((at.top - y) / line, 0.0, 1.0);
             Rgba color{};
             for (std::size_t i = 0; i < 4; ++i) {
-                color[i] = static_cast<std::uint8_t>(look.top[i] +
-                                                     (look.bottom[i] - look.top[i]) * down + 0.5);
+                color[i] = static_cast<std::uint8_t>(
+                    std::lround(look.top[i] + (look.bottom[i] - look.top[i]) * down));
             }
             return color;
         };
