@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cstdio>
+#include <map>
 #include <new>
 #include <optional>
 #include <string>
@@ -29,9 +30,9 @@ constexpr char Usage[] =
     "       bannersmith-render --help | --version\n"
     "\n"
     "Draws a banner as the console's menu shows it, with its animations, into a PNG\n"
-    "file; many into a folder that is there, each called as its banner. A banner is a\n"
-    "channel's file or folder, or a layout with its textures and animations beside it.\n"
-    "Texts are drawn in an approximate font.\n"
+    "file; many into a folder that is there, each called as its banner, with a number\n"
+    "where that name is taken. A banner is a channel's file or folder, or a layout with\n"
+    "its textures and animations beside it. Texts are drawn in an approximate font.\n"
     "\n"
     "  -o, --output OUT    where the pictures go\n"
     "  --language LANG     ENG, GER, FRA, ITA, SPA, NED, JPN or KOR; without it ENG, or\n"
@@ -143,14 +144,19 @@ Options Read_Options(const std::vector<std::u16string>& arguments) {
     return options;
 }
 
-/// The file of a banner's picture.
-std::u16string Picture_File(const Options& options, const std::u16string& banner) {
+/// The file of a banner's picture. `taken`: how many banners of each name had one already; channels
+/// of a shelf are often called the same.
+std::u16string Picture_File(const Options& options, const std::u16string& banner,
+                            std::map<std::u16string, int>& taken) {
     const std::u16string output = From_Utf8(options.output);
     if (Is_Picture_Name(options.output)) return output;
     std::u16string name = With_Backslashes(banner);
     while (name.ends_with(u'\\')) name.pop_back();
     name = name.substr(name.rfind(u'\\') + 1);
-    return output + u"\\" + name.substr(0, name.rfind(u'.')) + u".png";
+    name = name.substr(0, name.rfind(u'.'));
+    const int number = ++taken[name];
+    if (number > 1) name += From_Utf8("-" + std::to_string(number));
+    return output + u"\\" + name + u".png";
 }
 
 std::u16string Numbered(const std::u16string& file, std::size_t frame) {
@@ -171,14 +177,14 @@ Result<> Write(still::Still& part, const Options& options, still::Font* font, st
 }
 
 /// Draws one banner. Returns the exit status.
-int Render(const Options& options, const std::u16string& name, still::Font* font) {
+int Render(const Options& options, const std::u16string& name, still::Font* font,
+           const std::u16string& file) {
     const auto banner = Banner::Load(BannerSource(Layout_File_Of(name), name), 0);
     if (!banner) return Tell(banner.Why()), NotRead;
     if (!Is_Layout(banner->Bytes())) return Tell({name, "Not a layout file"}), NotRead;
     auto files = still::Files_For(*banner, options.view.part);
     if (!files) return Tell(files.Why()), NotRead;
     still::Still part(std::move(*files));
-    const std::u16string file = Picture_File(options, name);
     std::vector<std::string> faults;
     Result<> written;
     if (!options.frames.empty()) {
@@ -212,9 +218,12 @@ int main(int argc, char** argv) {
         int status = Done;
         auto font = still::Font::Open(Program_Folder(), From_Utf8(options.font));
         if (!font) return Tell(font.Why()), NotRead;
+        std::map<std::u16string, int> taken;
         still::Font* drawn = options.has_texts ? &*font : nullptr;
         for (const std::string& banner : options.banners) {
-            status = std::max(status, Render(options, From_Utf8(banner), drawn));
+            const std::u16string name = From_Utf8(banner);
+            const std::u16string file = Picture_File(options, name, taken);
+            status = std::max(status, Render(options, name, drawn, file));
         }
         return status;
     } catch (const CLI::Error& error) {

@@ -46,7 +46,7 @@ LiveView::LiveView(LiveSource source, Desktop& desktop)
 }
 
 void LiveView::Want() {
-    has_changes_ = true;
+    has_other_layout_ = has_changes_ = true;
     Wanted.Raise();
 }
 
@@ -84,7 +84,6 @@ void LiveView::Show_Nothing(const std::u16string& why) {
 
 void LiveView::Read_Part() {
     has_other_banner_ = false;
-    layout_.clear();
     still_.reset();
     if (!source_.banner.Is_Loaded() || !Is_Layout(source_.banner.Bytes())) {
         return Show_Nothing(u"No banner to show");
@@ -116,10 +115,8 @@ void LiveView::Draw() {
     if (has_other_banner_) Read_Part();
     has_changes_ = false;
     if (!still_) return;
-    if (Is_Own_Part()) {
-        std::string layout = Layout_Now();
-        if (layout != layout_) still_->Take_Layout(layout);
-        layout_ = std::move(layout);
+    if (std::exchange(has_other_layout_, false) && Is_Own_Part()) {
+        still_->Take_Layout(Layout_Now());
     }
     if (!font_) {
         auto font = still::Font::Open(source_.program_folder, u"");

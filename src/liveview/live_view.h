@@ -73,9 +73,9 @@ class LiveView {
     Desktop& desktop_;
     std::optional<still::Still> still_;
     std::optional<still::Font> font_;
-    std::string layout_;  ///< as it was drawn last
     std::vector<still::Region> regions_;
-    bool has_other_banner_ = true, has_changes_ = true;
+    /// What has changed since it was drawn last: the banner, its texts and colours, or anything.
+    bool has_other_banner_ = true, has_other_layout_ = true, has_changes_ = true;
     bool is_playing_ = false;
     std::size_t frame_ = 0;
 };
