@@ -1,5 +1,5 @@
 // What a frame of a banner costs beside the same filling done bare: the same rectangles, the same samples of the same
-// textures, and one colour for all of it.
+// textures, and one colour for all of it, mixed with what is there or only stored.
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
@@ -36,6 +36,7 @@ struct Bare {
     std::vector<Sampler> samplers;
 };
 
+template <bool Mixes>
 void BareFill(benchmark::State& state) {
     Still still(Files());
     Textures textures(Files().texture);
@@ -58,10 +59,11 @@ void BareFill(benchmark::State& state) {
         }
         all.push_back(std::move(bare));
     }
-    std::vector<std::uint16_t> canvas(608 * 456 * 4 + 8);
     std::vector<Lanes> row(Sampler::MostPixels);
     const Lanes color = Everywhere(77);
+    std::vector<Lanes> stored(608 * 456 / 2 + Sampler::MostPixels);
     for (auto _ : state) {
+        Canvas canvas(608, 456, {0, 0, 0, 255});
         for (Bare& bare : all) {
             const double width = static_cast<double>(bare.right - bare.left),
                          height = static_cast<double>(bare.bottom - bare.top);
@@ -75,17 +77,21 @@ void BareFill(benchmark::State& state) {
                                      {static_cast<double>(y - bare.top) * h / height, 0}, count, row.data());
                         benchmark::DoNotOptimize(row.data());
                     }
-                    std::uint16_t* place = &canvas[(y * 608 + x) * 4];
-                    for (std::size_t i = 0; i < count; i += 2, place += 8) Store(place, color);
+                    if (Mixes)
+                        canvas.Put(x, y, count, {&color, true}, {}, {});
+                    else
+                        std::fill_n(&stored[(y * 608 + x) / 2], count / 2, color);
                 }
             }
         }
-        benchmark::DoNotOptimize(canvas.data());
+        benchmark::DoNotOptimize(stored.data());
+        if (Mixes) benchmark::DoNotOptimize(canvas.Taken().texels.data());
     }
 }
 
 BENCHMARK(Frame)->Unit(benchmark::kMillisecond);
-BENCHMARK(BareFill)->Unit(benchmark::kMillisecond);
+BENCHMARK(BareFill<true>)->Unit(benchmark::kMillisecond);
+BENCHMARK(BareFill<false>)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

@@ -123,12 +123,11 @@ Lanes Shortened(Lanes number) {
     return reinterpret_cast<Lanes>(reinterpret_cast<SignedLanes>(number << Unused) >> Unused);
 }
 
-/// Whether the pixels are all the same, and their numbers from `least` to 255.
-bool Are_Same_From(Pixels pixels, unsigned least) {
+bool Are_White(Pixels pixels) {
     if (!pixels.is_constant) return false;
     const Lanes& first = *pixels.first;
     for (std::size_t lane = 0; lane < 8; ++lane) {
-        if (first[lane] < least || first[lane] > 255) return false;
+        if (first[lane] != 255) return false;
     }
     return true;
 }
@@ -153,22 +152,23 @@ struct Each {
 using Input = std::variant<Same, Each>;
 
 Input Input_Of(Pixels pixels) {
-    constexpr std::uint16_t Octet = 0xFF;
-    if (pixels.is_constant) return Same{*pixels.first & Octet};
+    if (pixels.is_constant) return Same{*pixels.first};
     return Each{pixels.first};
 }
 
-/// From a to b by c, and a number on top of it that is below 256, which is all that most stages do.
+/// From a to b by c, and d on top of it, cut to colours, which is all that most stages do.
 void Mix_Row(const std::array<Pixels, 4>& inputs, std::size_t pairs, Lanes* out) {
-    const Lanes added = *inputs[3].first;
+    const SignedLanes least{}, most = reinterpret_cast<SignedLanes>(Everywhere(255));
     std::visit(
-        [&](auto a, auto b, auto c) {
+        [&](auto a, auto b, auto c, auto d) {
             for (std::size_t i = 0; i < pairs; ++i) {
-                const Lanes sum = Mix(a[i] & 0xFF, b[i] & 0xFF, c[i] & 0xFF) + added;
-                out[i] = sum > 255 ? Everywhere(255) : sum;
+                const Lanes mixed = Mix(a[i] & 0xFF, b[i] & 0xFF, c[i] & 0xFF);
+                auto sum = reinterpret_cast<SignedLanes>(mixed + d[i]);
+                sum = sum > most ? most : sum;
+                out[i] = reinterpret_cast<Lanes>(sum < least ? least : sum);
             }
         },
-        Input_Of(inputs[0]), Input_Of(inputs[1]), Input_Of(inputs[2]));
+        Input_Of(inputs[0]), Input_Of(inputs[1]), Input_Of(inputs[2]), Input_Of(inputs[3]));
 }
 
 /// What a comparing stage adds to d: c where a is above b, or is b.
@@ -280,7 +280,7 @@ bool Shader::Changes_Nothing(const Step& step) const {
                             step.operands[1] == Operand{Previous, alpha_input::Previous} &&
                             step.operands[2] == Operand{Drawn, alpha_input::Drawn} &&
                             step.operands[3] == Operand{Zero, alpha_input::Zero};
-    return multiplies && Are_Same_From(drawn_, 255);
+    return multiplies && Are_White(drawn_);
 }
 
 /// A register can hold what is no colour, unless the last stage that wrote it cut that off.
@@ -341,7 +341,7 @@ Pixels Shader::Read(const Step& step, std::size_t operand, std::size_t pairs) {
 void Shader::Combine(const Step& step, const std::array<Pixels, 4>& inputs, std::size_t pairs,
                      Lanes* out) const {
     const bool clamps = step.low[0] == 0 && step.low[3] == 0;
-    if (step.is_plain && clamps && Are_Same_From(inputs[3], 0)) return Mix_Row(inputs, pairs, out);
+    if (step.is_plain && clamps) return Mix_Row(inputs, pairs, out);
     const auto clamped = [&](SignedLanes sum) {
         sum = sum > step.high ? step.high : sum;
         return reinterpret_cast<Lanes>(sum < step.low ? step.low : sum);
