@@ -7,6 +7,7 @@
 
 #include "base/numbers.h"
 #include "layout/format.h"
+#include "layout/kind.h"
 #include "still/part.h"
 
 namespace bannersmith {
@@ -90,11 +91,17 @@ void Check_Drawing(const Banner& banner, const LayoutInfo& info, still::Font* fo
 
 }  // namespace
 
-std::vector<Warning> Find_Drawing_Warnings(const Banner& banner, const LayoutInfo& info,
-                                           still::Font* font) {
+std::vector<Warning> Find_Menu_Warnings(const Banner& banner) {
     std::vector<Warning> found;
+    if (!Is_Layout(banner.Bytes())) return found;
     Check_Version(banner, found);
     Check_Sizes(banner, found);
+    return found;
+}
+
+std::vector<Warning> Find_Drawing_Warnings(const Banner& banner, const LayoutInfo& info,
+                                           still::Font* font) {
+    std::vector<Warning> found = Find_Menu_Warnings(banner);
     Check_Drawing(banner, info, font, found);
     return found;
 }

@@ -138,7 +138,7 @@ class Form1 {
     void Read_Archive();
     void Tell_What_Is_Loaded();
 
-    /// What is told of the archive that is loaded: what is wrong with it, and what it holds.
+    /// What is told of what is loaded: what is wrong with it, and what an archive holds.
     std::u16string archive_faults_, archive_contents_;
 
     Process process_;

@@ -6,6 +6,7 @@
 #include "gameinfo/boxes.h"
 #include "gameinfo/languages.h"
 #include "inspect/archive_info.h"
+#include "inspect/drawing.h"
 #include "layout/kind.h"
 #include "layout/text_box.h"
 #include "mainwindow/form1.h"
@@ -118,6 +119,9 @@ bool Form1::Lose_Changes(const std::u16string& question) {
 void Form1::Read_Archive() {
     archive_faults_.clear();
     archive_contents_.clear();
+    for (const Warning& warning : Find_Menu_Warnings(opened_.banner)) {
+        archive_faults_ += Column("Warning: " + warning.text);
+    }
     const Archive* archive = opened_.banner.Source().Packed_In();
     if (archive == nullptr) return;
     const ArchiveInfo held = Read_Archive_Info(*archive);
