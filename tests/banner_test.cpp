@@ -133,6 +133,8 @@ TEST(Banner, IsEditedInItsArchiveAsInFolders) {
         SCOPED_TRACE(To_Utf8(path));
         Banner banner = *Banner::Load(BannerSource(folder.Text() + path));
         const bool packed = banner.Source().Packed_In() != nullptr, has_logo = !path.ends_with(u"icon.brlyt");
+        const Banner untouched = banner;
+        const std::string contents = folder.Read(To_Utf8(path.substr(1)));
         const Picture before = *banner.Game_Picture();
         ASSERT_TRUE(banner.Apply(ReplacePicture{red}));
         EXPECT_TRUE(banner.Has_Unsaved_Changes());
@@ -154,8 +156,21 @@ TEST(Banner, IsEditedInItsArchiveAsInFolders) {
         EXPECT_FALSE(banner.Was_Changed_Elsewhere());
         ASSERT_TRUE(banner.Save(*plan));
         EXPECT_TRUE(banner.Was_Changed_Elsewhere());
-        const Banner again = *Banner::Load(BannerSource(folder.Text() + path));
+        Banner again = *Banner::Load(BannerSource(folder.Text() + path));
         EXPECT_EQ(again.Game_Picture()->texels, std::string(before.texels.size(), '\xFF'));
+        // The way back leads across the save, to the very file that was there, and forth again.
+        for (const std::u16string what : {u"Save", u""}) {
+            Banner back = again;
+            back.Continue(banner, *plan, what);
+            EXPECT_EQ(*back.Undo_Name(), what);
+            while (back.Undo()) continue;
+            EXPECT_TRUE(*back.Game_Picture() == before && back.Names() == untouched.Names());
+            EXPECT_EQ(back.Bytes(), untouched.Bytes());
+            EXPECT_TRUE(back.Has_Unsaved_Changes());
+            EXPECT_TRUE(!packed || back.Plan_Save()->files[0].bytes == contents);
+            while (back.Redo()) continue;
+            EXPECT_FALSE(back.Has_Unsaved_Changes());
+        }
         folder.Write("out/meta/banner.bin/arc/timg/VCPic.tpl",
                      *channel.Find_File("meta/banner.bin/arc/timg/VCPic.tpl"));
     }
@@ -268,17 +283,16 @@ TEST(Banner, EightThreadsEditAndSaveEightEach) {
 }
 
 TEST(Banner, KeepsHistoryWithinItsBound) {
-    const std::string file = Seven_Language_Banner();
-    Banner banner = Banner::From_Bytes(file, {}, 3 * file.size()), unremembered = Banner::From_Bytes(file, {}, 0);
-    for (const char16_t* title : {u"1", u"2", u"3", u"4", u"5"}) {
-        ASSERT_TRUE(banner.Apply(SetFieldEverywhere{Field::title, title}));
+    Banner banner = Banner::From_Bytes(Seven_Language_Banner(), {}, 1000);
+    Banner unremembered = Banner::From_Bytes(Seven_Language_Banner(), {}, 0);
+    for (const char16_t title : u"12345"s) {
+        ASSERT_TRUE(banner.Apply(WriteBox{u"T_VCTitle_ENG", std::u16string(200, title)}, {title}));
     }
-    ASSERT_TRUE(banner.Undo() && banner.Undo());
-    EXPECT_EQ(Get_Text(banner.Bytes(), "T_VCTitle_ENG"), u"3");
+    ASSERT_TRUE(banner.Undo() && *banner.Undo_Name() == u"4" && *banner.Redo_Name() == u"5");
     ASSERT_TRUE(banner.Apply(WriteBox{u"T_PF", u"other"}));
     EXPECT_FALSE(banner.Redo()) << "what was taken back is gone once something else is done";
     while (banner.Undo()) continue;
-    EXPECT_EQ(Get_Text(banner.Bytes(), "T_VCTitle_ENG"), u"2");
+    EXPECT_EQ(Get_Text(banner.Bytes(), "T_VCTitle_ENG"), std::u16string(200, u'3'));
     ASSERT_TRUE(unremembered.Apply(WriteBox{u"T_PF", u"other"}));
     EXPECT_FALSE(unremembered.Undo());
 }

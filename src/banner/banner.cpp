@@ -46,24 +46,24 @@ auto Within_Memory(const BannerSource& source, Work work) -> decltype(work()) {
 
 }  // namespace
 
-bool Banner::State::operator==(const State& other) const {
+bool Banner::Rest::operator==(const Rest& other) const {
     const auto same = [](const NewContents& a, const NewContents& b) {
         return a.path == b.path && a.bytes == b.bytes;
     };
-    return layout == other.layout && forced == other.forced && padding == other.padding &&
-           names == other.names && has_scheme == other.has_scheme &&
+    return forced == other.forced && padding == other.padding && names == other.names &&
+           has_scheme == other.has_scheme &&
            std::equal(textures.begin(), textures.end(), other.textures.begin(),
                       other.textures.end(), same);
 }
 
-std::size_t Banner::State::Size() const {
-    std::size_t size = layout.size();
-    for (const NewContents& texture : textures) size += texture.bytes.size();
-    return size;
+std::size_t Banner::Step::Size() const {
+    std::size_t total = stretch.size();
+    for (const NewContents& texture : rest.textures) total += texture.bytes.size();
+    return total;
 }
 
 /// A later one takes the place of an earlier one.
-void Banner::State::Replace_Texture(const std::u16string& path, std::string bytes) {
+void Banner::Rest::Replace_Texture(const std::u16string& path, std::string bytes) {
     std::erase_if(textures, [&](const NewContents& texture) { return texture.path == path; });
     textures.push_back({path, std::move(bytes)});
 }
@@ -239,47 +239,89 @@ Result<Picture> Banner::Game_Picture() const {
     });
 }
 
-Result<> Banner::Apply(const Edit& edit) {
+Result<> Banner::Apply(std::span<const Edit> edits, const std::u16string& what) {
     return Within_Memory(source_, [&]() -> Result<> {
         State next = state_;
-        if (auto applied = Apply_To(next, edit); !applied) return applied;
-        if (next == state_) return {};
-        Remember_And_Take(undo_, std::move(next));
-        redo_.clear();
-        Shorten_History();
+        for (const Edit& edit : edits) {
+            if (auto applied = Apply_To(next, edit); !applied) return applied;
+        }
+        const Rest& rest = next;
+        if (next.layout == state_.layout && rest == state_) return {};
+        if (most_history_ > 0) Remember(Step_Between(next, state_, what));
+        state_ = std::move(next);
         return {};
     });
 }
 
-/// The one step that can lack memory comes first, while nothing has changed yet.
-void Banner::Remember_And_Take(std::deque<State>& history, State next) {
-    history.emplace_back();
-    history.back() = std::exchange(state_, std::move(next));
+/// What two layouts have alike at both ends is no part of the step between them.
+Banner::Step Banner::Step_Between(const State& from, const State& to, const std::u16string& what) {
+    const std::string &a = from.layout, &b = to.layout;
+    const std::size_t shorter = std::min(a.size(), b.size());
+    const auto front = std::mismatch(a.begin(), a.begin() + static_cast<std::ptrdiff_t>(shorter),
+                                     b.begin());
+    const auto at = static_cast<std::size_t>(front.first - a.begin());
+    const auto back = std::mismatch(
+        a.rbegin(), a.rbegin() + static_cast<std::ptrdiff_t>(shorter - at), b.rbegin());
+    const auto end = static_cast<std::size_t>(back.first - a.rbegin());
+    return {what, at, a.size() - end - at, b.substr(at, b.size() - end - at), to};
+}
+
+/// Makes of the step the one that leads back. What can lack memory comes first.
+void Banner::Take(Step& step) {
+    std::string before = state_.layout.substr(step.at, step.size);
+    state_.layout.reserve(state_.layout.size() - step.size + step.stretch.size());
+    state_.layout.replace(step.at, step.size, step.stretch);
+    step.size = step.stretch.size();
+    step.stretch = std::move(before);
+    Rest& rest = state_;
+    std::swap(rest, step.rest);
 }
 
 /// The oldest steps go first.
-void Banner::Shorten_History() {
+void Banner::Remember(Step step) {
+    undo_.push_back(std::move(step));
+    redo_.clear();
     std::size_t size = 0;
-    for (const State& state : undo_) size += state.Size();
+    for (const Step& each : undo_) size += each.Size();
     while (size > most_history_) {
         size -= undo_.front().Size();
         undo_.pop_front();
     }
 }
 
-bool Banner::Step(std::deque<State>& from, std::deque<State>& to) {
-    if (from.empty()) return false;
-    Remember_And_Take(to, std::move(from.back()));
-    from.pop_back();
-    return true;
+bool Banner::Move(Steps& from, Steps& to) {
+    const auto moved = Within_Memory(source_, [&]() -> Result<> {
+        to.push_back(from.back());
+        Take(to.back());
+        from.pop_back();
+        return {};
+    });
+    return static_cast<bool>(moved);
 }
 
 bool Banner::Undo() {
-    return Step(undo_, redo_);
+    return !undo_.empty() && Move(undo_, redo_);
 }
 
 bool Banner::Redo() {
-    return Step(redo_, undo_);
+    return !redo_.empty() && Move(redo_, undo_);
+}
+
+namespace {
+
+template <typename Steps>
+std::optional<std::u16string> Name_Of_Last(const Steps& steps) {
+    return steps.empty() ? std::nullopt : std::optional(steps.back().what);
+}
+
+}  // namespace
+
+std::optional<std::u16string> Banner::Undo_Name() const {
+    return Name_Of_Last(undo_);
+}
+
+std::optional<std::u16string> Banner::Redo_Name() const {
+    return Name_Of_Last(redo_);
 }
 
 std::optional<ChannelNames> Banner::Names() const {
@@ -333,6 +375,10 @@ Result<SavePlan> Banner::Plan_Save(std::span<const Edit> last) const {
         Region_Force(state.layout, To_Utf8(state.forced));
         state.layout = AddPadding(std::move(state.layout), *padding);
         if (source_.Packed_In()) plan.packed_layout = state.layout;
+        for (const NewContents& texture : state.textures) {
+            if (most_history_ == 0) break;
+            plan.replaced.push_back({texture.path, source_.Texture(texture.path).Value_Or("")});
+        }
         auto files = source_.Plan(std::move(state.layout), std::move(state.textures), state.names);
         if (!files) return files.Why();
         plan.files = std::move(*files);
@@ -368,6 +414,45 @@ std::vector<std::string> Banner::Notices_Of(const State& state, const std::strin
 
 Result<> Banner::Save(const SavePlan& plan, const FolderLock& lock, const Notice& notice) const {
     return Replace_Files(plan.files, lock, notice);
+}
+
+/// Textures and names that a step has not count as those on the disk, which the save has replaced.
+void Banner::Refer_To_Saved(const Banner& saved, const SavePlan& plan, Rest& rest) const {
+    for (const NewContents& before : plan.replaced) {
+        const auto known = std::find_if(
+            rest.textures.begin(), rest.textures.end(),
+            [&](const NewContents& texture) { return texture.path == before.path; });
+        if (known == rest.textures.end()) {
+            rest.textures.push_back(before);
+        } else if (known->bytes == source_.Texture(before.path).Value_Or("")) {
+            rest.textures.erase(known);
+        }
+    }
+    if (!source_.Packed_In() || !saved.source_.Packed_In()) return;
+    if (!rest.names) rest.names = saved.source_.Packed_In()->Names();
+    if (rest.names == source_.Packed_In()->Names()) rest.names.reset();
+}
+
+/// The save makes lengths and texts right, so the first steps lead from what it wrote.
+void Banner::Continue(Banner saved, const SavePlan& plan, const std::u16string& what) {
+    Refer_To_Saved(saved, plan, saved.state_);
+    for (Steps* steps : {&saved.undo_, &saved.redo_}) {
+        for (Step& step : *steps) Refer_To_Saved(saved, plan, step.rest);
+    }
+    if (!what.empty()) {
+        undo_ = std::move(saved.undo_);
+        undo_.push_back(Step_Between(state_, saved.state_, what));
+        return;
+    }
+    Banner before = saved, after = saved;
+    if (before.Undo()) {
+        undo_ = std::move(before.undo_);
+        undo_.push_back(Step_Between(state_, before.state_, *saved.Undo_Name()));
+    }
+    if (after.Redo()) {
+        redo_ = std::move(after.redo_);
+        redo_.push_back(Step_Between(state_, after.state_, *saved.Redo_Name()));
+    }
 }
 
 }  // namespace bannersmith

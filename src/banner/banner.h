@@ -21,6 +21,7 @@ struct SavePlan {
     /// Which files get which bytes: the textures that are replaced, in the order of their edits,
     /// then the layout; or the archive that has them all.
     std::vector<NewContents> files;
+    std::vector<NewContents> replaced;  ///< the textures among them as they are now
     std::string packed_layout;         ///< the layout in the archive; empty for a layout file
     bool has_logo = false;             ///< whether the logo is replaced
     std::vector<std::string> notices;  ///< what to say of it behind "Saved, ": "but the scheme ..."
@@ -41,7 +42,7 @@ class Banner {
     /// No banner: it has no bytes, and no edit gives it any.
     Banner() = default;
 
-    /// Reads the layout and cuts its padding. `history`: how many bytes of what was before may be
+    /// Reads the layout and cuts its padding. `history`: how many bytes of what edits replaced may be
     /// kept for `Undo`; 0 keeps nothing. The failure has the name of the source.
     static Result<Banner> Load(BannerSource source, std::size_t history = MostHistory);
 
@@ -78,13 +79,22 @@ class Banner {
     std::vector<std::u16string> Replaced_Textures() const;
 
     /// The one way to change a banner. What fails leaves it as it was. A text for a box that the
-    /// layout lacks, and a colour without its material, are passed over.
-    Result<> Apply(const Edit& edit);
+    /// layout lacks, and a colour without its material, are passed over. Several edits are one step
+    /// of the history, and all or none. `what`: how that step is called.
+    Result<> Apply(const Edit& edit, const std::u16string& what = {}) {
+        return Apply(std::span(&edit, 1), what);
+    }
+    Result<> Apply(std::span<const Edit> edits, const std::u16string& what = {});
 
     /// Takes back what `Apply` changed last, and brings it again. False where there is nothing to
-    /// take back or to bring.
+    /// take back or to bring, and for lack of memory.
     bool Undo();
     bool Redo();
+
+    /// What `Undo` would take back, and `Redo` would bring, as `Apply` was told; nothing where
+    /// there is nothing.
+    std::optional<std::u16string> Undo_Name() const;
+    std::optional<std::u16string> Redo_Name() const;
 
     /// Whether layout, textures or names differ from what was loaded.
     bool Has_Unsaved_Changes() const;
@@ -105,10 +115,15 @@ class Banner {
     Result<> Save(const SavePlan& plan, const FolderLock& lock = {},
                   const Notice& notice = {}) const;
 
+    /// For a banner that was just loaded from what `plan` of `saved` wrote: takes over its history,
+    /// which then leads back to what stood in the file before. `what`: how the step is called that
+    /// leads to the state before the save, for one that did more than to write what was edited;
+    /// without a name there is no such step.
+    void Continue(Banner saved, const SavePlan& plan, const std::u16string& what);
+
  private:
-    /// What edits change.
-    struct State {
-        std::string layout;
+    /// What edits change beside the layout.
+    struct Rest {
         std::vector<NewContents> textures;  ///< that the save replaces
         bool has_logo = false;              ///< whether one of them is the logo
         bool has_scheme = false;            ///< whether a scheme was applied
@@ -117,10 +132,24 @@ class Banner {
         std::optional<std::u16string> padding;
         std::optional<ChannelNames> names;  ///< where they were edited
 
-        bool operator==(const State& other) const;
-        std::size_t Size() const;
+        bool operator==(const Rest& other) const;
         void Replace_Texture(const std::u16string& path, std::string bytes);
     };
+
+    struct State : Rest {
+        std::string layout;
+    };
+
+    /// A step to another state: the stretch of the layout that becomes another one, and the rest.
+    struct Step {
+        std::u16string what;
+        std::size_t at = 0, size = 0;
+        std::string stretch;
+        Rest rest;
+
+        std::size_t Size() const;
+    };
+    using Steps = std::deque<Step>;
 
     struct Applying;
     Result<> Apply_To(State& state, const Edit& edit) const;
@@ -129,16 +158,18 @@ class Banner {
     std::string Lost_By_Force_Of(const State& state, const std::u16string& code) const;
     std::vector<std::string> Notices_Of(const State& state, const std::string& lost,
                                         std::string_view saved) const;
-    void Remember_And_Take(std::deque<State>& history, State next);
-    void Shorten_History();
-    bool Step(std::deque<State>& from, std::deque<State>& to);
+    static Step Step_Between(const State& from, const State& to, const std::u16string& what);
+    void Take(Step& step);
+    void Remember(Step step);
+    bool Move(Steps& from, Steps& to);
+    void Refer_To_Saved(const Banner& saved, const SavePlan& plan, Rest& rest) const;
 
     BannerSource source_;
     std::u16string neutral_;
     std::string on_disk_;
     std::size_t loaded_size_ = 0;  ///< of the layout in `on_disk_`
     State state_;
-    std::deque<State> undo_, redo_;
+    Steps undo_, redo_;
     std::size_t most_history_ = 0;
 };
 
