@@ -168,7 +168,7 @@ TEST(Banner, IsEditedInItsArchiveAsInFolders) {
             EXPECT_TRUE(back.Has_Unsaved_Changes());
             const std::string file = back.Plan_Save()->files.back().bytes;
             ASSERT_TRUE(!packed || Archive::Read(file)->Visit_Files([&](const std::string& member, std::string_view bytes) {
-                EXPECT_TRUE(member.ends_with(".brlyt") || channel.Find_File(member) == bytes) << member;
+                EXPECT_TRUE(member.ends_with(".brlyt") || channel.Find_File(member).value_or(std::string(bytes)) == bytes) << member;
                 return Result<>();
             }));
             while (back.Redo()) continue;

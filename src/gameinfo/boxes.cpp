@@ -19,11 +19,14 @@ std::u16string Box_To_Read(Field field, std::u16string_view code) {
 
 std::vector<std::u16string_view> Codes_For(std::string_view layout) {
     std::vector<std::u16string_view> codes(LanguageList.begin(), LanguageList.end());
-    const bool has_korean =
-        layout.find("_KOR") != layout.npos &&
-        std::any_of(FieldPrefixes.begin(), FieldPrefixes.end(), [&](std::u16string_view prefix) {
-            return !Read_Box(layout, std::u16string(prefix).append(Korean)).empty();
-        });
+    if (layout.find("_KOR") == layout.npos) return codes;
+    std::vector<std::u16string> names;
+    for (const std::u16string_view prefix : FieldPrefixes) {
+        names.push_back(std::u16string(prefix).append(Korean));
+    }
+    const auto texts = Read_Boxes(layout, names);
+    const bool has_korean = std::any_of(texts.begin(), texts.end(),
+                                        [](const std::u16string& text) { return !text.empty(); });
     if (has_korean) codes.insert(codes.end() - 1, Korean);
     return codes;
 }
@@ -31,6 +34,23 @@ std::vector<std::u16string_view> Codes_For(std::string_view layout) {
 std::u16string Read_Box(std::string_view layout, std::u16string_view name) {
     const auto bytes = To_Bytes(name);
     return bytes ? Get_Text(layout, *bytes) : std::u16string();
+}
+
+std::vector<std::u16string> Read_Boxes(std::string_view layout,
+                                       const std::vector<std::u16string>& names) {
+    std::vector<std::string> readable;
+    std::vector<std::size_t> places;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        if (auto bytes = To_Bytes(names[i])) {
+            readable.push_back(std::move(*bytes));
+            places.push_back(i);
+        }
+    }
+    const std::vector<std::string_view> views(readable.begin(), readable.end());
+    std::vector<std::u16string> texts(names.size());
+    std::vector<std::u16string> read = Get_Texts(layout, views);
+    for (std::size_t i = 0; i < places.size(); ++i) texts[places[i]] = std::move(read[i]);
+    return texts;
 }
 
 std::string Write_Boxes(std::string layout, const std::vector<NamedText>& texts) {

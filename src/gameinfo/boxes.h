@@ -58,6 +58,11 @@ struct NamedText {
 /// The display text of a box of the layout. A name with a code unit above 0xFF names no box.
 std::u16string Read_Box(std::string_view layout, std::u16string_view name);
 
+/// The same for each of `names`, in time that grows with the layout and the names, not with their
+/// product.
+std::vector<std::u16string> Read_Boxes(std::string_view layout,
+                                       const std::vector<std::u16string>& names);
+
 /// The layout with each text written into its box, in order. Names that no box can have are passed
 /// over. The name of a neutral box never leads to one of the language `Korean`.
 std::string Write_Boxes(std::string layout, const std::vector<NamedText>& texts);

@@ -24,36 +24,39 @@ std::u16string Number(std::size_t number) {
     return From_Utf8(std::to_string(number));
 }
 
-bool Has_One_Text_For_All(std::string_view layout) {
-    return std::any_of(FieldPrefixes.begin(), FieldPrefixes.end(), [&](std::u16string_view prefix) {
-        return !Read_Box(layout, Neutral_Box(prefix)).empty();
-    });
-}
-
 /// The codes of the languages that have a title, or what there is in their place.
 std::u16string Languages_Present(std::string_view layout) {
+    std::vector<std::u16string> names;
+    for (const std::u16string_view code : Languages) names.push_back(Box_Of(Field::title, code));
+    names.push_back(Box_Of(Field::title, Korean));
+    for (const std::u16string_view prefix : FieldPrefixes) names.emplace_back(Neutral_Box(prefix));
+    const auto texts = Read_Boxes(layout, names);
     std::u16string codes;
-    for (const std::u16string_view code : Codes_For(layout)) {
-        if (code == NoLanguage || Read_Box(layout, Box_Of(Field::title, code)).empty()) continue;
-        codes.append(codes.empty() ? u"" : u" ").append(code);
+    bool has_one_for_all = false;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        if (texts[i].empty()) continue;
+        has_one_for_all = has_one_for_all || i > Languages.size();
+        if (i > Languages.size()) continue;
+        codes.append(codes.empty() ? u"" : u" ").append(names[i].substr(box_prefix::Title.size()));
     }
     if (!codes.empty()) return codes;
-    return Has_One_Text_For_All(layout) ? u"one text for all languages" : u"no titles";
+    return has_one_for_all ? u"one text for all languages" : u"no titles";
 }
 
 /// The text boxes that the fields write, as far as their texts differ between two layouts.
-std::vector<std::string> Changed_Boxes(const std::string& before, const std::string& after) {
-    std::vector<std::string> changed;
-    const auto compare = [&](const std::string& name) {
-        if (Get_Text(before, name) != Get_Text(after, name)) changed.push_back(name);
-    };
+std::vector<std::u16string> Changed_Boxes(const std::string& before, const std::string& after) {
+    std::vector<std::u16string> names, changed;
     for (const std::u16string_view prefix : FieldPrefixes) {
         for (const std::u16string_view code : Codes_For(after)) {
-            compare(code == NoLanguage ? To_Utf8(Neutral_Box(prefix))
-                                       : To_Utf8(prefix) + To_Utf8(code));
+            names.push_back(code == NoLanguage ? std::u16string(Neutral_Box(prefix))
+                                               : std::u16string(prefix).append(code));
         }
     }
-    compare(To_Utf8(SystemBox));
+    names.emplace_back(SystemBox);
+    const auto old = Read_Boxes(before, names), now = Read_Boxes(after, names);
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        if (old[i] != now[i]) changed.push_back(names[i]);
+    }
     return changed;
 }
 
@@ -62,12 +65,12 @@ std::u16string Column(const std::string& text) {
     return u"  |  " + From_Utf8(text);
 }
 
-std::u16string Describe(const std::vector<std::string>& boxes, bool same) {
+std::u16string Describe(const std::vector<std::u16string>& boxes, bool same) {
     if (same) return u"nothing changed";
     if (boxes.empty()) return u"other texts changed";
     std::u16string text =
         Number(boxes.size()) + (boxes.size() == 1 ? u" text" : u" texts") + u" changed:";
-    for (const std::string& name : boxes) text += u" " + From_Bytes(name);
+    for (const std::u16string& name : boxes) text += u" " + name;
     return text;
 }
 
