@@ -1,7 +1,9 @@
 // A desktop without a person in front of it.
 #pragma once
 
+#include <algorithm>
 #include <string>
+#include <vector>
 
 #include "base/message.h"
 #include "base/text.h"
@@ -22,6 +24,11 @@ class NotingDesktop : public Desktop {
 
     void Message(Text text) override { said += "[" + Line_Of(text) + "]"; }
     bool Confirm(Text question) override { return Ask(question, u"question") == u"yes"; }
+    std::size_t Choose(Text question, const std::vector<std::u16string>& answers) override {
+        said += "<" + Line_Of(Replace_All(question, u"\n", u"/")) + ">";
+        const auto given = std::find(answers.begin(), answers.end(), answer);
+        return static_cast<std::size_t>(std::min(given, answers.end() - 1) - answers.begin());
+    }
     void Report(const Failure& failure) override { said += "{" + One_Line(failure) + "}"; }
     std::u16string Open_File(Text filter, Text last) override { return Ask(filter, last); }
     std::u16string Save_File(Text filter, Text name) override { return Ask(filter, name); }

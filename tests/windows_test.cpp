@@ -121,6 +121,10 @@ class Windows : public testing::Test {
         if (word == u"set") return main.cmdSet_Click(index);
         if (word == u"all") return main.cmdSetAll_Click(index);
         if (word == u"save") return main.cmdSave_Click();
+        if (word == u"leave") return main.txtSrc_Leave();
+        if (word == u"look") return main.Look_At_File();
+        if (word == u"undo") return main.Undo_Click();
+        if (word == u"redo") return main.Redo_Click();
         if (word == u"browse") return main.cmdFileBrowse_Click();
         if (word == u"texts") return main.TextEditor ? main.Close_Text_Editor() : main.cmdHC_Click();
         if (word == u"write") return main.TextEditor->cmdSet_Click();
@@ -134,6 +138,9 @@ class Windows : public testing::Test {
         if (!word.empty()) throw std::invalid_argument("no step is called " + To_Utf8(word));
     }
     std::string Look(const std::u16string& word, const std::u16string& at) {
+        if (word == u"undo") return Line_Of(main.lblUndo.Caption());
+        if (word == u"redo") return Line_Of(main.lblRedo.Caption());
+        if (word == u"marked") return Line_Of(main.cmbLogo.Mark());
         if (word == u"told") return Line_Of(main.lblLastCommand.Caption());
         if (word == u"loaded") return Line_Of(main.lblLoaded.Caption());
         if (word == u"file") return In_Home(home.Read(To_Utf8(at)));
@@ -204,8 +211,8 @@ TEST_F(Windows, ShowTheFirstValueOfEachField) {
         EXPECT_EQ(Do(u"?fields; ?loaded"), seen);
     }
     Walk({{u"language0 4; language1 4; language2 4; language3 4; ?fields", ", 1990, , , SYS, SPA, SPA, SPA, SPA"},
-          {u"name typed; language0 -1; ?name", "typed"},
-          {u"language0 1; ?name", "G"}});
+          {u"name typed; language0 -1; ?name", "<Name (SPA) was typed and is not set.>, typed"},
+          {u"answer Discard; language0 1; ?name", "<Name (SPA) was typed and is not set.>, G"}});
     EXPECT_EQ(info.cmbRegion[0].Count(), 8) << "without Korean, which this layout does not have";
     for (const int index : {4, -1}) main.cmbRegion_click(static_cast<std::int16_t>(index));
 }
@@ -227,7 +234,8 @@ TEST_F(Windows, SaveWhatIsChosen) {
     Start({u"T_VCTitle_GER G", u"T_Year_GER 1990", u"T_PLAY_GER x"});
     const std::size_t size = main.BrlytData.size();
     home.Write("cfgs/vcinfopath.cfg", "spoilt");
-    Walk({{u"logo 1; force 0; pad +10; year typed and not set; save", "[File Successfully Saved!], Saved"},
+    Walk({{u"logo 1; force 0; pad +10; year typed and not set; answer Discard; save",
+           "<What was typed is not set, and would not be saved: Year (GER)>[File Successfully Saved!], Saved"},
           {u"?fields; ?logo; ?force", "G, 1990, , , , GER, GER, NONE, NONE, Comet.tpl, ENG"},
           {u"?file b/arc/timg/my_Back_x.tpl; ?file cfgs/vcinfopath.cfg", "comet, \\b/arc/blyt/x/"}});
     EXPECT_EQ(home.Read("b/arc/blyt/x").size(), size + 10);
@@ -259,44 +267,86 @@ TEST_F(Windows, LeaveEverythingAsItWasWhenASaveFails) {
     std::filesystem::create_directory(file);
     fails("HOME\\b/arc/blyt/x: Is a directory");
     std::filesystem::remove(file);
-    Walk({{u"path \\none; save", "{\\none: No such file or directory}, Not saved"},
+    Walk({{u"path \\none; answer Discard; save",
+           "<\\b/arc/blyt/x does not have the latest changes.>{\\none: No such file or directory}, Not saved"},
           {u"path ; save; ?file none", "{File: Names no layout file}, Not saved, (none)"}});
 }
 
 TEST_F(Windows, AskBeforeSomethingIsLost) {
     Start({u"T_VCTitle_ENG One", u"T_PF X"});
+    home.Write("two", "two");
+    const std::string lacks = "<\\b/arc/blyt/x does not have the latest changes.>";
     Walk({{u"?close; system New; all 3", "closes, System: 1 text changed: T_PF"},
-          {u"?close", "stays, <question: \\b/arc/blyt/x does not have the latest changes. Close without saving?>"}});
-    EXPECT_TRUE(Do(u"answer /dev/null; browse; ?path")
-                    .ends_with("<question: \\b/arc/blyt/x does not have the latest changes. Take another file without "
-                               "saving?>, \\b/arc/blyt/x"));
-    EXPECT_TRUE(Do(u"answer yes; ?close").starts_with("closes"));
-    EXPECT_EQ(Do(u"texts; ?close; texts"), "stays") << "it is behind another window";
+          {u"?close", "stays, " + lacks},
+          {u"answer /dev/null; browse; ?path",
+           "<HOME\\b/arc/blyt/x: Layouts and Banners (*.brlyt *.app *.bnr *.bin)|*.brlyt;*.app;*.bnr;*.bin|Brlyt Files "
+           "(*.brlyt)|*.brlyt|All Files (*.*)|*.*>" + lacks + ", \\b/arc/blyt/x"},
+          {u"texts; ?close; texts", "stays"},  // behind another window
+          // Typed over, the path leads away from the work and back to it.
+          {u"name Typed; path \\b; path \\b/arc/blyt/x; ?name; ?is T_PF", "Typed, New"},
+          {u"path \\two; ?name; ?is T_PF", ", "},
+          {u"leave; ?path; ?name; ?is T_PF", lacks + ", \\b/arc/blyt/x, Typed, New"},
+          {u"path \\two; answer Save; leave; ?path; ?file two", lacks + "[File Successfully Saved!], \\two, two"},
+          {u"path \\b/arc/blyt/x; ?is T_PF; ?is T_VCTitle_ENG", "New, Typed"},
+          {u"name Other; path \\two; answer Discard; leave; path \\b/arc/blyt/x; ?name", lacks + ", Typed"},
+          {u"name Again; answer Set it first; language0 2; ?is T_VCTitle_ENG",
+           "<Name (ENG) was typed and is not set.>, Again"},
+          {u"language0 0; name Last; answer Save; ?close; ?is T_VCTitle_ENG",
+           "closes, <\\b/arc/blyt/x does not have the latest changes./Not set yet: Name (ENG)>[File Successfully "
+           "Saved!], Last"},
+          {u"name Lost; system Lost; all 3; answer Discard; ?close; ?is T_PF",
+           "System: 1 text changed: T_PF, closes, <\\b/arc/blyt/x does not have the latest changes./Not set yet: Name "
+           "(ENG)>, "}});
     main.Take_File(u"\\b/arc/blyt/x");
-    EXPECT_EQ(main.info.txtSystem.Text(), u"X") << "the same file once more is loaded anew";
+    EXPECT_EQ(main.info.txtSystem.Text(), u"New") << "what was given up is loaded anew";
 
     // Each save asks; without an answer it leaves the file as it is.
-    const auto asks = [&](const std::string& file, const std::string& question) {
+    const auto asks = [&](const std::string& file, const std::u16string& answer, const std::string& question) {
         const std::string kept = home.Read(file);
         Do(u"answer ");
-        EXPECT_EQ(Do(u"save"), "<question: " + question + ">, Not saved");
+        EXPECT_EQ(Do(u"save"), "<" + question + ">, Not saved");
         EXPECT_TRUE(home.Read(file) == kept);
-        Do(u"answer yes");
-        EXPECT_TRUE(Do(u"save").starts_with("<question: " + question + ">[File Successfully Saved!], Saved"));
+        Do(u"answer " + answer);
+        EXPECT_TRUE(Do(u"save").starts_with("<" + question + ">[File Successfully Saved!], Saved"));
         EXPECT_FALSE(home.Read(file) == kept);
     };
+    const std::string changed = "\\b/arc/blyt/x was changed by another program since it was loaded.";
     home.Write("b/arc/blyt/x", "other");
-    asks("b/arc/blyt/x", "\\b/arc/blyt/x was changed by another program since it was loaded. Save over it?");
+    EXPECT_EQ(Do(u"look; look; ?name"), "<" + changed + ">, Last") << "once";
+    asks("b/arc/blyt/x", u"Overwrite", changed + " Save over it?");
+    home.Write("b/arc/blyt/x", Boxes({u"T_VCTitle_ENG Elsewhere"}));
+    Walk({{u"answer Reload; look; ?name", "<" + changed + ">, Elsewhere"},
+          {u"name Here; all 0; ?name", "Name: 1 text changed: T_VCTitle_ENG, Here"}});
     std::filesystem::remove(home.Path() / "b/arc/blyt/x");
-    EXPECT_EQ(Do(u"save; ?name"), "[File Successfully Saved!], Saved, One") << "nothing is lost where no file is";
+    EXPECT_EQ(Do(u"look; save; ?name"), "[File Successfully Saved!], Saved, Here") << "nothing is lost where no file is";
     home.Write("two", German_Japanese_Banner());
     Do(u"path \\two; force 0");
-    asks("two", "\\two: region force leaves the group GER. Force the region all the same?");
+    asks("two", u"yes", "question: \\two: region force leaves the group GER. Force the region all the same?");
     home.Write("named", "rLYT123456789012");
     Do(u"path \\named; pad ");
-    asks("named", "\\named is not a layout file. Save it all the same?");
+    asks("named", u"yes", "question: \\named is not a layout file. Save it all the same?");
     EXPECT_EQ(home.Read("named"), "rLYT1234\0\0\0\x10"s + "9012");
     EXPECT_EQ(Do(u"pad much; save").find("question"), std::string::npos) << "what cannot be done is not asked about";
+}
+
+TEST_F(Windows, TakeBackWhatWasDone) {
+    Start({u"T_VCTitle_ENG One", u"T_Year_ENG Released: 1990", u"T_PF X"});
+    const std::string loaded = main.BrlytData;
+    Walk({{u"undo; redo; name Two; set 0; year 2001; all 1; ?undo; ?redo",
+           "Name: 1 text changed: T_VCTitle_ENG, Year: 1 text changed: T_Year_ENG, Year (all languages), "},
+          {u"system typed; undo; ?told; ?fields; ?redo",
+           "Taken back: Year (all languages), Two, 1990, , , typed, ENG, ENG, NONE, NONE, Year (all languages)"},
+          {u"answer Set it first; logo 1; pad 0; save", "<What was typed is not set, and would not be saved: System>[File "
+                                                        "Successfully Saved!], Saved"},
+          {u"?undo; undo; undo; undo; ?undo; ?name; ?redo",
+           "Save with Logo, , One, Name (ENG)"}});
+    EXPECT_TRUE(main.BrlytData == loaded) << "the very layout, across the save";
+    Walk({{u"logo 0; save; ?file b/arc/timg/my_Back_x.tpl", "[File Successfully Saved!], Saved, old"},
+          {u"redo; redo; redo; ?told; ?is T_PF; ?loaded",
+           "Brought again: Save with Logo, typed, x  |  texts not saved  |  ENG  |  424 bytes"},
+          {u"logo 1; path \\b/arc/blyt/../blyt/x; answer Save; leave; ?logo; ?marked",
+           "<\\b/arc/blyt/x does not have the latest changes.>[File Successfully Saved!], Comet.tpl, Will be applied to "
+           "this file, too"}});
 }
 
 TEST_F(Windows, EditAnyTextByItsName) {

@@ -36,6 +36,18 @@ class Event {
 class Control {
  public:
     Event Shown;
+
+    /// What the user should know of the control beside what it shows, in words; a view makes a
+    /// control that has any stand out. Empty at first.
+    const std::u16string& Mark() const { return mark_; }
+    void Set_Mark(std::u16string_view mark) {
+        if (mark == mark_) return;
+        mark_ = mark;
+        Shown.Raise();
+    }
+
+ private:
+    std::u16string mark_;
 };
 
 /// A box with one line of text.
@@ -67,6 +79,9 @@ class DropDownList : public Control {
     static constexpr int NoSelection = -1;  ///< the index where nothing is selected
 
     Event Click;  ///< the selection changed, or a person picked an entry
+
+    /// Whether a person may pick an entry now, asked before anything changes; yes without this.
+    std::function<bool()> may_pick;
 
     /// The picture that a view shows beside an entry, by its index; none without this.
     std::function<std::optional<Picture>(int index)> picture_of;
@@ -113,7 +128,9 @@ class DropDownList : public Control {
 
     /// By a person: raises `Click` also when the entry was selected already.
     void Pick(int index) {
-        if (index == index_) {
+        if (may_pick && !may_pick()) {
+            Shown.Raise();  // a view shows the picked entry already
+        } else if (index == index_) {
             Click.Raise();
         } else {
             Select(index);

@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/color.h"
 #include "base/result.h"
@@ -26,6 +27,12 @@ class Desktop {
 
     /// Whether the user says yes to `question`; whoever only presses Enter says no.
     virtual bool Confirm(const std::u16string& question) = 0;
+
+    /// Which of `answers` the user gives to `question`, by its place, the first being the one for
+    /// whoever only presses Enter; the last one, which takes back what led to the question, also
+    /// where the user gives none.
+    virtual std::size_t Choose(const std::u16string& question,
+                               const std::vector<std::u16string>& answers) = 0;
 
     /// Tells the user what went wrong with what.
     virtual void Report(const Failure& failure) = 0;

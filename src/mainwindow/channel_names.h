@@ -23,12 +23,25 @@ class ChannelNamesPage {
 
     /// Shows the page or hides it, and what stands in the banner.
     void Refill();
+    /// Shows what stands in the banner, but where a text is not set yet.
+    void Show_Set();
+    /// What is typed; `Give_Back` shows it again.
+    using Content = std::array<std::array<std::u16string, NameLines>, NameLanguages.size()>;
+    Content Take_Content() const;
+    void Give_Back(const Content& content);
+
+    Event Typed;  ///< a line's text is another one
+
+    /// Whether a line holds a text that was typed and is not set. Its box has a mark then.
+    bool Has_Unset() const;
 
     /// Writes each line that differs from the banner's, and says how many that were. One that
     /// cannot be written is passed over.
     std::size_t cmdSet_Click();
 
  private:
+    void Show_Marks();
+
     const Banner& banner_;
     std::function<void(const Edit& edit)> apply_;
 };

@@ -5,6 +5,7 @@
 #include "banner/pictures.h"
 #include "base/text.h"
 #include "colors/window/scheme_list.h"
+#include "forms/say.h"
 #include "gameinfo/languages.h"
 #include "system/files.h"
 
@@ -37,11 +38,17 @@ Form1::Form1(Process process, Desktop& desktop)
 
 /// What stands in the fields is seen at once.
 void Form1::Watch_Fields() {
-    for (TextBox* box :
-         {&info.txtName, &info.txtYear, &info.txtPlayers, &info.txtESRB, &info.txtSystem}) {
-        box->Change = [this] { live.Take_Changes(); };
+    info.Typed = [this] { live.Take_Changes(); };
+    for (std::size_t i = 0; i < info.cmbRegion.size(); ++i) {
+        info.cmbRegion[i].may_pick = [this, i] { return Settle_Field(i); };
     }
-    cmbFileList.Click = [this] { live.Take_Changes(); };
+    cmbFileList.Click = [this] {
+        cmbFileList.Set_Mark(u"");
+        live.Take_Changes();
+    };
+    for (DropDownList* list : {&cmbLogo, &cmbForce}) {
+        list->Click = [list] { list->Set_Mark(u""); };
+    }
 }
 
 std::u16string Form1::Language_Of_Name() const {
@@ -74,18 +81,48 @@ bool Form1::Form_Load() {
 }
 
 void Form1::txtSrc_Change() {
+    Keep_Work();
+    if (!Give_Back_Work()) return Load();
+    Show_Loaded();
+}
+
+void Form1::Load() {
+    const std::u16string before = opened_.banner.Source().Name();
     opened_ = {};
     opened_ = Open_Layout(process_.program_folder, txtSrc.Text(), Banner::MostHistory);
     if (opened_.banner.Is_Loaded()) info.Refill();
     names.Refill();
+    if (opened_.banner.Is_Loaded() && opened_.banner.Source().Name() != before) {
+        Mark_What_Stays_Chosen();
+    }
+    Show_Loaded();
+}
+
+/// Beside the fields.
+void Form1::Show_Loaded() {
+    is_change_known_ = false;
     live.Take_Banner();
     Read_Archive();
     lblLastCommand.Set(u"");
     Tell_What_Is_Loaded();
 }
 
-bool Form1::Apply(const Edit& edit) {
-    const auto applied = opened_.banner.Apply(edit);
+/// It was chosen for another file.
+void Form1::Mark_What_Stays_Chosen() {
+    const auto mark = [](DropDownList& list, bool is_chosen) {
+        list.Set_Mark(is_chosen ? Say("Will be applied to this file, too") : u"");
+    };
+    mark(cmbFileList, cmbFileList.Index() > 0);
+    mark(cmbLogo, cmbLogo.Index() > 0);
+    mark(cmbForce, !cmbForce.On_Last_Entry());
+}
+
+void Form1::Take_Back_Choice(DropDownList& list) {
+    list.Select(&list == &cmbForce ? list.Count() - 1 : 0);
+}
+
+bool Form1::Apply(std::span<const Edit> edits, const std::u16string& what) {
+    const auto applied = opened_.banner.Apply(edits, what);
     if (!applied) desktop_.Report(applied.Why());
     live.Take_Changes();
     return static_cast<bool>(applied);
@@ -101,9 +138,7 @@ void Form1::cmdFileBrowse_Click() {
 }
 
 void Form1::Take_File(const std::u16string& file) {
-    if (!Lose_Changes(u" does not have the latest changes. Take another file without saving?")) {
-        return;
-    }
+    if (!Settle_Work()) return;
     txtSrc.Set(file);
     // Dialogs answer with the platform's own separator, so the program's folder is looked for with
     // either one behind it.
@@ -111,7 +146,7 @@ void Form1::Take_File(const std::u16string& file) {
     for (const char16_t separator : {u'\\', u'/'}) {
         txtSrc.Set(Replace_All(txtSrc.Text(), folder + separator, u"\\"));
     }
-    if (Has_Unsaved_Changes()) txtSrc_Change();  // the same file once more
+    if (!opened_.banner.Is_Loaded()) Load();  // the same file once more
 }
 
 void Form1::RefreshColorList_Here() {

@@ -16,6 +16,7 @@
 #include "gamepicture/game_picture.h"
 #include "liveview/live_view.h"
 #include "mainwindow/channel_names.h"
+#include "mainwindow/edit_names.h"
 #include "mainwindow/game_info.h"
 #include "mainwindow/layout_file.h"
 #include "manualeditor/frm_hc.h"
@@ -52,6 +53,8 @@ class Form1 {
     FileList File1{{".vccs"}}, File2{{".tpl", ".png", ".jpg", ".jpeg"}};
     Label lblLoaded;       ///< what is loaded: file, languages, size, unsaved changes
     Label lblLastCommand;  ///< what the last command changed
+    /// What `Undo_Click` takes back and `Redo_Click` brings again; empty where there is nothing.
+    Label lblUndo, lblRedo;
 
     /// The other windows while they are open. A view is made on the event, before they load.
     std::unique_ptr<frmColor> ColorWindow;
@@ -64,14 +67,21 @@ class Form1 {
     bool Form_Load();
 
     /// Empties `BrlytData`, and loads and remembers the file that the path box names, if there is
-    /// one.
+    /// one. Work that is not saved is kept until the path names its file again or the box is left.
     void txtSrc_Change();
+
+    /// The user leaves the path box: asks what becomes of kept work.
+    void txtSrc_Leave();
+
+    /// The user comes back to the window: asks whether to load the file again where another program
+    /// changed it.
+    void Look_At_File();
 
     /// Lets the user choose a file, and takes it.
     void cmdFileBrowse_Click();
 
-    /// Puts the full path of a file into the path box, unless there are unsaved changes that the
-    /// user does not give up. The program's folder and the separator behind it become "\\",
+    /// Puts the full path of a file into the path box, unless there is unsaved work that the user
+    /// neither saves nor gives up. The program's folder and the separator behind it become "\\",
     /// wherever they stand in it, so that a path below it is named relative to it.
     void Take_File(const std::u16string& file);
 
@@ -82,9 +92,18 @@ class Form1 {
     void cmdSet_Click(std::int16_t Index);
     void cmdSetAll_Click(std::int16_t Index);
 
-    /// Applies an edit to the banner; a failure is reported, and false. The fields are not
-    /// refreshed.
-    bool Apply(const Edit& edit);
+    /// Applies edits to the banner, all or none; a failure is reported, and false. The fields are
+    /// not refreshed.
+    bool Apply(const Edit& edit) { return Apply(std::span(&edit, 1), Name_Of(edit)); }
+    bool Apply(std::span<const Edit> edits, const std::u16string& what);
+
+    /// Takes back the last change, or brings it again, and shows it. Fields whose text is not set
+    /// keep it.
+    void Undo_Click();
+    void Redo_Click();
+
+    /// Takes back what is chosen in one of the lists of what a save applies.
+    void Take_Back_Choice(DropDownList& list);
 
     /// Set of the page of channel names, see `ChannelNamesPage`.
     void cmdSetNames_Click();
@@ -104,14 +123,14 @@ class Form1 {
     /// Whether the layout in memory differs from the file as it was loaded or saved last.
     bool Has_Unsaved_Changes() const;
 
-    /// Whether the window may be closed: it is enabled, and there are no unsaved changes or the
-    /// user gives them up.
+    /// Whether the window may be closed: it is enabled, and there is no unsaved work or the user
+    /// saves it or gives it up.
     bool May_Close();
 
     /// Saves the layout and the textures that go with it, and loads the saved file. A failure is
-    /// reported and leaves the files and `BrlytData` as they were. A file that is no layout, or
-    /// that another program changed since it was loaded, is saved when the user says so.
-    void cmdSave_Click();
+    /// reported and leaves the files and `BrlytData` as they were. Asks first where fields are not
+    /// set, the file is no layout, or another program changed it since it was loaded.
+    void cmdSave_Click() { Save_Changes(); }
 
     /// Fills the scheme list with "Current Brlyt", which it selects, and the names of the schemes.
     void RefreshColorList_Here();
@@ -123,8 +142,23 @@ class Form1 {
  private:
     std::u16string Layout_Path() const;
     Failure Why_Nothing_Is_Loaded() const;
-    bool Lose_Changes(const std::u16string& question);
+    void Load();
+    void Show_Loaded();
 
+    std::u16string Unset_Fields() const;
+    void Set_Fields();
+    void Show_Fields_Again();
+    bool Settle_Field(std::size_t field);
+    bool Settle_Fields();
+    bool Has_Unsaved_Work() const;
+    bool Settle_Work();
+    void Drop_Work();
+    void Keep_Work();
+    bool Give_Back_Work();
+    bool Settle_Kept_Work();
+    bool Settle_Change_Elsewhere();
+
+    bool Save_Changes();
     Result<> Check_Save() const;
     bool Save_Is_Wanted();
     std::vector<Edit> Chosen_Edits() const;
@@ -132,11 +166,25 @@ class Form1 {
     std::u16string Language_Of_Name() const;
     void Watch_Fields();
     Result<SavePlan> Save();
+    void Load_Saved(const SavePlan& plan);
+    void Tell_Saved(const SavePlan& plan);
+    std::u16string What_A_Save_Adds() const;
+    void Mark_What_Stays_Chosen();
 
+    void Step_Through_History(bool (Banner::*step)(), const std::u16string& told);
     void Tell_Changes(std::u16string_view command, const std::string& before);
     std::optional<Picture> Logo_Picture(int index) const;
     void Read_Archive();
     void Tell_What_Is_Loaded();
+
+    /// Work that is not saved, while the path names another file.
+    struct KeptWork {
+        OpenedLayout opened;
+        GameInfo::Content info;
+        ChannelNamesPage::Content names;
+    };
+    std::unique_ptr<KeptWork> kept_;
+    bool is_change_known_ = false;  ///< that another program made to the file
 
     /// What is told of what is loaded: what is wrong with it, and what an archive holds.
     std::u16string archive_faults_, archive_contents_;

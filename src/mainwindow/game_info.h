@@ -17,6 +17,9 @@ namespace bannersmith {
 /// Set All. The names of the controls are those of the window.
 class GameInfo {
  public:
+    /// The fields by their places in the window's arrays: those of `Field`, then the console's name.
+    static constexpr std::size_t Fields = FieldPrefixes.size() + 1, System = FieldPrefixes.size();
+
     /// Empty fields, and lists of all languages with nothing selected. `banner` must outlive the
     /// object; `apply` applies an edit to it.
     GameInfo(const Banner& banner, std::function<void(const Edit& edit)> apply);
@@ -28,6 +31,26 @@ class GameInfo {
     /// The language that each field shows, by its `Field`; a selection runs `cmbRegion_click`.
     std::array<DropDownList, FieldPrefixes.size()> cmbRegion;
 
+    Event Typed;  ///< a field's text is another one
+
+    /// Whether the field holds a text that was typed and is not set. Its box has a mark then, and
+    /// so has its selector.
+    bool Is_Unset(std::size_t field) const;
+    /// How the field is called, with the code of its language: "Name (ENG)".
+    std::u16string Name_Of(std::size_t field) const;
+    /// Set, or Set All for a field that has no other.
+    void Set(std::size_t field);
+    /// Shows the field's value as it is set.
+    void Show_Again(std::size_t field);
+
+    /// What is selected and typed; `Give_Back` shows it again. Nothing that is set changes.
+    struct Content {
+        std::array<int, FieldPrefixes.size()> languages;
+        std::array<std::u16string, Fields> texts;
+    };
+    Content Take_Content() const;
+    void Give_Back(const Content& content);
+
     /// Shows the value of field `Index` for the language that its selector shows: 0 name, 1 year,
     /// 2 players, 3 rating; any other index does nothing, and so does a selector without a
     /// selection. A year stays as it is where the language has no year text; the other fields
@@ -38,7 +61,8 @@ class GameInfo {
     /// with a value, or on "NONE".
     void Refill();
 
-    /// Shows again what the banner has in the selected languages, and the console's name.
+    /// Shows again what the banner has in the selected languages, and the console's name, but where
+    /// a text is not set yet.
     void Show_Selected();
 
     /// Set for one field in the language of its selector: 0 name, 1 year, 2 rating; else nothing.
@@ -58,9 +82,15 @@ class GameInfo {
     TextBox& Box_Of_Field(std::size_t field);
     const TextBox& Box_Of_Field(std::size_t field) const;
     std::u16string Selected_Text(Field field) const;
+    void Show(std::size_t field, std::u16string_view value);
+    void Apply(std::size_t field, const Edit& edit);
+    bool Is_Set_Now(std::size_t field) const;
+    void Show_Mark(std::size_t field);
 
+    const Banner& banner_;
     const std::string& BrlytData;
     std::function<void(const Edit& edit)> apply_;
+    std::array<std::u16string, Fields> set_;  ///< what each field shows when nothing was typed
 };
 
 }  // namespace bannersmith

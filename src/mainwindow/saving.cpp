@@ -2,6 +2,8 @@
 #include <utility>
 
 #include "base/text.h"
+#include "forms/say.h"
+#include "gameinfo/languages.h"
 #include "layout/file_length.h"
 #include "layout/format.h"
 #include "layout/kind.h"
@@ -9,25 +11,55 @@
 
 namespace bannersmith {
 
-void Form1::cmdSave_Click() {
-    auto checked = Check_Save();
-    if (checked && !Save_Is_Wanted()) {
-        lblLastCommand.Set(u"Not saved");
-        return;
+/// Whether the file has everything now.
+bool Form1::Save_Changes() {
+    lblLastCommand.Set(Say("Not saved"));
+    if (!Settle_Kept_Work()) return false;
+    if (const auto checked = Check_Save(); !checked) {
+        desktop_.Report(checked.Why());
+        return false;
     }
-    const auto saved = checked ? Save() : checked.Why();
+    if (!Save_Is_Wanted()) return false;
+    const auto saved = Save();
     if (!saved) {
         desktop_.Report(saved.Why());
-        lblLastCommand.Set(u"Not saved");
-        return;
+        return false;
     }
     desktop_.Message(u"File Successfully Saved!");
-    txtSrc_Change();
-    const bool logo_unplaced = cmbLogo.Index() > 0 && !saved->has_logo;
-    std::u16string about;
-    for (const std::string& notice : saved->notices) about += u", " + From_Utf8(notice);
-    lblLastCommand.Set(logo_unplaced ? u"Saved; the banner has no logo texture to replace"
-                                     : u"Saved" + about);
+    Load_Saved(*saved);
+    Tell_Saved(*saved);
+    return true;
+}
+
+/// What was there before the save can still be taken back.
+void Form1::Load_Saved(const SavePlan& plan) {
+    Banner saved = std::move(opened_.banner);
+    Load();
+    if (opened_.banner.Is_Loaded()) {
+        opened_.banner.Continue(std::move(saved), plan, What_A_Save_Adds());
+    }
+    Tell_What_Is_Loaded();
+}
+
+void Form1::Tell_Saved(const SavePlan& plan) {
+    std::u16string about = Say("Saved");
+    if (cmbFileList.Index() == DropDownList::NoSelection) about += u", " + Say("no colors applied");
+    for (const std::string& notice : plan.notices) about += u", " + From_Utf8(notice);
+    const bool logo_unplaced = cmbLogo.Index() > 0 && !plan.has_logo;
+    lblLastCommand.Set(
+        logo_unplaced ? Say("Saved; the banner has no logo texture to replace") : about);
+}
+
+/// To the texts that were set; nothing where that is nothing.
+std::u16string Form1::What_A_Save_Adds() const {
+    std::u16string added;
+    const std::vector<Edit> chosen = Chosen_Edits();
+    for (const Edit& edit : chosen) {
+        const auto* force = std::get_if<ForceRegion>(&edit);
+        if (std::holds_alternative<SetPadding>(edit) || (force && force->code == NoLanguage)) continue;
+        added += (added.empty() ? u"" : u", ") + Name_Of(edit);
+    }
+    return added.empty() ? added : Say("Save with %1", added);
 }
 
 /// Everything that can be refused is refused before anything is asked.
@@ -41,18 +73,17 @@ Result<> Form1::Check_Save() const {
 
 /// Whoever named another file by mistake would not get it back, nor what another program wrote.
 bool Form1::Save_Is_Wanted() {
+    if (!Settle_Fields()) return false;
     if (!Is_Layout(BrlytData) &&
-        !desktop_.Confirm(txtSrc.Text() + u" is not a layout file. Save it all the same?")) {
+        !desktop_.Confirm(Say("%1 is not a layout file. Save it all the same?", txtSrc.Text()))) {
         return false;
     }
     const std::string lost = opened_.banner.Lost_By_Force_Of(cmbForce.Selected());
-    if (!lost.empty() && !desktop_.Confirm(txtSrc.Text() + u": " + From_Utf8(lost) +
-                                           u". Force the region all the same?")) {
+    if (!lost.empty() && !desktop_.Confirm(Say("%1: %2. Force the region all the same?",
+                                               txtSrc.Text(), From_Utf8(lost)))) {
         return false;
     }
-    return !opened_.banner.Was_Changed_Elsewhere() ||
-           desktop_.Confirm(txtSrc.Text() +
-                            u" was changed by another program since it was loaded. Save over it?");
+    return Settle_Change_Elsewhere();
 }
 
 /// What was written.

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "base/text.h"
+#include "forms/say.h"
 #include "gameinfo/boxes.h"
 #include "gameinfo/languages.h"
 #include "inspect/archive_info.h"
@@ -110,13 +111,30 @@ bool Form1::Has_Unsaved_Changes() const {
 }
 
 bool Form1::May_Close() {
-    if (!form.Enabled()) return false;
-    return Lose_Changes(u" does not have the latest changes. Close without saving?");
+    return form.Enabled() && Settle_Work();
 }
 
-/// Whether there are none to lose, or the user answers yes to the layout's path with `question`.
-bool Form1::Lose_Changes(const std::u16string& question) {
-    return !Has_Unsaved_Changes() || desktop_.Confirm(txtSrc.Text() + question);
+void Form1::Undo_Click() {
+    if (const auto name = opened_.banner.Undo_Name()) {
+        Step_Through_History(&Banner::Undo, Say("Taken back: %1", *name));
+    }
+}
+
+void Form1::Redo_Click() {
+    if (const auto name = opened_.banner.Redo_Name()) {
+        Step_Through_History(&Banner::Redo, Say("Brought again: %1", *name));
+    }
+}
+
+void Form1::Step_Through_History(bool (Banner::*step)(), const std::u16string& told) {
+    const bool had_textures = !opened_.banner.Replaced_Textures().empty();
+    if (!(opened_.banner.*step)()) return;
+    info.Show_Selected();
+    names.Show_Set();
+    const bool has_textures = !opened_.banner.Replaced_Textures().empty();
+    had_textures || has_textures ? live.Take_Banner() : live.Take_Changes();
+    lblLastCommand.Set(told);
+    Tell_What_Is_Loaded();
 }
 
 void Form1::Read_Archive() {
@@ -146,6 +164,8 @@ void Form1::Read_Archive() {
 }
 
 void Form1::Tell_What_Is_Loaded() {
+    lblUndo.Set(opened_.banner.Undo_Name().value_or(u""));
+    lblRedo.Set(opened_.banner.Redo_Name().value_or(u""));
     if (BrlytData.empty()) {
         const std::string reason = opened_.why_not.empty() ? "" : ": " + opened_.why_not;
         lblLoaded.Set(u"No layout loaded" + From_Utf8(reason));
