@@ -349,6 +349,46 @@ TEST_F(Windows, TakeBackWhatWasDone) {
            "this file, too"}});
 }
 
+TEST_F(Windows, EditAllLanguagesInOneTable) {
+    Start({u"T_VCTitle_ENG One", u"T_VCTitle_JPN \u3042", u"T_Year_ENG Released: 1990", u"T_Year_JPN 1990\u5E74",
+           u"T_Play_JPN x^1\uFF5E2\u4EBA", u"T_Year Released: 1990", u"T_ESRB_GER x: a", u"T_PF P"});
+    const auto table = [&](const std::function<void(LanguageTable&)>& work) {
+        main.cmdLanguages_Click();
+        work(*main.TableWindow);
+        main.Close_Table_Window();
+    };
+    table([&](LanguageTable& all) {
+        EXPECT_FALSE(main.form.Enabled());
+        EXPECT_EQ(all.Rows(), (std::vector<std::u16string>{u"ENG", u"GER", u"JPN", u"NONE", u""}));
+        std::string cells;
+        for (std::size_t row = 0; row < all.Rows().size(); ++row) {
+            for (std::size_t column = 0; column < LanguageTable::Columns; ++column) {
+                cells += all.Can_Edit(row, column) ? Line_Of(all.Cell(row, column)) + "|" : "-|";
+            }
+        }
+        EXPECT_EQ(cells, "One|1990|-|-|-|-|-|a|あ|1990|2|-|-|1990|-|-||1990|2|a|");
+        EXPECT_EQ(all.Wording(2, 1, u"7") + all.Wording(3, 1, u"8") + all.Wording(0, 0, u"T") + all.Wording(4, 1, u"9"),
+                  u"7\u5E74\u767A\u58F2Released: 8");
+        all.Type(0, 0, u"New");
+        all.Paste(1, 3, u"T\toutside\r\n\r\nno box\n");
+        all.Paste(2, 0, u"\"a \"\"b\"\"\"\t2001\t\n\t2002\n");
+        all.Type(4, 2, u"4");
+        all.cmbShown.Pick(1);
+        all.Type(3, 1, u"raw^");
+        all.Type(0, 1, u"");
+        EXPECT_EQ(all.Cell(4, 3), u"ESRB Rating: T") << "all that there are";
+    });
+    const std::string typed = main.BrlytData;
+    Walk({{u"?undo; undo; undo; ?undo", "T_Year, All languages"},
+          {u"undo; undo; undo; ?is T_VCTitle_ENG; ?undo", "One, "},
+          {u"language0 0; name New; set 0; language3 1; rating T; set 2", "Name: 1 text changed: T_VCTitle_ENG, ESRB "
+                                                                         "Rating: 1 text changed: T_ESRB_GER"},
+          {u"language0 6; name a \"b\"; set 0; language1 6; year 2001; set 1", "Name: 1 text changed: T_VCTitle_JPN, Year: 1 "
+                                                                              "text changed: T_Year_JPN"}});
+    Do(u"language1 7; year 2002; set 1; players 4; all 2; texts; box 5; text raw^; write; texts");
+    EXPECT_TRUE(main.BrlytData == typed) << "the same by hand";
+}
+
 TEST_F(Windows, EditAnyTextByItsName) {
     Start({u"T_PF S", u"T_Year 11", u"caf\u00E9 x", u"T_Year_ENG 22222", u"T_VCTitle_ENG name", u"T_PF longer",
            u"T_Play_ENG Players: 1"});

@@ -229,4 +229,25 @@ void Form1::Close_Picture_Window() {
     PictureWindow.reset();
 }
 
+/// Several edits at once are called by the window.
+void Form1::cmdLanguages_Click() {
+    const auto apply = [this](std::span<const Edit> edits) {
+        const std::string before = BrlytData;
+        const std::u16string what = edits.size() == 1 ? Name_Of(edits[0]) : Say("All languages");
+        Apply(edits, what);
+        Tell_Changes(what, before);
+    };
+    TableWindow = std::make_unique<LanguageTable>(
+        MainWindowForTable{form, opened_.banner, apply, [this] { Undo_Click(); },
+                           [this] { Redo_Click(); }, [this] { info.Show_Selected(); }});
+    TableWindowMade.Raise();
+    TableWindow->Form_Load();
+    TableWindow->form.Show();
+}
+
+void Form1::Close_Table_Window() {
+    TableWindow->Form_Unload();
+    TableWindow.reset();
+}
+
 }  // namespace bannersmith

@@ -14,6 +14,7 @@
 #include "forms/controls.h"
 #include "forms/desktop.h"
 #include "gamepicture/game_picture.h"
+#include "languagetable/language_table.h"
 #include "liveview/live_view.h"
 #include "mainwindow/channel_names.h"
 #include "mainwindow/edit_names.h"
@@ -60,7 +61,8 @@ class Form1 {
     std::unique_ptr<frmColor> ColorWindow;
     std::unique_ptr<frmHC> TextEditor;
     std::unique_ptr<GamePicture> PictureWindow;
-    Event ColorWindowMade, TextEditorMade, PictureWindowMade;
+    std::unique_ptr<LanguageTable> TableWindow;
+    Event ColorWindowMade, TextEditorMade, PictureWindowMade, TableWindowMade;
 
     /// Start-up. Loads the layout that the configuration names, shows the window and fills its
     /// lists. False, and reported, where there is no configuration.
@@ -108,17 +110,19 @@ class Form1 {
     /// Set of the page of channel names, see `ChannelNamesPage`.
     void cmdSetNames_Click();
 
-    /// Open the colour window, the manual text editor, and the window of the game's picture where
-    /// the banner has one, and return at once; this window is disabled until the other one is
+    /// Open the colour window, the manual text editor, the window of the game's picture where the
+    /// banner has one, and that of all languages, and return at once; this window is disabled until the other one is
     /// closed.
     void cmdEditColor_Click();
     void cmdHC_Click();
     void cmdPicture_Click();
+    void cmdLanguages_Click();
 
     /// The user closed the other window: it is unloaded and no longer there.
     void Close_Color_Window();
     void Close_Text_Editor();
     void Close_Picture_Window();
+    void Close_Table_Window();
 
     /// Whether the layout in memory differs from the file as it was loaded or saved last.
     bool Has_Unsaved_Changes() const;
