@@ -5,6 +5,7 @@
 #include <new>
 
 #include "desktop/end_by_signal.h"
+#include "desktop/languages.h"
 #include "desktop/main_window_view.h"
 #include "desktop/qt_desktop.h"
 #include "desktop/widgets.h"
@@ -67,6 +68,7 @@ int Run_Windows(int argc, char** argv) {
     QApplication::setApplicationName("Bannersmith");
     QApplication::setDesktopFileName(DesktopFileName);
     QApplication::setWindowIcon(Program_Icon());
+    Speak_Users_Language();
     QtDesktop desktop;
     Form1 window({Program_Folder(), {}}, desktop);
     MainWindowView view(window);

@@ -156,8 +156,9 @@ TEST_F(Widgets, EditAWholeChannel) {
        "FRA, line 1=xxxxxxxxxxxxxxxxxxxxx; Write the names");
     EXPECT_TRUE(desktop.said.starts_with("{Channel name FRA: ")) << desktop.said;
     EXPECT_EQ(window.lblLastCommand.Caption(), u"Channel names: 3 lines changed");
+    desktop.answer = u"Discard";
     Control(Qt::Key_S);
-    EXPECT_TRUE(desktop.said.ends_with("}[File Successfully Saved!]"));
+    EXPECT_TRUE(desktop.said.ends_with("would not be saved: Channel names>[File Successfully Saved!]"));
     EXPECT_EQ((*Archive::Read(folder.Read("c/00000000.app"))->Names())[2][1], u"GER, line 2");
     const std::string read = "' && python3 '" READ_CHANNEL
                              "' before.app c/00000000.app names meta/banner.bin/arc/blyt/banner.brlyt "
@@ -209,6 +210,8 @@ TEST_F(Widgets, KeepTheMainWindowBehindTheOthers) {
     editor.close();
     EXPECT_EQ(Value(view, "Year"), "1877");
     EXPECT_TRUE(view.isWindowModified());
+    EXPECT_FALSE(view.close());
+    desktop.answer = u"Discard";
     EXPECT_TRUE(view.close());
 }
 
@@ -321,10 +324,12 @@ TEST_F(Widgets, AreCaptionedAndNamedAndLeftAloneByTheWheel) {
     }
     EXPECT_EQ(
         captions,
+        "This is a sample. Type a name, press Set All, and see the banner change; nothing is written before Save "
+        "Changes. Open your own file with Ctrl+O, or drop it here. F1 shows the manual.|Got it|"
         "Pl&ay|Sa&ve Picture...|Name is bold|Set|Set All|System is bold|Set|Year is bold|Set|Set All|Players "
         "is bold|Set|No Dashes!!  "
         "(E.g.  Type \"2\" for \"1-2\")|Set|Set All|Hardcore Manual Text Editor|Color Editor And Preview|"
-        "Game Pic&ture...|....|&Save Changes|SaveScheme|Get Color Scheme|Select a Color by Clicking on it and edit "
+        "Game Pic&ture...|All Languages...|....|&Save Changes|SaveScheme|Get Color Scheme|Select a Color by Clicking on it and edit "
         "it to the right.  Click the \"Set\" button to update.|Back1 0|Set|Set|");
 }
 

@@ -2,6 +2,7 @@
 
 #include <QSignalBlocker>
 
+#include "desktop/marks.h"
 #include "desktop/text.h"
 
 namespace bannersmith {
@@ -11,6 +12,7 @@ void Bind(QLineEdit& edit, TextBox& box) {
     edit.setMaxLength(LongestText);
     // Not while the person types: setting a text moves the cursor.
     box.Shown = [&edit, &box] {
+        Show_Mark(edit, box.Mark());
         if (Taken(edit.text()) == box.Text()) return;
         edit.setText(Shown(box.Text()));
         edit.setCursorPosition(0);  // so that a long text shows its beginning
@@ -31,6 +33,8 @@ void Bind(ListBox& box, DropDownList& list) {
             box.Show_Entries(entries);
         }
         box.setCurrentIndex(list.Index());
+        box.Mark_Selected(!list.Mark().empty());
+        Show_Mark(box, list.Mark());
     };
     list.Shown.Raise();
     if (list.picture_of) {

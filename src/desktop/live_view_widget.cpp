@@ -31,7 +31,7 @@ QComboBox* Make_List(DropDownList& list, const QString& name) {
 }  // namespace
 
 LivePicture::LivePicture(LiveView& live) : live_(live) {
-    setAccessibleName("The banner as the console draws it");
+    setAccessibleName(Said("The banner as the console draws it"));
 }
 
 void LivePicture::Take() {
@@ -95,16 +95,16 @@ bool LivePicture::event(QEvent* event) {
 }
 
 LiveViewWidget::LiveViewWidget(LiveView& live) : live_(live), picture_(new LivePicture(live)) {
-    auto* play = Make_Button("Pl&ay", "Play the animation, from its beginning", {},
+    auto* play = Make_Button(Said("Pl&ay"), Said("Play the animation, from its beginning"), {},
                              [this] { live_.Play_Click(); });
-    auto* save = Make_Button("Sa&ve Picture...", "Write the picture into a PNG file", {},
+    auto* save = Make_Button(Said("Sa&ve Picture..."), Said("Write the picture into a PNG file"), {},
                              [this] { live_.Save_Click(); });
     auto* about = new ElidedLabel;
     about->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto* controls = new QHBoxLayout;
-    controls->addWidget(Make_List(live.cmbPart, "Which part of the channel is shown"));
-    controls->addWidget(Make_List(live.cmbLanguage, "The language that is shown"));
-    controls->addWidget(Make_List(live.cmbWidth, "The shape of the screen"));
+    controls->addWidget(Make_List(live.cmbPart, Said("Which part of the channel is shown")));
+    controls->addWidget(Make_List(live.cmbLanguage, Said("The language that is shown")));
+    controls->addWidget(Make_List(live.cmbWidth, Said("The shape of the screen")));
     controls->addStretch();
     controls->addWidget(play);
     controls->addWidget(save);

@@ -8,6 +8,9 @@
 #include <QFontMetricsF>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QPushButton>
+#include <algorithm>
+#include <vector>
 
 #include "base/color.h"
 #include "base/message.h"
@@ -51,6 +54,24 @@ bool QtDesktop::Confirm(const std::u16string& question) {
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(QMessageBox::No);
     return box.exec() == QMessageBox::Yes;
+}
+
+std::size_t QtDesktop::Choose(const std::u16string& question,
+                              const std::vector<std::u16string>& answers) {
+    QMessageBox box(QMessageBox::Question, "Bannersmith", Shown(question), QMessageBox::NoButton,
+                    QApplication::activeWindow());
+    box.setTextFormat(Qt::PlainText);
+    std::vector<QAbstractButton*> buttons;
+    for (const std::u16string& answer : answers) {
+        const bool is_last = buttons.size() + 1 == answers.size();
+        buttons.push_back(box.addButton(
+            Shown(answer), is_last ? QMessageBox::RejectRole : QMessageBox::AcceptRole));
+    }
+    box.setDefaultButton(static_cast<QPushButton*>(buttons.front()));
+    box.setEscapeButton(buttons.back());
+    box.exec();
+    const auto given = std::find(buttons.begin(), buttons.end() - 1, box.clickedButton());
+    return static_cast<std::size_t>(given - buttons.begin());
 }
 
 void QtDesktop::Report(const Failure& failure) {

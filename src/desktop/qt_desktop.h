@@ -10,6 +10,8 @@ class QtDesktop : public Desktop {
  public:
     void Message(const std::u16string& text) override;
     bool Confirm(const std::u16string& question) override;
+    std::size_t Choose(const std::u16string& question,
+                       const std::vector<std::u16string>& answers) override;
     void Report(const Failure& failure) override;
     std::u16string Open_File(const std::u16string& filter, const std::u16string& last) override;
     std::u16string Save_File(const std::u16string& filter, const std::u16string& name) override;

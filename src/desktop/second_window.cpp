@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "desktop/widgets.h"
+#include "desktop/settings.h"
 
 namespace bannersmith {
 

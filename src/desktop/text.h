@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "forms/say.h"
+
 namespace bannersmith {
 
 /// The same code units as the toolkit's text, and back.
@@ -14,6 +16,11 @@ inline QString Shown(std::u16string_view text) {
 
 inline std::u16string Taken(const QString& text) {
     return text.toStdU16String();
+}
+
+/// What `Say` says.
+inline QString Said(const char* text, const QString& first = {}, const QString& second = {}) {
+    return Shown(Say(text, Taken(first), Taken(second)));
 }
 
 }  // namespace bannersmith

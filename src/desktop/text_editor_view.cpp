@@ -6,6 +6,7 @@
 
 #include "desktop/binding.h"
 #include "desktop/fonts.h"
+#include "desktop/text.h"
 #include "desktop/widgets.h"
 
 namespace bannersmith {
@@ -17,18 +18,18 @@ TextEditorView::TextEditorView(frmHC& editor, std::function<void()> closed, QWid
     names->setMinimumWidth(145);
     // The width is not that of the longest name, of which a damaged file can have millions.
     names->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    names->setToolTip("The text boxes of the layout, in the order of the file");
+    names->setToolTip(Said("The text boxes of the layout, in the order of the file"));
     auto* value = new QLineEdit;
     value->setMinimumWidth(193);
     value->setFont(Japanese_Font(FieldFont, value->font().pointSizeF()));
-    value->setToolTip("The box's text; ^ is a line break");
+    value->setToolTip(Said("The box's text; ^ is a line break"));
 
     auto* grid = new QGridLayout(this);
     grid->addWidget(Make_Label("&Entry Name:", names), 0, 0);
     grid->addWidget(names, 0, 1);
     grid->addWidget(Make_Label("&Value:", value), 0, 2);
     grid->addWidget(value, 0, 3);
-    auto* set = Make_Button("Set", "Write the text into the chosen box",
+    auto* set = Make_Button("Set", Said("Write the text into the chosen box"),
                             QKeySequence("Ctrl+Return"), [&editor] { editor.cmdSet_Click(); });
     grid->addWidget(set, 1, 0, 1, 4);
     grid->setColumnStretch(1, 2);

@@ -3,7 +3,6 @@
 #include <QKeySequence>
 #include <QPainter>
 #include <QPainterPath>
-#include <QSettings>
 #include <QShortcut>
 #include <QWheelEvent>
 #include <cmath>
@@ -11,6 +10,8 @@
 #include <utility>
 
 #include "colors/scheme.h"
+#include "desktop/marks.h"
+#include "desktop/search_popup.h"
 
 namespace bannersmith {
 
@@ -62,24 +63,58 @@ void ListBox::Show_Pictures(std::function<QIcon(int index)> icon_of) {
     icon_of_ = std::move(icon_of);
 }
 
+void ListBox::Speak_Entries(std::function<QString(const QString& entry)> in_words) {
+    entries_.in_words = std::move(in_words);
+}
+
+void ListBox::Mark_Selected(bool is_marked) {
+    const int marked = is_marked ? currentIndex() : -1;
+    if (marked == entries_.marked) return;
+    entries_.marked = marked;
+    emit entries_.dataChanged(entries_.index(0), entries_.index(entries_.rowCount() - 1));
+    update();
+}
+
 void ListBox::showPopup() {
+    constexpr int Most = 15;
     if (icon_of_ && !entries_.icon_of) {
         entries_.icon_of = icon_of_;
         setIconSize(PictureRoom);
     }
-    QComboBox::showPopup();
+    if (count() <= Most) return QComboBox::showPopup();
+    Show_Search(*this, [this](int index) {
+        setCurrentIndex(index);
+        emit activated(index);
+    });
 }
 
 void ListBox::Entries::Set(const QStringList& entries) {
     icons_.clear();
+    marked = -1;
     setStringList(entries);
 }
 
 QVariant ListBox::Entries::data(const QModelIndex& index, int role) const {
-    if (role != Qt::DecorationRole || !icon_of) return QStringListModel::data(index, role);
-    auto known = icons_.find(index.row());
-    if (known == icons_.end()) known = icons_.insert(index.row(), icon_of(index.row()));
-    return known->isNull() ? QVariant() : QVariant(*known);
+    const bool is_marked = index.row() == marked;
+    if (role == Qt::FontRole && is_marked) {
+        QFont font;
+        font.setBold(true);
+        return font;
+    }
+    if (role == Qt::AccessibleTextRole && in_words) {
+        return in_words(QStringListModel::data(index, Qt::DisplayRole).toString());
+    }
+    if (role != Qt::DecorationRole) return QStringListModel::data(index, role);
+    if (is_marked) return Mark_Icon();
+    const QIcon icon = Icon_Of(index.row());
+    return icon.isNull() ? QVariant() : QVariant(icon);
+}
+
+QIcon ListBox::Entries::Icon_Of(int row) const {
+    if (!icon_of) return {};
+    auto known = icons_.find(row);
+    if (known == icons_.end()) known = icons_.insert(row, icon_of(row));
+    return *known;
 }
 
 /// Nor does the wheel take the focus along, which would let the next letter choose an entry.
@@ -95,6 +130,7 @@ void ListBox::wheelEvent(QWheelEvent* event) {
 void ElidedLabel::Show_Text(const QString& text) {
     setText(text);
     setToolTip("<span>" + text.toHtmlEscaped() + "</span>");  // rich whatever it holds
+    setAccessibleName(QString(text).replace("  |  ", ", "));
 }
 
 void ElidedLabel::paintEvent(QPaintEvent* /*event*/) {
@@ -103,8 +139,10 @@ void ElidedLabel::paintEvent(QPaintEvent* /*event*/) {
                      fontMetrics().elidedText(text(), Qt::ElideRight, width()));
 }
 
-QPushButton* Make_Button(const QString& caption, const QString& tooltip,
-                         const QKeySequence& shortcut, std::function<void()> run) {
+namespace {
+
+QPushButton* Make_Plain_Button(const QString& caption, const QString& tooltip,
+                               const QKeySequence& shortcut) {
     auto* button = new QPushButton(caption);
     const QKeySequence mnemonic = QKeySequence::mnemonic(caption);
     QStringList keys;
@@ -112,7 +150,22 @@ QPushButton* Make_Button(const QString& caption, const QString& tooltip,
         if (!key.isEmpty()) keys << key.toString(QKeySequence::NativeText);
     }
     button->setToolTip(keys.isEmpty() ? tooltip : tooltip + " (" + keys.join(", ") + ")");
+    button->setAccessibleDescription(tooltip);
     button->setAutoDefault(false);
+    return button;
+}
+
+}  // namespace
+
+QPushButton* Make_Button(const QString& caption, const QString& tooltip, QAction& command) {
+    auto* button = Make_Plain_Button(caption, tooltip, command.shortcut());
+    QObject::connect(button, &QPushButton::clicked, &command, &QAction::trigger);
+    return button;
+}
+
+QPushButton* Make_Button(const QString& caption, const QString& tooltip,
+                         const QKeySequence& shortcut, std::function<void()> run) {
+    auto* button = Make_Plain_Button(caption, tooltip, shortcut);
     QObject::connect(button, &QPushButton::clicked, [run = std::move(run)] { run(); });
     // Not the button's own shortcut, which runs only when its animation ends: by then the window
     // can have been closed.
@@ -169,23 +222,6 @@ QIcon Program_Icon() {
     QIcon icon;
     for (const int size : {16, 24, 32, 48, 64, 128, 256}) icon.addPixmap(Draw_Icon(size));
     return icon;
-}
-
-namespace {
-
-/// A file of the user's on every system, so that nothing is left in a registry.
-QSettings Positions() {
-    return QSettings(QSettings::IniFormat, QSettings::UserScope, "Bannersmith", "Bannersmith");
-}
-
-}  // namespace
-
-void Restore_Position(QWidget& window, const QString& name) {
-    window.restoreGeometry(Positions().value(name).toByteArray());
-}
-
-void Store_Position(const QWidget& window, const QString& name) {
-    Positions().setValue(name, window.saveGeometry());
 }
 
 }  // namespace bannersmith

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QColor>
 #include <QComboBox>
 #include <QHash>
@@ -62,6 +63,13 @@ class ListBox : public QComboBox {
 
     static constexpr QSize PictureRoom{64, 32};  ///< of such a picture
 
+    /// What a screen reader says for an entry, where that is not its text.
+    void Speak_Entries(std::function<QString(const QString& entry)> in_words);
+
+    /// Lets the selected entry stand out, or none.
+    void Mark_Selected(bool is_marked);
+
+    /// A list of many entries is opened with a line above them in which can be searched.
     void showPopup() override;
 
  protected:
@@ -74,8 +82,12 @@ class ListBox : public QComboBox {
         void Set(const QStringList& entries);
         QVariant data(const QModelIndex& index, int role) const override;
         std::function<QIcon(int index)> icon_of;
+        std::function<QString(const QString& entry)> in_words;
+        int marked = -1;
 
      private:
+        QIcon Icon_Of(int row) const;
+
         mutable QHash<int, QIcon> icons_;
     };
 
@@ -83,7 +95,8 @@ class ListBox : public QComboBox {
     std::function<QIcon(int index)> icon_of_;
 };
 
-/// A label whose text ends in "..." where it does not fit; the tooltip has all of it.
+/// A label whose text ends in "..." where it does not fit; the tooltip has all of it, and so has its
+/// name for screen readers, with commas in place of bars.
 class ElidedLabel : public QLabel {
  public:
     void Show_Text(const QString& text);
@@ -96,6 +109,9 @@ class ElidedLabel : public QLabel {
 QPushButton* Make_Button(const QString& caption, const QString& tooltip,
                          const QKeySequence& shortcut, std::function<void()> run);
 
+/// The same for a command that a menu has, too, with its shortcut.
+QPushButton* Make_Button(const QString& caption, const QString& tooltip, QAction& command);
+
 /// A label that names `buddy`, to which its mnemonic leads.
 QLabel* Make_Label(const QString& caption, QWidget* buddy);
 
@@ -104,9 +120,5 @@ inline constexpr char DesktopFileName[] = "org.bannersmith.Bannersmith";
 
 /// The program's own icon, drawn at the usual sizes.
 QIcon Program_Icon();
-
-/// Restores where the window called `name` was at the end of the last run, and stores it.
-void Restore_Position(QWidget& window, const QString& name);
-void Store_Position(const QWidget& window, const QString& name);
 
 }  // namespace bannersmith

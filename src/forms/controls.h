@@ -22,7 +22,14 @@ class Event {
  public:
     /// Sets the handler in place of the one before.
     void operator=(std::function<void()> handler) { handler_ = std::move(handler); }
-    /// Runs the handler before it returns.
+    /// Adds a handler behind those that are set.
+    void operator+=(std::function<void()> handler) {
+        handler_ = [first = std::move(handler_), second = std::move(handler)] {
+            if (first) first();
+            second();
+        };
+    }
+    /// Runs the handlers before it returns.
     void Raise() const {
         if (handler_) handler_();
     }

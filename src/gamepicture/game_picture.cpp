@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "base/text.h"
+#include "forms/say.h"
 #include "system/replace_files.h"
 
 namespace bannersmith {
@@ -17,7 +18,7 @@ constexpr std::u16string_view PngEnding = u".png";
 }  // namespace
 
 GamePicture::GamePicture(MainWindowForPicture main, Desktop& desktop)
-    : fits({u"Crop", u"Border", u"Stretch"}), main_(std::move(main)), desktop_(desktop) {
+    : fits({Say("Crop"), Say("Border"), Say("Stretch")}), main_(std::move(main)), desktop_(desktop) {
     fits.Select(0);
     fits.Click = [this] { Put_In(); };
 }

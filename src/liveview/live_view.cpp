@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/text.h"
+#include "forms/say.h"
 #include "layout/file_length.h"
 #include "layout/kind.h"
 #include "system/replace_files.h"
@@ -13,7 +14,6 @@ namespace bannersmith {
 
 namespace {
 
-constexpr std::u16string_view WorkedOn = u"Language of the name";
 constexpr std::u16string_view ExportFilter = u"PNG pictures (*.png)|*.png", PngEnding = u".png";
 constexpr double FramesPerSecond = 60;
 
@@ -33,12 +33,12 @@ bool Lies_In(const still::Region& region, float x, float y) {
 }  // namespace
 
 LiveView::LiveView(LiveSource source, Desktop& desktop)
-    : cmbLanguage({std::u16string(WorkedOn)}),
-      cmbPart({u"Banner", u"Icon"}),
+    : cmbLanguage({Say("Language of the name")}),
+      cmbPart({Say("Banner"), Say("Icon")}),
       cmbWidth({u"4:3", u"16:9"}),
       source_(std::move(source)),
       desktop_(desktop) {
-    lblPlay.Set(u"Pl&ay");
+    lblPlay.Set(Say("Pl&ay"));
     for (DropDownList* list : {&cmbLanguage, &cmbPart, &cmbWidth}) list->Select(0);
     cmbLanguage.Click = [this] { Take_Changes(); };
     cmbWidth.Click = [this] { Take_Changes(); };
@@ -86,7 +86,7 @@ void LiveView::Read_Part() {
     has_other_banner_ = false;
     still_.reset();
     if (!source_.banner.Is_Loaded() || !Is_Layout(source_.banner.Bytes())) {
-        return Show_Nothing(u"No banner to show");
+        return Show_Nothing(Say("Drop a channel's file, a layout or a folder here, or open one"));
     }
     auto files = still::Files_For(source_.banner, Part());
     if (!files) return Show_Nothing(From_Utf8(files.Why().reason));
@@ -103,7 +103,7 @@ void LiveView::Fill_Languages() {
     }
     const std::u16string chosen = cmbLanguage.Selected();
     cmbLanguage.Clear();
-    cmbLanguage.Add({std::u16string(WorkedOn)});
+    cmbLanguage.Add({Say("Language of the name")});
     cmbLanguage.Add(codes);
     const auto& entries = cmbLanguage.Entries();
     const auto kept = std::find(entries.begin(), entries.end(), chosen);
@@ -132,10 +132,10 @@ void LiveView::Draw() {
     }
     still::Drawn drawn = still_->Draw(view, frame_, font_ ? &*font_ : nullptr);
     regions_ = std::move(drawn.regions);
-    std::u16string about = u"Approximate font";
+    std::u16string about = Say("Approximate font");
     for (const still::TextFit& text : drawn.texts) {
-        if (text.is_too_wide) about += u"; " + From_Utf8(text.pane) + u" may not fit its width";
-        if (text.is_too_high) about += u"; " + From_Utf8(text.pane) + u" may not fit its height";
+        if (text.is_too_wide) about += u"; " + Say("%1 may not fit its width", From_Utf8(text.pane));
+        if (text.is_too_high) about += u"; " + Say("%1 may not fit its height", From_Utf8(text.pane));
     }
     for (const std::string& fault : drawn.faults) about += u"; " + From_Utf8(fault);
     lblAbout.Set(about);
@@ -144,7 +144,7 @@ void LiveView::Draw() {
 
 void LiveView::Play_Click() {
     is_playing_ = !is_playing_ && still_;
-    lblPlay.Set(is_playing_ ? u"St&op" : u"Pl&ay");
+    lblPlay.Set(is_playing_ ? Say("St&op") : Say("Pl&ay"));
     frame_ = is_playing_ || !still_ ? 0 : still_->Start_Frames();
     Want();
 }

@@ -149,6 +149,10 @@ void Form1::Take_File(const std::u16string& file) {
     if (!opened_.banner.Is_Loaded()) Load();  // the same file once more
 }
 
+void Form1::cmdReload_Click() {
+    if (Settle_Work()) Load();
+}
+
 void Form1::RefreshColorList_Here() {
     Fill_Scheme_List(cmbFileList, File1, process_.program_folder);
     cmbFileList.Select(0);

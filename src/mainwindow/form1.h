@@ -87,6 +87,9 @@ class Form1 {
     /// wherever they stand in it, so that a path below it is named relative to it.
     void Take_File(const std::u16string& file);
 
+    /// Loads the file again, which takes back all that is not saved.
+    void cmdReload_Click();
+
     /// The events of the language lists, see `GameInfo`.
     void cmbRegion_click(std::int16_t Index) { info.cmbRegion_click(Index); }
     void cmbRegion_Change(std::int16_t Index) { cmbRegion_click(Index); }
@@ -123,6 +126,9 @@ class Form1 {
     void Close_Text_Editor();
     void Close_Picture_Window();
     void Close_Table_Window();
+
+    /// The path of the file that is loaded; empty while none is.
+    const std::u16string& Loaded_File() const { return opened_.banner.Source().Path(); }
 
     /// Whether the layout in memory differs from the file as it was loaded or saved last.
     bool Has_Unsaved_Changes() const;

@@ -12,6 +12,7 @@
 
 #include "desktop/color_window_view.h"
 #include "desktop/game_picture_view.h"
+#include "desktop/language_table_view.h"
 #include "desktop/main_window_view.h"
 #include "desktop/preview_view.h"
 #include "desktop/qt_desktop.h"
@@ -72,6 +73,13 @@ View& Find_View() {
     std::exit(1);
 }
 
+/// What is drawn when there is nothing else to do.
+void Wait_For_Picture(LiveView& live) {
+    QApplication::processEvents();
+    live.Draw();
+    QApplication::processEvents();
+}
+
 void Render(const std::u16string& program_folder, const Painter& painter) {
     QtDesktop desktop;
     Form1 window({program_folder, {}}, desktop);
@@ -79,8 +87,27 @@ void Render(const std::u16string& program_folder, const Painter& painter) {
     window.Form_Load();
     window.info.txtYear.Set(u"1994");
     window.cmdSetAll_Click(1);
-    QApplication::processEvents();
+    view.resize(view.sizeHint());
+    Wait_For_Picture(window.live);
+    painter.Save(view, "first-start");
+    for (QWidget* hint : view.findChildren<QWidget*>("first hint")) hint->hide();
+    view.resize(view.sizeHint());
+    Wait_For_Picture(window.live);
     painter.Save(view, "main-window");
+    window.info.txtName.Set(u"Starlight Courier 2");
+    window.cmbLogo.Select(1);
+    window.cmbLogo.Set_Mark(u"Will be applied to this file, too");
+    Wait_For_Picture(window.live);
+    painter.Save(view, "main-window-unset");
+    window.cmbLogo.Select(0);
+    window.cmdSet_Click(0);
+
+    window.cmdLanguages_Click();
+    auto& table = Find_View<LanguageTableView>();
+    QApplication::processEvents();
+    painter.Save(table, "all-languages");
+    table.close();
+    QApplication::processEvents();
 
     for (std::size_t field = 0; field < 3; ++field) window.info.cmbRegion[field].Pick(6);
     window.cmdHC_Click();
