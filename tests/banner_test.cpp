@@ -167,10 +167,13 @@ TEST(Banner, IsEditedInItsArchiveAsInFolders) {
             EXPECT_EQ(back.Bytes(), untouched.Bytes());
             EXPECT_TRUE(back.Has_Unsaved_Changes());
             const std::string file = back.Plan_Save()->files.back().bytes;
-            ASSERT_TRUE(!packed || Archive::Read(file)->Visit_Files([&](const std::string& member, std::string_view bytes) {
-                EXPECT_TRUE(member.ends_with(".brlyt") || channel.Find_File(member).value_or(std::string(bytes)) == bytes) << member;
-                return Result<>();
-            }));
+            ASSERT_TRUE(!packed ||
+                        Archive::Read(file)->Visit_Files([&](const std::string& member, std::string_view bytes) {
+                            EXPECT_TRUE(member.ends_with(".brlyt") ||
+                                        channel.Find_File(member).value_or(std::string(bytes)) == bytes)
+                                << member;
+                            return Result<>();
+                        }));
             while (back.Redo()) continue;
             EXPECT_FALSE(back.Has_Unsaved_Changes());
         }

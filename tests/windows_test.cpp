@@ -280,7 +280,8 @@ TEST_F(Windows, AskBeforeSomethingIsLost) {
           {u"?close", "stays, " + lacks},
           {u"answer /dev/null; browse; ?path",
            "<HOME\\b/arc/blyt/x: Layouts and Banners (*.brlyt *.app *.bnr *.bin)|*.brlyt;*.app;*.bnr;*.bin|Brlyt Files "
-           "(*.brlyt)|*.brlyt|All Files (*.*)|*.*>" + lacks + ", \\b/arc/blyt/x"},
+           "(*.brlyt)|*.brlyt|All Files (*.*)|*.*>" +
+               lacks + ", \\b/arc/blyt/x"},
           {u"texts; ?close; texts", "stays"},  // behind another window
           // Typed over, the path leads away from the work and back to it.
           {u"name Typed; path \\b; path \\b/arc/blyt/x; ?name; ?is T_PF", "Typed, New"},
@@ -318,7 +319,8 @@ TEST_F(Windows, AskBeforeSomethingIsLost) {
     Walk({{u"answer Reload; look; ?name", "<" + changed + ">, Elsewhere"},
           {u"name Here; all 0; ?name", "Name: 1 text changed: T_VCTitle_ENG, Here"}});
     std::filesystem::remove(home.Path() / "b/arc/blyt/x");
-    EXPECT_EQ(Do(u"look; save; ?name"), "[File Successfully Saved!], Saved, Here") << "nothing is lost where no file is";
+    EXPECT_EQ(Do(u"look; save; ?name"), "[File Successfully Saved!], Saved, Here")
+        << "nothing is lost where no file is";
     home.Write("two", German_Japanese_Banner());
     Do(u"path \\two; force 0");
     asks("two", u"yes", "question: \\two: region force leaves the group GER. Force the region all the same?");
@@ -336,17 +338,18 @@ TEST_F(Windows, TakeBackWhatWasDone) {
            "Name: 1 text changed: T_VCTitle_ENG, Year: 1 text changed: T_Year_ENG, Year (all languages), "},
           {u"system typed; undo; ?told; ?fields; ?redo",
            "Taken back: Year (all languages), Two, 1990, , , typed, ENG, ENG, NONE, NONE, Year (all languages)"},
-          {u"answer Set it first; logo 1; pad 0; save", "<What was typed is not set, and would not be saved: System>[File "
-                                                        "Successfully Saved!], Saved"},
-          {u"?undo; undo; undo; undo; ?undo; ?name; ?redo",
-           "Save with Logo, , One, Name (ENG)"}});
+          {u"answer Set it first; logo 1; pad 0; save",
+           "<What was typed is not set, and would not be saved: System>[File "
+           "Successfully Saved!], Saved"},
+          {u"?undo; undo; undo; undo; ?undo; ?name; ?redo", "Save with Logo, , One, Name (ENG)"}});
     EXPECT_TRUE(main.BrlytData == loaded) << "the very layout, across the save";
-    Walk({{u"logo 0; save; ?file b/arc/timg/my_Back_x.tpl", "[File Successfully Saved!], Saved, old"},
-          {u"redo; redo; redo; ?told; ?is T_PF; ?loaded",
-           "Brought again: Save with Logo, typed, x  |  texts not saved  |  ENG  |  424 bytes"},
-          {u"logo 1; path \\b/arc/blyt/../blyt/x; answer Save; leave; ?logo; ?marked",
-           "<\\b/arc/blyt/x does not have the latest changes.>[File Successfully Saved!], Comet.tpl, Will be applied to "
-           "this file, too"}});
+    Walk(
+        {{u"logo 0; save; ?file b/arc/timg/my_Back_x.tpl", "[File Successfully Saved!], Saved, old"},
+         {u"redo; redo; redo; ?told; ?is T_PF; ?loaded",
+          "Brought again: Save with Logo, typed, x  |  texts not saved  |  ENG  |  424 bytes"},
+         {u"logo 1; path \\b/arc/blyt/../blyt/x; answer Save; leave; ?logo; ?marked",
+          "<\\b/arc/blyt/x does not have the latest changes.>[File Successfully Saved!], Comet.tpl, Will be applied to "
+          "this file, too"}});
 }
 
 TEST_F(Windows, EditAllLanguagesInOneTable) {
@@ -381,10 +384,12 @@ TEST_F(Windows, EditAllLanguagesInOneTable) {
     const std::string typed = main.BrlytData;
     Walk({{u"?undo; undo; undo; ?undo", "T_Year, All languages"},
           {u"undo; undo; undo; ?is T_VCTitle_ENG; ?undo", "One, "},
-          {u"language0 0; name New; set 0; language3 1; rating T; set 2", "Name: 1 text changed: T_VCTitle_ENG, ESRB "
-                                                                         "Rating: 1 text changed: T_ESRB_GER"},
-          {u"language0 6; name a \"b\"; set 0; language1 6; year 2001; set 1", "Name: 1 text changed: T_VCTitle_JPN, Year: 1 "
-                                                                              "text changed: T_Year_JPN"}});
+          {u"language0 0; name New; set 0; language3 1; rating T; set 2",
+           "Name: 1 text changed: T_VCTitle_ENG, ESRB "
+           "Rating: 1 text changed: T_ESRB_GER"},
+          {u"language0 6; name a \"b\"; set 0; language1 6; year 2001; set 1",
+           "Name: 1 text changed: T_VCTitle_JPN, Year: 1 "
+           "text changed: T_Year_JPN"}});
     Do(u"language1 7; year 2002; set 1; players 4; all 2; texts; box 5; text raw^; write; texts");
     EXPECT_TRUE(main.BrlytData == typed) << "the same by hand";
 }
@@ -397,7 +402,9 @@ TEST_F(Windows, EditAnyTextByItsName) {
     Walk({{u"box 2; ?text; text a^b; write", "x, Text editor: other texts changed"},
           {u"box 1; ?text; text 1999; write", "11, Text editor: 1 text changed: T_Year_ENG"},
           {u"box 0; ?text; text New; write", "longer, Text editor: 1 text changed: T_PF"},
-          {u"box 4; ?text; text renamed; write", "name, Text editor: 1 text changed: T_VCTitle_ENG"},
+          {u"text not set; box 4; ?text", "<T_PF was typed and is not set.>, not set"},
+          {u"answer Discard; box 4; ?text; text renamed; write",
+           "<T_PF was typed and is not set.>, name, Text editor: 1 text changed: T_VCTitle_ENG"},
           {u"box 6; ?text; text 1-4; write", "Players: 1, Text editor: 1 text changed: T_Play_ENG"},
           {u"?fields", "name, 2222, 1, , longer, ENG, ENG, ENG, NONE"},
           {u"texts; ?may; ?fields", "enabled, renamed, 1999, , , New, ENG, ENG, ENG, NONE"},
@@ -471,7 +478,8 @@ TEST_F(Colors, AreSavedAsASchemeThatBothListsHave) {
     const std::string asked = "<Save Scheme: Type a Name for the New Scheme>";
     Open();
     Walk({{u"keep", asked},
-          {u"answer Aurora; keep; ?file schemes/Aurora.vccs", asked + "[Color Scheme saved as Aurora], (none)"},
+          {u"answer Aurora; keep; ?file schemes/Aurora.vccs",
+           asked + "<question: There is a scheme Aurora already. Replace it?>, (none)"},
           {u"answer Bright; keep; ?colors; ?scheme", asked + "[Color Scheme saved as Bright], , "}});
     EXPECT_EQ(Entries(Window().cmbFileList), "Current Brlyt|Aurora|Bright|Cherry Cola|");
     EXPECT_EQ(Entries(main.cmbFileList), Entries(Window().cmbFileList));
@@ -488,7 +496,52 @@ TEST_F(Colors, AreSavedAsASchemeThatBothListsHave) {
     Make_Scheme("Current Brlyt", 100, 1);
     Walk({{u"refresh; colors 4; ?colors; ?BackMask2", "Current Brlyt, 208|209|210 211|212|213"},
           {u"window; save", "[File Successfully Saved!], Saved"},
+          {u"window; keep; window; save", asked + "{.hidden" + wrong + ", [File Successfully Saved!], Saved"},
           {u"window; colors 0; ?VCPic", "184|185|186 187|188|189"}});
+}
+
+TEST_F(Colors, AreSeenWhileTheyAreTyped) {
+    Open();
+    const auto shown = [&] { return Shown(Window().preview.lblT_VCTitle.color) + " "; };
+    const std::string before = shown();
+    Do(u"edit 1 T_VCTitle; red 1; green 2");
+    EXPECT_EQ(shown(), "1|2|207 ");
+    EXPECT_EQ(Do(u"?T_VCTitle"), "3|8|13 143|240|207") << "the box waits for Set";
+    for (const char16_t* text : {u"#0a0B0c", u"0A0B0", u"0A0B0G", u" 0D0E0F "}) Window().txtHex.Set(text);
+    EXPECT_EQ(Do(u"?red; ?green; ?blue; ?swatch") + shown(), "13, 14, 15, 13|14|15 T_VCTitle 113|14|15 ");
+    Window().txtR.Set(u"255");
+    EXPECT_EQ(Window().txtHex.Text(), u"FF0E0F");
+    const std::string lost = "<These colors are in no scheme and would be lost.>";
+    EXPECT_FALSE(Window().May_Close());
+    EXPECT_EQ(desktop.said, lost);
+    Do(u"answer Discard");
+    EXPECT_TRUE(Window().May_Close());
+    Do(u"edit 0 T_VCTitle; answer nothing");
+    EXPECT_TRUE(Window().May_Close()) << "no longer typed";
+    EXPECT_EQ(shown(), before);
+    Do(u"red 77; use; answer Seventy; keep");
+    EXPECT_TRUE(Window().May_Close());
+    // Each place of the sketch has the element whose color is seen there.
+    const std::tuple<float, float, std::string> places[] = {
+        {600, 3700, "T_Year 1"}, {700, 3970, "YearLine 1"},   {5000, 6000, "VCPic 1"},     {4090, 6000, "VCPic 0"},
+        {500, 2700, "PFLINE 1"}, {1000, 6500, "BackMask1 1"}, {2000, 9580, "BackMask2 1"}, {11100, 8000, "T_VCTitle 1"},
+        {7000, 3900, "Back2 1"}, {8000, 4800, "Back1 0"},     {10, 10, "Back1 0"}};
+    for (const auto& [x, y, box] : places) {
+        Window().Preview_Click(x, y);
+        EXPECT_EQ(Line_Of(Window().lblEdit.Caption()), box) << x << "," << y;
+    }
+    EXPECT_EQ(std::count_if(Window().pic.begin(), Window().pic.end(),
+                            [](const auto& boxes) { return !boxes[0].Mark().empty() || !boxes[1].Mark().empty(); }),
+              1);
+    main.Close_Color_Window();
+    home.Write("channel", Sample_Channel());
+    main.Take_File(u"\\channel");
+    main.cmdEditColor_Click();
+    Window().live.Draw();
+    Window().Live_Click(400, 130);
+    EXPECT_EQ(Line_Of(Window().lblEdit.Caption()), "VCPic 1");
+    EXPECT_EQ(main.cmbFileList.picture_of(1)->width, 48U);
+    EXPECT_FALSE(main.cmbFileList.picture_of(0));
 }
 
 /// In a scheme of odd numbers in sequence every box has a red of its own.

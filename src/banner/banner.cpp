@@ -257,8 +257,8 @@ Result<> Banner::Apply(std::span<const Edit> edits, const std::u16string& what) 
 Banner::Step Banner::Step_Between(const State& from, const State& to, const std::u16string& what) {
     const std::string &a = from.layout, &b = to.layout;
     const std::size_t shorter = std::min(a.size(), b.size());
-    const auto front = std::mismatch(a.begin(), a.begin() + static_cast<std::ptrdiff_t>(shorter),
-                                     b.begin());
+    const auto front =
+        std::mismatch(a.begin(), a.begin() + static_cast<std::ptrdiff_t>(shorter), b.begin());
     const auto at = static_cast<std::size_t>(front.first - a.begin());
     const auto back = std::mismatch(
         a.rbegin(), a.rbegin() + static_cast<std::ptrdiff_t>(shorter - at), b.rbegin());
@@ -419,9 +419,9 @@ Result<> Banner::Save(const SavePlan& plan, const FolderLock& lock, const Notice
 /// Textures and names that a step has not count as those on the disk, which the save has replaced.
 void Banner::Refer_To_Saved(const Banner& saved, const SavePlan& plan, Rest& rest) const {
     for (const NewContents& before : plan.replaced) {
-        const auto known = std::find_if(
-            rest.textures.begin(), rest.textures.end(),
-            [&](const NewContents& texture) { return texture.path == before.path; });
+        const auto known =
+            std::find_if(rest.textures.begin(), rest.textures.end(),
+                         [&](const NewContents& texture) { return texture.path == before.path; });
         if (known == rest.textures.end()) {
             rest.textures.push_back(before);
         } else if (known->bytes == source_.Texture(before.path).Value_Or("")) {

@@ -22,8 +22,8 @@ struct SavePlan {
     /// then the layout; or the archive that has them all.
     std::vector<NewContents> files;
     std::vector<NewContents> replaced;  ///< the textures among them as they are now
-    std::string packed_layout;         ///< the layout in the archive; empty for a layout file
-    bool has_logo = false;             ///< whether the logo is replaced
+    std::string packed_layout;          ///< the layout in the archive; empty for a layout file
+    bool has_logo = false;              ///< whether the logo is replaced
     std::vector<std::string> notices;  ///< what to say of it behind "Saved, ": "but the scheme ..."
 
     /// The layout with its padding.
@@ -42,8 +42,8 @@ class Banner {
     /// No banner: it has no bytes, and no edit gives it any.
     Banner() = default;
 
-    /// Reads the layout and cuts its padding. `history`: how many bytes of what edits replaced may be
-    /// kept for `Undo`; 0 keeps nothing. The failure has the name of the source.
+    /// Reads the layout and cuts its padding. `history`: how many bytes of what edits replaced may
+    /// be kept for `Undo`; 0 keeps nothing. The failure has the name of the source.
     static Result<Banner> Load(BannerSource source, std::size_t history = MostHistory);
 
     /// The same for bytes that were read already. Throws where memory lacks.

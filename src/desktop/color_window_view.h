@@ -4,7 +4,6 @@
 #include "desktop/second_window.h"
 
 class QBoxLayout;
-class QHBoxLayout;
 
 namespace bannersmith {
 
@@ -16,11 +15,12 @@ class ColorWindowView : public SecondWindow {
     QSize sizeHint() const override;
 
  private:
-    QBoxLayout* Make_Bar(frmColor& window);
-    QHBoxLayout* Make_Row(frmColor& window, std::size_t row);
-    QWidget* Make_Element(frmColor& window, std::size_t element);
-    QWidget* Make_Edit_Area(frmColor& window);
+    QBoxLayout* Make_Bar();
+    QWidget* Make_Elements();
+    QWidget* Make_Previews();
+    QWidget* Make_Edit_Area();
 
+    frmColor& window_;
     QWidget* content_;
 };
 

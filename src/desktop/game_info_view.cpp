@@ -82,7 +82,8 @@ class GameInfoFrame : public QGroupBox {
     /// Buttons by their indexes.
     void Add_Set(int row, std::int16_t index, const QString& tooltip) {
         grid_.addWidget(
-            Make_Button("Set", tooltip, {}, [this, index] { window_.cmdSet_Click(index); }), row, set);
+            Make_Button("Set", tooltip, {}, [this, index] { window_.cmdSet_Click(index); }), row,
+            set);
     }
     void Add_Set_All(int row, std::int16_t index, const QString& tooltip) {
         grid_.addWidget(Button("Set All", tooltip, index), row, set_all);
@@ -100,16 +101,15 @@ class GameInfoFrame : public QGroupBox {
         narrow->setToolTip(Said("The highest number of players"));
         grid_.addWidget(Make_Label("&Players:", narrow), row, caption);
         grid_.addWidget(narrow, row, field);
-        grid_.addWidget(Button("Set", Said("Write the number of players for every language"), 2), row,
-                        set);
+        grid_.addWidget(Button("Set", Said("Write the number of players for every language"), 2),
+                        row, set);
         grid_.addWidget(Wrapped("No Dashes!!  (E.g.  Type \"2\" for \"1-2\")"), row, set_all);
     }
 
     void Add_Padding(int row) {
         auto* padding = new QLineEdit;
         padding->setFixedWidth(padding->fontMetrics().horizontalAdvance("+2684354560"));
-        padding->setToolTip(
-            Said("Length to fill the file up to; +N appends N bytes; 0 for none"));
+        padding->setToolTip(Said("Length to fill the file up to; +N appends N bytes; 0 for none"));
         Bind(*padding, window_.txtPad);
         auto* boxes = new QHBoxLayout;
         boxes->addWidget(Make_Label("Paddin&g (fixes corrupted images)", padding));
@@ -122,18 +122,18 @@ class GameInfoFrame : public QGroupBox {
     void Add_Looks(int row) {
         Add_Choice(row, "&Colors:", window_.cmbFileList,
                    Said("The color scheme that the next save applies"), Said("Choose a scheme"));
-        Add_Wide(row, Make_Button("Color Editor And Preview", Said("Edit colors and see the banner"),
-                                  *menu_.colors));
+        Add_Wide(row, Make_Button("Color Editor And Preview",
+                                  Said("Edit colors and see the banner"), *menu_.colors));
         Add_Choice(row + 1, "&Logo:", window_.cmbLogo,
                    Said("The logo texture that the next save puts into the banner"), {});
         Add_Wide(row + 1,
-                 Make_Button(Said("Game Pic&ture..."), Said("See, replace and export the game's picture"),
-                             *menu_.picture));
+                 Make_Button(Said("Game Pic&ture..."),
+                             Said("See, replace and export the game's picture"), *menu_.picture));
         Add_Choice(row + 2, "Region F&orce:", window_.cmbForce,
                    Said("The language that the next save lets another one answer to"), {});
-        Add_Wide(row + 2, Make_Button(Said("All Languages..."),
-                                      Said("The texts of all languages in one table"),
-                                      *menu_.languages));
+        Add_Wide(row + 2,
+                 Make_Button(Said("All Languages..."),
+                             Said("The texts of all languages in one table"), *menu_.languages));
     }
 
     void Add_Wide(int row, QPushButton* button) {
@@ -154,7 +154,8 @@ class GameInfoFrame : public QGroupBox {
         take_back->setAccessibleDescription(Said("Take back what was chosen for another file"));
         take_back->setToolTip(Said("Take back what was chosen for another file"));
         take_back->setVisible(false);
-        connect(take_back, &QToolButton::clicked, [this, &list] { window_.Take_Back_Choice(list); });
+        connect(take_back, &QToolButton::clicked,
+                [this, &list] { window_.Take_Back_Choice(list); });
         list.Shown += [take_back, &list] { take_back->setVisible(!list.Mark().empty()); };
         auto* boxes = new QHBoxLayout;
         boxes->setSpacing(2);
@@ -178,8 +179,8 @@ QWidget* Make_Game_Info(Form1& window, MainMenu& menu) {
 QWidget* Make_Channel_Names(Form1& window) {
     auto* page = new QGroupBox(Said("Channel names"));
     auto* grid = new QGridLayout(page);
-    grid->addWidget(
-        Wrapped(Said("Up to 20 characters a line, as the console's menu shows them")), 0, 1, 1, 2);
+    grid->addWidget(Wrapped(Said("Up to 20 characters a line, as the console's menu shows them")),
+                    0, 1, 1, 2);
     int row = 1;
     for (std::size_t language = 0; language < NameLanguages.size(); ++language, ++row) {
         const QString code = Shown(std::u16string(NameLanguages[language]));

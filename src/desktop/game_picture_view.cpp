@@ -27,9 +27,10 @@ GamePictureView::GamePictureView(GamePicture& window, std::function<void()> clos
     grid->addWidget(what, 1, 0, 1, 2);
     grid->addWidget(Make_Label(Said("&Fit:"), fits), 2, 0);
     grid->addWidget(fits, 2, 1);
-    grid->addWidget(Make_Button(Said("&Replace..."), Said("Take another picture, for banner and icon"),
-                                QKeySequence::Open, [&window] { window.Replace_Click(); }),
-                    3, 0, 1, 2);
+    grid->addWidget(
+        Make_Button(Said("&Replace..."), Said("Take another picture, for banner and icon"),
+                    QKeySequence::Open, [&window] { window.Replace_Click(); }),
+        3, 0, 1, 2);
     grid->addWidget(Make_Button(Said("&Export..."), Said("Write the picture into a PNG file"), {},
                                 [&window] { window.Export_Click(); }),
                     4, 0, 1, 2);

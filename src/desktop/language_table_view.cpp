@@ -45,10 +45,11 @@ class TableModel : public QAbstractTableModel {
     }
 
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
-        if (role != Qt::DisplayRole) return QAbstractTableModel::headerData(section, orientation, role);
+        if (role != Qt::DisplayRole)
+            return QAbstractTableModel::headerData(section, orientation, role);
         if (orientation == Qt::Horizontal) {
-            constexpr std::array<const char*, LanguageTable::Columns> Names = {"Name", "Year", "Players",
-                                                                              "ESRB Rating"};
+            constexpr std::array<const char*, LanguageTable::Columns> Names = {
+                "Name", "Year", "Players", "ESRB Rating"};
             return QString(Names[static_cast<std::size_t>(section)]);
         }
         const std::u16string& code = table_.Rows()[static_cast<std::size_t>(section)];
@@ -59,13 +60,16 @@ class TableModel : public QAbstractTableModel {
         const std::u16string text = table_.Cell(Row(cell), Column(cell));
         switch (role) {
             case Qt::DisplayRole:
-            case Qt::EditRole: return Shown(text);
+            case Qt::EditRole:
+                return Shown(text);
             case WordingRole:
             case Qt::ToolTipRole:
-                return text.empty() ? QString() : Shown(table_.Wording(Row(cell), Column(cell), text));
+                return text.empty() ? QString()
+                                    : Shown(table_.Wording(Row(cell), Column(cell), text));
             case Qt::AccessibleDescriptionRole:
                 return headerData(cell.row(), Qt::Vertical, Qt::DisplayRole);
-            default: return {};
+            default:
+                return {};
         }
     }
 
@@ -84,7 +88,8 @@ class TableModel : public QAbstractTableModel {
     void Show() {
         const int rows = static_cast<int>(table_.Rows().size());
         if (rows == rows_) {
-            emit dataChanged(index(0, 0), index(rows - 1, static_cast<int>(LanguageTable::Columns) - 1));
+            emit dataChanged(index(0, 0),
+                             index(rows - 1, static_cast<int>(LanguageTable::Columns) - 1));
             return;
         }
         beginResetModel();
@@ -116,7 +121,8 @@ class CellDelegate : public QStyledItemDelegate {
             painter->fillRect(option.rect, option.palette.brush(QPalette::Window));
             return;
         }
-        option.widget->style()->drawControl(QStyle::CE_ItemViewItem, &ground, painter, option.widget);
+        option.widget->style()->drawControl(QStyle::CE_ItemViewItem, &ground, painter,
+                                            option.widget);
         const bool is_selected = ground.state.testFlag(QStyle::State_Selected);
         painter->setPen(
             option.palette.color(is_selected ? QPalette::HighlightedText : QPalette::Text));
@@ -191,11 +197,12 @@ LanguageTableView::LanguageTableView(LanguageTable& table, std::function<void()>
     cells_->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     wording_->setTextFormat(Qt::PlainText);
     auto* shown = new ListBox;
-    shown->setToolTip(
-        Said("Values, around which the banner has the wording of each language; or its whole texts"));
+    shown->setToolTip(Said(
+        "Values, around which the banner has the wording of each language; or its whole texts"));
     auto* grid = new QGridLayout(this);
-    auto* about = new QLabel(Said("Type into a cell; Enter goes to the next language. Cells can be pasted "
-                                  "from a spreadsheet."));
+    auto* about =
+        new QLabel(Said("Type into a cell; Enter goes to the next language. Cells can be pasted "
+                        "from a spreadsheet."));
     about->setWordWrap(true);
     grid->addWidget(about, 0, 0);
     grid->addWidget(Make_Label(Said("&Show:"), shown), 0, 1);
@@ -215,15 +222,16 @@ LanguageTableView::LanguageTableView(LanguageTable& table, std::function<void()>
 /// What stands in the banner once the cell that is worked on is left.
 void LanguageTableView::Show_Wording(const QString& typed) {
     const QModelIndex cell = cells_->currentIndex();
-    const QString wording =
-        cell.isValid() && !typed.isEmpty() ? Shown(table_.Wording(Row(cell), Column(cell), Taken(typed)))
-                                           : QString();
+    const QString wording = cell.isValid() && !typed.isEmpty()
+                                ? Shown(table_.Wording(Row(cell), Column(cell), Taken(typed)))
+                                : QString();
     wording_->setText(wording.isEmpty() ? QString() : Said("The banner will say: %1", wording));
 }
 
 void LanguageTableView::Paste() {
     const QModelIndex cell = cells_->currentIndex();
-    if (cell.isValid()) table_.Paste(Row(cell), Column(cell), Taken(QApplication::clipboard()->text()));
+    if (cell.isValid())
+        table_.Paste(Row(cell), Column(cell), Taken(QApplication::clipboard()->text()));
 }
 
 }  // namespace bannersmith

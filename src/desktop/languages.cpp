@@ -28,7 +28,8 @@ void Speak_Users_Language() {
     const QString folder = Shown(Program_Folder()) + "/translations";
     for (const char* name : {"bannersmith", "qtbase"}) {
         auto* translator = new QTranslator(QCoreApplication::instance());
-        if (translator->load(locale, name, "_", folder)) QCoreApplication::installTranslator(translator);
+        if (translator->load(locale, name, "_", folder))
+            QCoreApplication::installTranslator(translator);
     }
     Speak_With([](const char* text) {
         const QString said = qtTrId(text);
@@ -41,14 +42,22 @@ QString Language_In_Words(std::u16string_view code) {
     if (code == Korean) return Said("Korean");
     const auto place = std::find(Languages.begin(), Languages.end(), code) - Languages.begin();
     switch (place) {
-        case 0: return Said("English");
-        case 1: return Said("German");
-        case 2: return Said("French");
-        case 3: return Said("Italian");
-        case 4: return Said("Spanish");
-        case 5: return Said("Dutch");
-        case 6: return Said("Japanese");
-        default: return {};
+        case 0:
+            return Said("English");
+        case 1:
+            return Said("German");
+        case 2:
+            return Said("French");
+        case 3:
+            return Said("Italian");
+        case 4:
+            return Said("Spanish");
+        case 5:
+            return Said("Dutch");
+        case 6:
+            return Said("Japanese");
+        default:
+            return {};
     }
 }
 

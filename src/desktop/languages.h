@@ -12,8 +12,9 @@ namespace bannersmith {
 /// themselves.
 QList<QPair<QString, QString>> Window_Languages();
 
-/// Lets the windows speak the language that the user chose, or the system's, as far as the program's
-/// folder has it. To be called before any window is made, and again for a choice to take effect.
+/// Lets the windows speak the language that the user chose, or the system's, as far as the
+/// program's folder has it. To be called before any window is made, and again for a choice to take
+/// effect.
 void Speak_Users_Language();
 
 /// The language that a code of the banner stands for, in words; empty for others.

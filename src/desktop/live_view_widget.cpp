@@ -4,6 +4,7 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QHelpEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QToolTip>
 #include <utility>
@@ -82,12 +83,21 @@ void LivePicture::paintEvent(QPaintEvent* /*event*/) {
     }
 }
 
+/// A place of the widget as one of the picture's pixels.
+QPointF LivePicture::In_Picture(QPointF at) const {
+    const QRectF place = Place();
+    return image_.isNull() ? at : (at - place.topLeft()) / (place.width() / image_.width());
+}
+
+void LivePicture::mousePressEvent(QMouseEvent* event) {
+    const QPointF at = In_Picture(event->position());
+    if (clicked) clicked(static_cast<float>(at.x()), static_cast<float>(at.y()));
+}
+
 bool LivePicture::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip) return QWidget::event(event);
     const auto* help = static_cast<QHelpEvent*>(event);
-    const QRectF place = Place();
-    const double scale = image_.isNull() ? 1 : place.width() / image_.width();
-    const QPointF at = (QPointF(help->pos()) - place.topLeft()) / scale;
+    const QPointF at = In_Picture(help->pos());
     const QString text =
         Shown(live_.What_Is_At(static_cast<float>(at.x()), static_cast<float>(at.y())));
     QToolTip::showText(help->globalPos(), text, this);
@@ -97,8 +107,8 @@ bool LivePicture::event(QEvent* event) {
 LiveViewWidget::LiveViewWidget(LiveView& live) : live_(live), picture_(new LivePicture(live)) {
     auto* play = Make_Button(Said("Pl&ay"), Said("Play the animation, from its beginning"), {},
                              [this] { live_.Play_Click(); });
-    auto* save = Make_Button(Said("Sa&ve Picture..."), Said("Write the picture into a PNG file"), {},
-                             [this] { live_.Save_Click(); });
+    auto* save = Make_Button(Said("Sa&ve Picture..."), Said("Write the picture into a PNG file"),
+                             {}, [this] { live_.Save_Click(); });
     auto* about = new ElidedLabel;
     about->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto* controls = new QHBoxLayout;
@@ -119,6 +129,9 @@ LiveViewWidget::LiveViewWidget(LiveView& live) : live_(live), picture_(new LiveP
     connect(&idle_, &QTimer::timeout, this, [this] { live_.Draw(); });
     connect(&clock_, &QTimer::timeout, this,
             [this] { live_.Play_To(static_cast<double>(played_.elapsed()) / 1000); });
+    picture_->clicked = [this](float x, float y) {
+        if (clicked) clicked(x, y);
+    };
     picture_->Painted = [this] {
         if (!std::exchange(is_seen_, true)) Draw_Soon();
     };

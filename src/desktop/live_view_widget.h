@@ -16,7 +16,8 @@ class LivePicture : public QWidget {
  public:
     explicit LivePicture(LiveView& live);
 
-    Event Painted;  ///< somebody sees it
+    Event Painted;                                  ///< somebody sees it
+    std::function<void(float x, float y)> clicked;  ///< in pixels of the picture
 
     /// Shows what the live view has drawn.
     void Take();
@@ -27,9 +28,11 @@ class LivePicture : public QWidget {
  protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
 
  private:
     QRectF Place() const;
+    QPointF In_Picture(QPointF at) const;
 
     LiveView& live_;
     QImage image_;
@@ -39,6 +42,8 @@ class LivePicture : public QWidget {
 class LiveViewWidget : public QWidget {
  public:
     explicit LiveViewWidget(LiveView& live);
+
+    std::function<void(float x, float y)> clicked;  ///< the picture, in its pixels
 
  protected:
     void hideEvent(QHideEvent* event) override;

@@ -37,12 +37,14 @@ QAction* MainMenu::Add(QMenu& menu, const QString& text, const QKeySequence& key
 
 void MainMenu::Add_File_Menu() {
     QMenu& menu = *view_.menuBar()->addMenu(Said("&File"));
-    open = Add(menu, Said("&Open..."), QKeySequence::Open, [this] { window_.cmdFileBrowse_Click(); });
+    open =
+        Add(menu, Said("&Open..."), QKeySequence::Open, [this] { window_.cmdFileBrowse_Click(); });
     QMenu* recent = menu.addMenu(Said("Open &Recent"));
     connect(recent, &QMenu::aboutToShow, this, [this, recent] { Fill_Recent(*recent); });
     Add(menu, Said("Re&load"), QKeySequence::Refresh, [this] { window_.cmdReload_Click(); });
     menu.addSeparator();
-    save = Add(menu, Said("&Save Changes"), QKeySequence::Save, [this] { window_.cmdSave_Click(); });
+    save =
+        Add(menu, Said("&Save Changes"), QKeySequence::Save, [this] { window_.cmdSave_Click(); });
     menu.addSeparator();
     Add(menu, Said("&Quit"), QKeySequence("Ctrl+Q"), [this] { view_.close(); });
 }
@@ -94,8 +96,9 @@ void MainMenu::Add_View_Menu() {
     for (const auto& [code, name] : Window_Languages()) {
         QAction* action = list.addAction(name, this, [this, code = code] {
             Choose_Language(code);
-            QMessageBox::information(&view_, "Bannersmith",
-                                     Said("The windows speak this language from the next start on."));
+            QMessageBox::information(
+                &view_, "Bannersmith",
+                Said("The windows speak this language from the next start on."));
         });
         action->setCheckable(true);
         action->setChecked(code == Chosen_Language());

@@ -15,8 +15,11 @@ const QColor Amber(0xD9, 0x8E, 0x04);
 /// As much of a colour as leaves what is written on the ground readable.
 QColor Tinted(const QColor& ground) {
     constexpr double Part = 0.22;
-    const auto mixed = [](double from, double to) { return static_cast<float>(from + (to - from) * Part); };
-    return QColor::fromRgbF(mixed(ground.redF(), Amber.redF()), mixed(ground.greenF(), Amber.greenF()),
+    const auto mixed = [](double from, double to) {
+        return static_cast<float>(from + (to - from) * Part);
+    };
+    return QColor::fromRgbF(mixed(ground.redF(), Amber.redF()),
+                            mixed(ground.greenF(), Amber.greenF()),
                             mixed(ground.blueF(), Amber.blueF()));
 }
 

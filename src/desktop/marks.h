@@ -7,8 +7,8 @@
 
 namespace bannersmith {
 
-/// Shows a control's mark on its widget, or that it has none: by another ground, and in words in the
-/// tooltip and in what a screen reader says.
+/// Shows a control's mark on its widget, or that it has none: by another ground, and in words in
+/// the tooltip and in what a screen reader says.
 void Show_Mark(QWidget& widget, const std::u16string& mark);
 
 /// A dot for an entry that stands out.

@@ -1,5 +1,6 @@
 #include "desktop/preview_view.h"
 
+#include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPointer>
@@ -134,6 +135,13 @@ void PreviewView::paintEvent(QPaintEvent* /*event*/) {
     painter.translate(Left(), 0);
     painter.scale(1 / ratio, 1 / ratio);
     Paint_Preview(painter, preview_, Scale() * ratio);
+}
+
+void PreviewView::mousePressEvent(QMouseEvent* event) {
+    if (!clicked) return;
+    const QPointF at = event->position();
+    clicked(static_cast<float>((at.x() - Left()) / Scale()),
+            static_cast<float>(at.y() / Scale()) + Top);
 }
 
 }  // namespace bannersmith

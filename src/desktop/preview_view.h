@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QWidget>
+#include <functional>
 
 #include "colors/window/preview.h"
 
@@ -17,12 +18,16 @@ class PreviewView : public QWidget {
 
     QSize sizeHint() const override;
 
+    /// A click, in twips of the preview.
+    std::function<void(float x, float y)> clicked;
+
     /// How many pixels of the widget a twip is, and the pixel where 0 twips from the left lies.
     double Scale() const;
     double Left() const;
 
  protected:
     void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
 
  private:
     Preview& preview_;

@@ -16,6 +16,7 @@ void SecondWindow::Follow(Form& form) {
 
 /// Escape, the close box and the window manager all end here.
 void SecondWindow::done(int result) {
+    if (may_close && closed_ && !may_close()) return;
     Store_Position(*this, name_);
     QDialog::done(result);
     deleteLater();

@@ -15,6 +15,9 @@ class SecondWindow : public QDialog {
     SecondWindow(QString name, std::function<void()> closed, QWidget* parent);
 
  protected:
+    /// Whether the user may close the window; without this, always.
+    std::function<bool()> may_close;
+
     /// To be called when all widgets are there: takes the kept position, and shows and hides the
     /// window with `form`.
     void Follow(Form& form);

@@ -6,7 +6,8 @@ namespace bannersmith {
 
 namespace {
 
-constexpr char Recent[] = "files/recent", Language[] = "windows/language", Hint[] = "windows/hinted";
+constexpr char Recent[] = "files/recent", Language[] = "windows/language",
+               Hint[] = "windows/hinted";
 
 }  // namespace
 

@@ -1,5 +1,5 @@
-// What the windows remember for their user from run to run, in a file of the user's on every system,
-// so that nothing is left in a registry.
+// What the windows remember for their user from run to run, in a file of the user's on every
+// system, so that nothing is left in a registry.
 #pragma once
 
 #include <QSettings>

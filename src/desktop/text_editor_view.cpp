@@ -2,9 +2,11 @@
 
 #include <QGridLayout>
 #include <QLineEdit>
+#include <QShortcut>
 #include <utility>
 
 #include "desktop/binding.h"
+#include "desktop/fields.h"
 #include "desktop/fonts.h"
 #include "desktop/text.h"
 #include "desktop/widgets.h"
@@ -37,6 +39,10 @@ TextEditorView::TextEditorView(frmHC& editor, std::function<void()> closed, QWid
 
     Bind(*names, editor.cmbHC);
     Bind(*value, editor.txtHC);
+    Leave_Undo_To_Window(*value, editor.txtHC);
+    new QShortcut(QKeySequence::Undo, this, [&editor] { editor.Undo_Click(); });
+    new QShortcut(QKeySequence("Ctrl+Shift+Z"), this, [&editor] { editor.Redo_Click(); });
+    may_close = [&editor] { return editor.Settle(); };
     setFixedHeight(sizeHint().height());
     Follow(editor.form);
 }

@@ -12,6 +12,7 @@
 #include "colors/scheme.h"
 #include "desktop/marks.h"
 #include "desktop/search_popup.h"
+#include "desktop/text.h"
 
 namespace bannersmith {
 
@@ -19,8 +20,8 @@ QColor Shown_Color(Color color) {
     return {Red_Of(color), Green_Of(color), Blue_Of(color)};
 }
 
-ColorButton::ColorButton(ColorBox& box, const QString& name, QSize size, QWidget* parent)
-    : QAbstractButton(parent), box_(box), name_(name), size_(size) {
+ColorButton::ColorButton(ColorBox& box, const QString& name, const QString& words, QSize size)
+    : box_(box), name_(name), words_(words), size_(size) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setCursor(Qt::PointingHandCursor);
     box_.Shown = [this] { Show_Color(); };
@@ -29,22 +30,31 @@ ColorButton::ColorButton(ColorBox& box, const QString& name, QSize size, QWidget
 
 void ColorButton::Show_Color() {
     color_ = Shown_Color(box_.Value());
-    const QString text = QString("%1: red %2, green %3, blue %4")
-                             .arg(name_)
-                             .arg(color_.red())
-                             .arg(color_.green())
-                             .arg(color_.blue());
-    setToolTip(text);
-    setAccessibleName(text);
+    const QString values = QStringList{Said("red %1", QString::number(color_.red())),
+                                       Said("green %1", QString::number(color_.green())),
+                                       Said("blue %1", QString::number(color_.blue()))}
+                               .join(", ");
+    const QString mark = Shown(box_.Mark());
+    setAccessibleName(name_ + ": " + values);
+    setToolTip(name_ + ": " + values + (words_.isEmpty() ? "" : "\n" + words_) +
+               (mark.isEmpty() ? "" : "\n" + mark));
+    setAccessibleDescription(mark.isEmpty() ? words_ : words_ + ", " + mark);
     update();
 }
 
+/// What is being edited has a frame that is seen on every colour.
 void ColorButton::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setPen(palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid));
     painter.setBrush(isEnabled() ? color_ : color_.lighter());
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
     if (hasFocus()) painter.drawRect(rect().adjusted(1, 1, -2, -2));
+    if (box_.Mark().empty()) return;
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(Qt::white, 2));
+    painter.drawRect(rect().adjusted(1, 1, -1, -1));
+    painter.setPen(QPen(Qt::black, 2, Qt::DotLine));
+    painter.drawRect(rect().adjusted(1, 1, -1, -1));
 }
 
 QPixmap Shown_Picture(const Picture& picture, QSize room) {

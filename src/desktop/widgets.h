@@ -30,9 +30,9 @@ QPixmap Shown_Picture(const Picture& picture, QSize room);
 /// A box of one colour that can be clicked, also with the keyboard.
 class ColorButton : public QAbstractButton {
  public:
-    /// `name` tells which colour it is. The button shows the colour of `box`, which must outlive it
-    /// or no longer change.
-    ColorButton(ColorBox& box, const QString& name, QSize size, QWidget* parent = nullptr);
+    /// `name` tells which colour it is, and `words` what has it. The button shows the colour of
+    /// `box`, which must outlive it or no longer change.
+    ColorButton(ColorBox& box, const QString& name, const QString& words, QSize size);
 
     QSize sizeHint() const override { return size_; }
 
@@ -43,7 +43,7 @@ class ColorButton : public QAbstractButton {
     void Show_Color();
 
     ColorBox& box_;
-    QString name_;
+    QString name_, words_;
     QSize size_;
     QColor color_;
 };
@@ -95,8 +95,8 @@ class ListBox : public QComboBox {
     std::function<QIcon(int index)> icon_of_;
 };
 
-/// A label whose text ends in "..." where it does not fit; the tooltip has all of it, and so has its
-/// name for screen readers, with commas in place of bars.
+/// A label whose text ends in "..." where it does not fit; the tooltip has all of it, and so has
+/// its name for screen readers, with commas in place of bars.
 class ElidedLabel : public QLabel {
  public:
     void Show_Text(const QString& text);

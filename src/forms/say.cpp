@@ -26,7 +26,8 @@ std::u16string Say(const char* text, std::u16string_view first, std::u16string_v
     if (pattern.empty()) pattern = From_Utf8(text);
     std::u16string said;
     for (std::size_t i = 0; i < pattern.size(); ++i) {
-        const char16_t number = pattern[i] == u'%' && i + 1 < pattern.size() ? pattern[i + 1] : u' ';
+        const char16_t number =
+            pattern[i] == u'%' && i + 1 < pattern.size() ? pattern[i + 1] : u' ';
         if (number != u'1' && number != u'2') {
             said += pattern[i];
             continue;

@@ -18,7 +18,9 @@ constexpr std::u16string_view PngEnding = u".png";
 }  // namespace
 
 GamePicture::GamePicture(MainWindowForPicture main, Desktop& desktop)
-    : fits({Say("Crop"), Say("Border"), Say("Stretch")}), main_(std::move(main)), desktop_(desktop) {
+    : fits({Say("Crop"), Say("Border"), Say("Stretch")}),
+      main_(std::move(main)),
+      desktop_(desktop) {
     fits.Select(0);
     fits.Click = [this] { Put_In(); };
 }

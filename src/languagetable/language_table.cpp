@@ -73,7 +73,9 @@ void LanguageTable::Fill() {
         for (std::size_t column = 0; column < Columns; ++column) {
             names.push_back(Box_To_Read(static_cast<Field>(column), code));
         }
-        const auto is_there = [&](const std::u16string& name) { return has.contains(To_Utf8(name)); };
+        const auto is_there = [&](const std::u16string& name) {
+            return has.contains(To_Utf8(name));
+        };
         if (std::none_of(names.begin(), names.end(), is_there)) continue;
         const auto texts = Read_Boxes(layout, names);
         rows_.emplace_back(code);
@@ -141,7 +143,8 @@ void LanguageTable::Paste(std::size_t row, std::size_t column, std::u16string_vi
     std::vector<Edit> edits;
     for (const auto& line : Cells_Of(block)) {
         for (std::size_t i = 0; i < line.size(); ++i) {
-            if (row < rows_.size() && column + i < Columns) Add_Edit(edits, row, column + i, line[i]);
+            if (row < rows_.size() && column + i < Columns)
+                Add_Edit(edits, row, column + i, line[i]);
         }
         ++row;
     }

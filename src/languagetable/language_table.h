@@ -17,11 +17,11 @@ namespace bannersmith {
 
 /// What the window needs of the main window.
 struct MainWindowForTable {
-    Form& form;            ///< disabled while this window is open
-    const Banner& banner;  ///< whose texts are edited
+    Form& form;                                              ///< disabled while this window is open
+    const Banner& banner;                                    ///< whose texts are edited
     std::function<void(std::span<const Edit> edits)> apply;  ///< to the banner, as one step
-    std::function<void()> undo, redo;              ///< the last step
-    std::function<void()> show_what_is_there_now;  ///< in the main window's fields
+    std::function<void()> undo, redo;                        ///< the last step
+    std::function<void()> show_what_is_there_now;            ///< in the main window's fields
 };
 
 /// The window as state and events: a row for each language that the banner has, a column for each

@@ -134,8 +134,10 @@ void LiveView::Draw() {
     regions_ = std::move(drawn.regions);
     std::u16string about = Say("Approximate font");
     for (const still::TextFit& text : drawn.texts) {
-        if (text.is_too_wide) about += u"; " + Say("%1 may not fit its width", From_Utf8(text.pane));
-        if (text.is_too_high) about += u"; " + Say("%1 may not fit its height", From_Utf8(text.pane));
+        if (text.is_too_wide)
+            about += u"; " + Say("%1 may not fit its width", From_Utf8(text.pane));
+        if (text.is_too_high)
+            about += u"; " + Say("%1 may not fit its height", From_Utf8(text.pane));
     }
     for (const std::string& fault : drawn.faults) about += u"; " + From_Utf8(fault);
     lblAbout.Set(about);
@@ -177,6 +179,16 @@ std::u16string LiveView::What_Is_At(float x, float y) const {
         ++count;
     }
     return all;
+}
+
+std::vector<std::u16string> LiveView::Materials_At(float x, float y) const {
+    std::vector<std::u16string> materials;
+    for (auto region = regions_.rbegin(); region != regions_.rend(); ++region) {
+        if (!region->material.empty() && Lies_In(*region, x, y)) {
+            materials.push_back(From_Utf8(region->material));
+        }
+    }
+    return materials;
 }
 
 }  // namespace bannersmith

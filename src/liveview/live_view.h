@@ -59,6 +59,8 @@ class LiveView {
     const std::vector<still::Region>& Regions() const { return regions_; }
     /// What lies at a place of the picture, topmost first, a line each; the place in pixels.
     std::u16string What_Is_At(float x, float y) const;
+    /// The names of the materials there, topmost first.
+    std::vector<std::u16string> Materials_At(float x, float y) const;
 
  private:
     still::PartKind Part() const;

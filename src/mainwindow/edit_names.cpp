@@ -22,9 +22,7 @@ struct Naming {
     std::u16string operator()(const SetColors& /*edit*/) const { return Say("Colors"); }
     std::u16string operator()(const ReplaceLogo& /*edit*/) const { return Say("Logo"); }
     std::u16string operator()(const ReplacePicture& /*edit*/) const { return Say("Game picture"); }
-    std::u16string operator()(const ForceRegion& edit) const {
-        return Say("Region %1", edit.code);
-    }
+    std::u16string operator()(const ForceRegion& edit) const { return Say("Region %1", edit.code); }
     std::u16string operator()(const SetPadding& /*edit*/) const { return Say("Padding"); }
     std::u16string operator()(const SetChannelName& edit) const {
         return Say("Channel name (%1)", edit.code);
@@ -42,8 +40,8 @@ std::u16string Name_Of(const Edit& edit) {
 
 /// As the window's captions have them.
 std::u16string Name_Of(Field field) {
-    constexpr std::array<const char16_t*, FieldPrefixes.size()> Names = {u"Name", u"Year",
-                                                                        u"Players", u"ESRB Rating"};
+    constexpr std::array<const char16_t*, FieldPrefixes.size()> Names = {
+        u"Name", u"Year", u"Players", u"ESRB Rating"};
     return Names[static_cast<std::size_t>(field)];
 }
 

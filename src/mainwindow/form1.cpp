@@ -32,6 +32,9 @@ Form1::Form1(Process process, Desktop& desktop)
       process_(std::move(process)),
       desktop_(desktop) {
     txtSrc.Change = [this] { txtSrc_Change(); };
+    cmbFileList.picture_of = [this](int index) {
+        return Scheme_Picture(process_.program_folder, cmbFileList, index);
+    };
     cmbLogo.picture_of = [this](int index) { return Logo_Picture(index); };
     Watch_Fields();
 }
@@ -199,7 +202,9 @@ void Form1::cmdHC_Click() {
         Tell_Changes(u"Text editor", before);
     };
     TextEditor = std::make_unique<frmHC>(
-        MainWindowForTexts{form, opened_.banner, apply, [this] { info.Show_Selected(); }});
+        MainWindowForTexts{form, opened_.banner, apply, [this] { Undo_Click(); },
+                           [this] { Redo_Click(); }, [this] { info.Show_Selected(); }},
+        desktop_);
     TextEditorMade.Raise();
     TextEditor->Form_Load();
     TextEditor->form.Show();

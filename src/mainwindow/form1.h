@@ -114,8 +114,8 @@ class Form1 {
     void cmdSetNames_Click();
 
     /// Open the colour window, the manual text editor, the window of the game's picture where the
-    /// banner has one, and that of all languages, and return at once; this window is disabled until the other one is
-    /// closed.
+    /// banner has one, and that of all languages, and return at once; this window is disabled until
+    /// the other one is closed.
     void cmdEditColor_Click();
     void cmdHC_Click();
     void cmdPicture_Click();

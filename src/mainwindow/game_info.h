@@ -17,7 +17,8 @@ namespace bannersmith {
 /// Set All. The names of the controls are those of the window.
 class GameInfo {
  public:
-    /// The fields by their places in the window's arrays: those of `Field`, then the console's name.
+    /// The fields by their places in the window's arrays: those of `Field`, then the console's
+    /// name.
     static constexpr std::size_t Fields = FieldPrefixes.size() + 1, System = FieldPrefixes.size();
 
     /// Empty fields, and lists of all languages with nothing selected. `banner` must outlive the

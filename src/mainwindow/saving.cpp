@@ -46,8 +46,8 @@ void Form1::Tell_Saved(const SavePlan& plan) {
     if (cmbFileList.Index() == DropDownList::NoSelection) about += u", " + Say("no colors applied");
     for (const std::string& notice : plan.notices) about += u", " + From_Utf8(notice);
     const bool logo_unplaced = cmbLogo.Index() > 0 && !plan.has_logo;
-    lblLastCommand.Set(
-        logo_unplaced ? Say("Saved; the banner has no logo texture to replace") : about);
+    lblLastCommand.Set(logo_unplaced ? Say("Saved; the banner has no logo texture to replace")
+                                     : about);
 }
 
 /// To the texts that were set; nothing where that is nothing.
@@ -56,7 +56,8 @@ std::u16string Form1::What_A_Save_Adds() const {
     const std::vector<Edit> chosen = Chosen_Edits();
     for (const Edit& edit : chosen) {
         const auto* force = std::get_if<ForceRegion>(&edit);
-        if (std::holds_alternative<SetPadding>(edit) || (force && force->code == NoLanguage)) continue;
+        if (std::holds_alternative<SetPadding>(edit) || (force && force->code == NoLanguage))
+            continue;
         added += (added.empty() ? u"" : u", ") + Name_Of(edit);
     }
     return added.empty() ? added : Say("Save with %1", added);

@@ -49,8 +49,8 @@ void Form1::Show_Fields_Again() {
 /// Before its language changes.
 bool Form1::Settle_Field(std::size_t field) {
     if (!info.Is_Unset(field)) return true;
-    const auto answer = desktop_.Choose(
-        Say("%1 was typed and is not set.", info.Name_Of(field)), Set_Discard_Cancel());
+    const auto answer = desktop_.Choose(Say("%1 was typed and is not set.", info.Name_Of(field)),
+                                        Set_Discard_Cancel());
     if (answer == keep) {
         info.Set(field);
         Tell_What_Is_Loaded();
@@ -143,9 +143,9 @@ void Form1::Look_At_File() {
     if (!form.Enabled() || is_change_known_ || !opened_.banner.Is_Loaded()) return;
     if (!opened_.banner.Was_Changed_Elsewhere()) return;
     is_change_known_ = true;
-    const auto answer =
-        desktop_.Choose(Say("%1 was changed by another program since it was loaded.", txtSrc.Text()),
-                        {Say("Reload"), Say("Keep what is here")});
+    const auto answer = desktop_.Choose(
+        Say("%1 was changed by another program since it was loaded.", txtSrc.Text()),
+        {Say("Reload"), Say("Keep what is here")});
     if (answer == 0) Load();
 }
 

@@ -4,12 +4,16 @@
 #include <vector>
 
 #include "base/text.h"
+#include "forms/say.h"
 #include "layout/text_box.h"
 
 namespace bannersmith {
 
-frmHC::frmHC(MainWindowForTexts main) : main_(std::move(main)), BrlytData(main_.banner.Bytes()) {
+frmHC::frmHC(MainWindowForTexts main, Desktop& desktop)
+    : main_(std::move(main)), desktop_(desktop), BrlytData(main_.banner.Bytes()) {
     cmbHC.Click = [this] { cmbHC_Click(); };
+    cmbHC.may_pick = [this] { return Settle(); };
+    txtHC.Change = [this] { Show_Mark(); };
 }
 
 void frmHC::Form_Load() {
@@ -27,12 +31,40 @@ void frmHC::Form_Unload() {
 }
 
 void frmHC::cmbHC_Click() {
-    txtHC.Set(Read_Box(BrlytData, cmbHC.Selected()));
+    set_ = Read_Box(BrlytData, cmbHC.Selected());
+    txtHC.Set(set_);
+    Show_Mark();
+}
+
+void frmHC::Show_Mark() {
+    const bool is_unset = cmbHC.Index() != DropDownList::NoSelection && txtHC.Text() != set_;
+    txtHC.Set_Mark(is_unset ? Say("Typed, but not set yet") : u"");
 }
 
 void frmHC::cmdSet_Click() {
     if (cmbHC.Index() == DropDownList::NoSelection) return;
     main_.apply(WriteBox{cmbHC.Selected(), txtHC.Text()});
+    if (!txtHC.Text().empty()) set_ = txtHC.Text();
+    Show_Mark();
+}
+
+void frmHC::Undo_Click() {
+    main_.undo();
+    cmbHC_Click();
+}
+
+void frmHC::Redo_Click() {
+    main_.redo();
+    cmbHC_Click();
+}
+
+bool frmHC::Settle() {
+    if (txtHC.Mark().empty()) return true;
+    const auto answer = desktop_.Choose(Say("%1 was typed and is not set.", cmbHC.Selected()),
+                                        {Say("Set it first"), Say("Discard"), Say("Cancel")});
+    if (answer == 0) cmdSet_Click();
+    if (answer == 1) txtHC.Set(set_);
+    return answer != 2;
 }
 
 }  // namespace bannersmith

@@ -11,6 +11,7 @@
 #include "base/text.h"
 #include "colors/materials.h"
 #include "colors/window/scheme_list.h"
+#include "forms/say.h"
 #include "system/files.h"
 #include "system/interruptions.h"
 #include "system/replace_files.h"
@@ -33,6 +34,30 @@ std::optional<int> Whole_Number(std::u16string_view text) {
     using Limits = std::numeric_limits<std::int16_t>;
     if (!(whole >= Limits::min() && whole <= Limits::max())) return std::nullopt;
     return static_cast<int>(whole);
+}
+
+/// The colour that six hexadecimal digits stand for, red first.
+std::optional<Color> Hex_Color(std::u16string_view text) {
+    std::string digits = To_Utf8(Trim(text));
+    if (digits.starts_with('#')) digits.erase(0, 1);
+    constexpr int Base = 16;
+    unsigned number = 0;
+    const char* last = digits.data() + digits.size();
+    const auto [end, error] = std::from_chars(digits.data(), last, number, Base);
+    if (digits.size() != 6 || error != std::errc() || end != last) return std::nullopt;
+    const auto part = [number](unsigned shift) {
+        return static_cast<std::uint8_t>(number >> shift);
+    };
+    return Make_Color(part(16), part(8), part(0));
+}
+
+std::u16string Hex_Text(Color color) {
+    constexpr std::u16string_view Digits = u"0123456789ABCDEF";
+    std::u16string text;
+    for (const unsigned part : {Red_Of(color), Green_Of(color), Blue_Of(color)}) {
+        text += {Digits[part / Digits.size()], Digits[part % Digits.size()]};
+    }
+    return text;
 }
 
 }  // namespace
@@ -62,6 +87,10 @@ frmColor::frmColor(MainWindowForColors main, std::u16string program_folder, Desk
       desktop_(desktop) {
     cmbFileList.Click = [this] { cmbFileList_Click(); };
     for (TextBox* box : {&txtR, &txtG, &txtB}) box->Change = [this] { UpDatePicClr(); };
+    txtHex.Change = [this] { Take_Hex(); };
+    cmbFileList.picture_of = [this](int index) {
+        return Scheme_Picture(program_folder_, cmbFileList, index);
+    };
 }
 
 void frmColor::Form_Load() {
@@ -105,6 +134,7 @@ void frmColor::cmdGetScheme_Click() {
         return;
     }
     Read_Element_Set(*data);
+    kept_ = Colors();
     MakePreview();
 }
 
@@ -130,10 +160,15 @@ Scheme frmColor::Colors() const {
 void frmColor::cmdSaveScheme_Click() {
     const std::u16string name = desktop_.Ask(u"Type a Name for the New Scheme", u"Save Scheme");
     if (name.empty()) return;
+    if (Ordinary_File_Exists(Scheme_Path(program_folder_, name)) &&
+        !desktop_.Confirm(Say("There is a scheme %1 already. Replace it?", name))) {
+        return;
+    }
     if (const auto saved = Save_Scheme(name); !saved) {
         desktop_.Report(saved.Why());
         return;
     }
+    kept_ = Colors();
     desktop_.Message(u"Color Scheme saved as " + name);
     RefreshColorList();
 }
@@ -161,11 +196,21 @@ void frmColor::Show_Components(Color color) {
 }
 
 void frmColor::pic_Click(std::u16string_view key, std::int16_t Index) {
-    const Boxes* boxes = Find_Boxes(key);
+    Boxes* boxes = Find_Boxes(key);
     if (boxes == nullptr || Index < 0 || Index > 1) return;
+    if (ColorBox* before = Edited_Box()) before->Set_Mark(u"");
+    lblEdit.Set(u"");  // the numbers are not yet those of the box
     Show_Components((*boxes)[static_cast<std::size_t>(Index)].Value());
     lblEdit.Set(std::u16string(key) + (Index == 0 ? u" 0" : u" 1"));
+    Edited_Box()->Set_Mark(Say("Being edited"));
     UpDatePicClr();
+}
+
+/// Nothing before one was clicked.
+ColorBox* frmColor::Edited_Box() {
+    Boxes* boxes = Find_Boxes(Piece_Of(lblEdit.Caption(), u' ', 0));
+    if (boxes == nullptr) return nullptr;
+    return &(*boxes)[Piece_Of(lblEdit.Caption(), u' ', 1) == u"1" ? 1 : 0];
 }
 
 void frmColor::UpDatePicClr() {
@@ -177,6 +222,23 @@ void frmColor::UpDatePicClr() {
         return static_cast<std::uint8_t>(std::clamp(number, 0, WholeByte));
     };
     picClr.Set(Make_Color(component(*red), component(*green), component(*blue)));
+    Show_Hex();
+    if (ColorBox* box = Edited_Box()) {
+        Scheme tried = Colors();
+        const std::size_t element = Element_Index(Piece_Of(lblEdit.Caption(), u' ', 0));
+        tried[element][box == &pic[element][1] ? 1 : 0] = picClr.Value();
+        Draw_With(tried);
+    }
+}
+
+/// Only where it says another colour, as somebody may be typing it.
+void frmColor::Show_Hex() {
+    if (Hex_Color(txtHex.Text()) != picClr.Value()) txtHex.Set(Hex_Text(picClr.Value()));
+}
+
+void frmColor::Take_Hex() {
+    const auto color = Hex_Color(txtHex.Text());
+    if (color && *color != picClr.Value()) Show_Components(*color);
 }
 
 void frmColor::picClr_Click() {
@@ -185,11 +247,7 @@ void frmColor::picClr_Click() {
 }
 
 void frmColor::cmdColor_Click() {
-    Boxes* boxes = Find_Boxes(Piece_Of(lblEdit.Caption(), u' ', 0));
-    if (boxes != nullptr) {
-        const bool second = Piece_Of(lblEdit.Caption(), u' ', 1) == u"1";
-        (*boxes)[second ? 1 : 0].Set(picClr.Value());
-    }
+    if (ColorBox* box = Edited_Box()) box->Set(picClr.Value());
     MakePreview();
 }
 
@@ -203,20 +261,53 @@ void frmColor::Load_Scheme_Colors(std::u16string_view name) {
         pic[i][0].Set((*scheme)[i][0]);
         pic[i][1].Set((*scheme)[i][1]);
     }
+    kept_ = Colors();
     MakePreview();
 }
 
 void frmColor::MakePreview() {
-    preview.Draw(Colors(), main_.texts());
+    Draw_With(Colors());
+}
+
+void frmColor::Draw_With(const Scheme& colors) {
+    drawn_ = colors;
+    preview.Draw(drawn_, main_.texts());
     live.Take_Changes();
 }
 
-/// What is typed in the main window, in the boxes' colours.
+void frmColor::Preview_Click(float x, float y) {
+    const auto [key, box] = preview.Color_At(x, y);
+    pic_Click(key, box);
+}
+
+/// The second colour of an element is the one that is seen where a stage mixes two.
+void frmColor::Live_Click(float x, float y) {
+    for (const std::u16string& material : live.Materials_At(x, y)) {
+        for (const Element& element : Elements) {
+            const bool is_its = element.text ? material.starts_with(Neutral_Box(element.material))
+                                             : material == element.material;
+            if (is_its) return pic_Click(element.key, 1);
+        }
+    }
+}
+
+bool frmColor::May_Close() {
+    if (drawn_ == kept_) return true;
+    const auto answer = desktop_.Choose(Say("These colors are in no scheme and would be lost."),
+                                        {Say("Save as a scheme"), Say("Discard"), Say("Cancel")});
+    if (answer == 0) {
+        cmdColor_Click();
+        cmdSaveScheme_Click();
+        return drawn_ == kept_;
+    }
+    return answer == 1;
+}
+
+/// What is typed in the main window, in the colours that are shown.
 std::vector<Edit> frmColor::Unset_Edits() const {
     std::vector<Edit> edits = main_.unset();
     SetColors colors;
-    const Scheme scheme = Colors();
-    for (std::size_t i = 0; i < scheme.size(); ++i) colors.pairs[i] = scheme[i];
+    for (std::size_t i = 0; i < drawn_.size(); ++i) colors.pairs[i] = drawn_[i];
     edits.emplace_back(std::move(colors));
     return edits;
 }

@@ -46,6 +46,7 @@ class frmColor {
     FileList File1{{".vccs"}};
     TextBox txtBannerPath{u"gen.brlyt"};         ///< the layout to read colours from
     TextBox txtR{u"0"}, txtG{u"0"}, txtB{u"0"};  ///< the colour being edited, 0 to 255 each
+    TextBox txtHex;                              ///< all three at once: "FF8000", with # or not
     ColorBox picClr;                             ///< the same as a swatch
     Label lblEdit;                               ///< the box being edited: key, blank, 0 or 1
     Preview preview;
@@ -84,11 +85,24 @@ class frmColor {
     /// Draws the preview from the boxes and what the main window shows.
     void MakePreview();
 
+    /// Makes the box being edited the one whose colour lies at a place of the preview, in twips, or
+    /// of the banner as the console draws it, in pixels; none where there is none.
+    void Preview_Click(float x, float y);
+    void Live_Click(float x, float y);
+
+    /// Whether the window may be closed: its colours are those of the layout or of a scheme, or the
+    /// user saves them or gives them up.
+    bool May_Close();
+
  private:
     static constexpr int WholeByte = 255;
 
     Result<> Save_Scheme(const std::u16string& name);
     Boxes* Find_Boxes(std::u16string_view key);
+    ColorBox* Edited_Box();
+    void Take_Hex();
+    void Show_Hex();
+    void Draw_With(const Scheme& colors);
     void Show_Components(Color color);
     void Read_Element_Set(std::string_view data);
     Scheme Colors() const;
@@ -97,6 +111,8 @@ class frmColor {
     MainWindowForColors main_;
     std::u16string program_folder_;
     Desktop& desktop_;
+    Scheme drawn_{};  ///< what the preview shows: the boxes, and what is typed for one of them
+    Scheme kept_{};   ///< as they were read or saved last
 };
 
 /// Reads the first two colours of a material of `data` into two boxes: "NF" where the material is

@@ -1,5 +1,8 @@
 #include "colors/window/preview.h"
 
+#include <algorithm>
+#include <tuple>
+
 #include "base/text.h"
 #include "colors/window/gradients.h"
 
@@ -12,6 +15,17 @@ constexpr float FrameBeforeConsole = 525;
 
 std::u16string With_Line_Breaks(std::u16string_view text) {
     return Replace_All(text, u"^", u"\r\n");
+}
+
+/// Where a hand finds a thin line.
+Area Widened(Area area) {
+    constexpr float Reach = 60;
+    return {area.left, area.top - Reach, area.width, area.height + 2 * Reach};
+}
+
+/// Where a row's letters are, between which the ground can be clicked.
+Area Letters(Area area) {
+    return {area.left, area.top + area.height / 4, area.width, area.height / 2};
 }
 
 }  // namespace
@@ -83,6 +97,57 @@ void Preview::Show_Console(std::u16string_view text) {
     lblT_PF.text = text;
     lblT_PF.area.left = lbl_PFSize.left - room;
     lblT_PF.area.width = lbl_PFSize.width + room;
+}
+
+/// Where the lines of a label are, which can be less than its area.
+Area Preview::Written_Area(const DrawnLabel& label) const {
+    float width = 0;
+    for (std::size_t from = 0; from <= label.text.size();) {
+        const std::size_t end = std::min(label.text.find(u"\r\n", from), label.text.size());
+        const auto line = std::u16string_view(label.text).substr(from, end - from);
+        width = std::max(width, desktop_.Text_Width(line, label.font));
+        from = end + 2;
+    }
+    width = std::min(width, label.area.width);
+    Area area = label.area;
+    if (label.alignment == Alignment::right) area.left = area.Right() - width;
+    if (label.alignment == Alignment::centre) area.left += (area.width - width) / 2;
+    area.width = width;
+    return area;
+}
+
+/// From the front to the back.
+std::pair<std::u16string_view, std::int16_t> Preview::Color_At(float x, float y) const {
+    const auto lies_in = [x, y](const Area& area) {
+        return x >= area.left && x < area.Right() && y >= area.top && y < area.Bottom();
+    };
+    Area screen = shpVcPic.area;
+    screen = {screen.left + Thick, screen.top + Thick, screen.width - 2 * Thick,
+              screen.height - 2 * Thick};
+    const std::tuple<Area, std::u16string_view, std::int16_t> places[] = {
+        {Widened(YearLineArea), u"YearLine", 1},
+        {Widened(PlayLineArea), u"PlayLine", 1},
+        {Written_Area(lblT_PF), u"T_PF", 1},
+        {Written_Area(lblT_Year), u"T_Year", 1},
+        {Written_Area(lblT_Play), u"T_Play", 1},
+        {screen, u"VCPic", 1},
+        {shpVcPic.area, u"VCPic", 0},
+        {Written_Area(lblT_VCTitle), u"T_VCTitle", 1},
+        {Written_Area(lblT_ESRB), u"T_ESRB", 1},
+        {shpPFLine[0].area, u"PFLINE", 1},
+        {shpPFLine[1].area, u"PFLINE", 1},
+        {Letters(lblBack1[0].area), u"Back1", 1},
+        {Letters(lblBack1[1].area), u"Back2", 1},
+        {Letters(lblBack1[2].area), u"Back3", 1},
+        {Letters(lblBack1[3].area), u"Back4", 1},
+        {shpBackMask1, u"BackMask1", 1},
+        {shpBackMask2.area, u"BackMask2", 1},
+        {shpBack1.area, u"Back1", 0},
+    };
+    for (const auto& [area, key, box] : places) {
+        if (lies_in(area)) return {key, box};
+    }
+    return {};
 }
 
 }  // namespace bannersmith

@@ -4,6 +4,8 @@
 #include <array>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <utility>
 
 #include "colors/scheme.h"
 #include "forms/controls.h"
@@ -28,6 +30,10 @@ class Preview {
 
     /// Draws everything anew.
     void Draw(const Scheme& colors, const PreviewTexts& texts);
+
+    /// The key of the element whose colour lies at a place, and which of its two colours it is; an
+    /// empty key where none lies there.
+    std::pair<std::u16string_view, std::int16_t> Color_At(float x, float y) const;
 
     /// Runs after each drawing.
     Event Drawn;
@@ -77,6 +83,7 @@ class Preview {
     void Draw_Colors(const Scheme& colors);
     void Show_Texts(const PreviewTexts& texts);
     void Show_Console(std::u16string_view text);
+    Area Written_Area(const DrawnLabel& label) const;
 
     Desktop& desktop_;
 };
