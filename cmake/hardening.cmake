@@ -22,10 +22,3 @@ else()
     add_link_options(-Wl,-z,relro,-z,now)
     set(static_link -static-pie)
 endif()
-
-# A program for Windows carries its manifest.
-function(describe_program name)
-    if(WIN32)
-        target_sources(${name} PRIVATE ${PROJECT_SOURCE_DIR}/packaging/windows/program.rc)
-    endif()
-endfunction()

@@ -20,8 +20,8 @@ int Start_Window(char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    if (File_To_Open(Arguments(argc, argv))) return Start_Window(argv);
     const std::u16string command_line = Command_Line(argc, argv);
     if (const auto status = Answer_About(command_line, "bannersmith", Usage)) return *status;
-    if (command_line.empty()) return Start_Window(argv);
     return Run_Batch_Mode(command_line);
 }

@@ -14,6 +14,7 @@
 #include "exchange/report.h"
 #include "exchange/shelf_jobs.h"
 #include "layout/kind.h"
+#include "system/data_folder.h"
 #include "system/files.h"
 #include "system/interruptions.h"
 #include "system/native_path.h"
@@ -158,7 +159,7 @@ int Export_Recipe(const EditCommand& command) {
 }
 
 int Run(const std::vector<std::u16string>& arguments) {
-    const std::u16string program_folder = Program_Folder();
+    const std::u16string program_folder = Data_Folder();
     const auto command = Read_Edit_Command(arguments, program_folder);
     if (!command) {
         Print("bannersmith-edit: " + Readable(From_Utf8(command.Why().reason)) +

@@ -1,6 +1,8 @@
 // bannersmith-window: the editor's windows. With command-line text it makes the same batch run as
 // bannersmith.
 #include <QApplication>
+#include <QDir>
+#include <QFileInfo>
 #include <cstdlib>
 #include <new>
 
@@ -8,9 +10,11 @@
 #include "desktop/languages.h"
 #include "desktop/main_window_view.h"
 #include "desktop/qt_desktop.h"
+#include "desktop/text.h"
 #include "desktop/widgets.h"
 #include "mainwindow/run.h"
 #include "mainwindow/usage.h"
+#include "system/data_folder.h"
 #include "system/process.h"
 
 using namespace bannersmith;
@@ -44,6 +48,12 @@ void Leave_On_Fatal_Message(QtMsgType type, const QMessageLogContext& /*context*
     if (type == QtCriticalMsg) Print_Failure({u"window", text.toStdString()});
 }
 
+/// From the current folder, as a file that is opened later must not depend on it.
+std::u16string Full_Path(const std::u16string& file) {
+    if (file.empty()) return file;
+    return Taken(QDir::toNativeSeparators(QFileInfo(Shown(file)).absoluteFilePath()));
+}
+
 /// The toolkit's own, but a command for which memory lacks is reported and the editor goes on.
 class Application : public QApplication {
  public:
@@ -59,7 +69,7 @@ class Application : public QApplication {
     }
 };
 
-int Run_Windows(int argc, char** argv) {
+int Run_Windows(int argc, char** argv, const std::u16string& file) {
     if (!Display_Is_Named()) return No_Display();
     qInstallMessageHandler(Leave_On_Fatal_Message);
     EndBySignal end_by_signal;
@@ -70,9 +80,9 @@ int Run_Windows(int argc, char** argv) {
     QApplication::setWindowIcon(Program_Icon());
     Speak_Users_Language();
     QtDesktop desktop;
-    Form1 window({Program_Folder(), {}}, desktop);
+    Form1 window({Data_Folder(), {}}, desktop);
     MainWindowView view(window);
-    if (!window.Form_Load()) return 1;
+    if (!window.Form_Load(Full_Path(file))) return 1;
     const int ended = QApplication::exec();
     end_by_signal.End_Process();
     return ended;
@@ -81,7 +91,9 @@ int Run_Windows(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    if (const auto file = File_To_Open(Arguments(argc, argv)))
+        return Run_Windows(argc, argv, *file);
     const std::u16string command_line = Command_Line(argc, argv);
     if (const auto status = Answer_About(command_line, "bannersmith-window", Usage)) return *status;
-    return command_line.empty() ? Run_Windows(argc, argv) : Run_Batch_Mode(command_line);
+    return Run_Batch_Mode(command_line);
 }

@@ -187,7 +187,7 @@ QWidget* Make_Channel_Names(Form1& window) {
         grid->addWidget(new QLabel(code + ":"), row, 0);
         for (std::size_t line = 0; line < NameLines; ++line) {
             QLineEdit* edit = Make_Field(window.names.txtNames[language][line], false);
-            edit->setAccessibleName(Said("%1, line %2", code, QString::number(line + 1)));
+            edit->setAccessibleName(Filled(Said("%1, line %2"), code, QString::number(line + 1)));
             edit->setToolTip(Language_In_Words(NameLanguages[language]));
             edit->setMinimumHeight(edit->sizeHint().height());  // the window grows instead
             grid->addWidget(edit, row, 1 + static_cast<int>(line));

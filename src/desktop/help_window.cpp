@@ -34,7 +34,8 @@ void Follow_Link(QTextBrowser& shown, const QUrl& link) {
 
 void Show_Manual(QWidget& parent) {
     if (!QFile::exists(Manual())) {
-        QMessageBox::warning(&parent, "Bannersmith", Said("The manual is not there: %1", Manual()));
+        QMessageBox::warning(&parent, "Bannersmith",
+                             Filled(Said("The manual is not there: %1"), Manual()));
         return;
     }
     auto* window = new QDialog(&parent);
@@ -59,7 +60,8 @@ void Show_About(QWidget& parent) {
         &parent, Said("About Bannersmith"),
         "<h3>Bannersmith " BANNERSMITH_VERSION "</h3><p>" +
             Said("The editor for the banners of Virtual Console channels.").toHtmlEscaped() +
-            "</p><p>" + Said("Qt %1, used under the LGPL", qVersion()).toHtmlEscaped() + "</p>");
+            "</p><p>" + Filled(Said("Qt %1, used under the LGPL"), qVersion()).toHtmlEscaped() +
+            "</p>");
 }
 
 }  // namespace bannersmith

@@ -225,7 +225,8 @@ void LanguageTableView::Show_Wording(const QString& typed) {
     const QString wording = cell.isValid() && !typed.isEmpty()
                                 ? Shown(table_.Wording(Row(cell), Column(cell), Taken(typed)))
                                 : QString();
-    wording_->setText(wording.isEmpty() ? QString() : Said("The banner will say: %1", wording));
+    wording_->setText(wording.isEmpty() ? QString()
+                                        : Filled(Said("The banner will say: %1"), wording));
 }
 
 void LanguageTableView::Paste() {

@@ -81,7 +81,7 @@ void MainMenu::Show_History() {
                          const char* without) {
         const std::u16string name = Replace_All(label.Caption(), u"&", u"&&");
         action.setEnabled(!name.empty());
-        action.setText(Shown(name.empty() ? Say(without) : Say(with, name)));
+        action.setText(Shown(name.empty() ? Say(without) : Filled(Say(with), name)));
     };
     show(*undo_, window_.lblUndo, QT_TRID_NOOP("&Undo %1"), QT_TRID_NOOP("&Undo"));
     show(*redo_, window_.lblRedo, QT_TRID_NOOP("&Redo %1"), QT_TRID_NOOP("&Redo"));

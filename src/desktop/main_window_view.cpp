@@ -96,11 +96,11 @@ QWidget* MainWindowView::Make_First_Hint() {
     hint->setAutoFillBackground(true);
     hint->setBackgroundRole(QPalette::ToolTipBase);
     hint->setForegroundRole(QPalette::ToolTipText);
-    auto* text = new QLabel(
+    auto* text = new QLabel(Filled(
         Said("This is a sample. Type a name, press Set All, and see the banner change; nothing is "
              "written before Save Changes. Open your own file with %1, or drop it here. %2 shows "
-             "the manual.",
-             menu_.open->shortcut().toString(QKeySequence::NativeText), "F1"));
+             "the manual."),
+        menu_.open->shortcut().toString(QKeySequence::NativeText), "F1"));
     text->setWordWrap(true);
     text->setForegroundRole(QPalette::ToolTipText);
     auto* row = new QHBoxLayout(hint);

@@ -16,6 +16,7 @@
 #include "base/message.h"
 #include "base/text.h"
 #include "desktop/fonts.h"
+#include "desktop/reasons.h"
 #include "desktop/text.h"
 #include "desktop/widgets.h"
 #include "system/code_page.h"
@@ -76,9 +77,8 @@ std::size_t QtDesktop::Choose(const std::u16string& question,
 
 void QtDesktop::Report(const Failure& failure) {
     Print_Failure(failure);
-    const std::string text =
-        Readable(failure.subject) + "\n\n" + Readable(From_Utf8(failure.reason));
-    Show_Box(QMessageBox::Critical, QString::fromStdString(text));
+    const QString reason = Reason_In_Words(Readable(From_Utf8(failure.reason)));
+    Show_Box(QMessageBox::Critical, QString::fromStdString(Readable(failure.subject)) + "\n\n" + reason);
 }
 
 std::u16string QtDesktop::Open_File(const std::u16string& filter, const std::u16string& last) {

@@ -19,8 +19,13 @@ inline std::u16string Taken(const QString& text) {
 }
 
 /// What `Say` says.
-inline QString Said(const char* text, const QString& first = {}, const QString& second = {}) {
-    return Shown(Say(text, Taken(first), Taken(second)));
+inline QString Said(const char* text) {
+    return Shown(Say(text));
+}
+
+/// `pattern` with the values in the places of "%1" and "%2".
+inline QString Filled(const QString& pattern, const QString& first, const QString& second = {}) {
+    return Shown(Filled(Taken(pattern), Taken(first), Taken(second)));
 }
 
 }  // namespace bannersmith

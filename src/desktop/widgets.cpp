@@ -30,9 +30,9 @@ ColorButton::ColorButton(ColorBox& box, const QString& name, const QString& word
 
 void ColorButton::Show_Color() {
     color_ = Shown_Color(box_.Value());
-    const QString values = QStringList{Said("red %1", QString::number(color_.red())),
-                                       Said("green %1", QString::number(color_.green())),
-                                       Said("blue %1", QString::number(color_.blue()))}
+    const QString values = QStringList{Filled(Said("red %1"), QString::number(color_.red())),
+                                       Filled(Said("green %1"), QString::number(color_.green())),
+                                       Filled(Said("blue %1"), QString::number(color_.blue()))}
                                .join(", ");
     const QString mark = Shown(box_.Mark());
     setAccessibleName(name_ + ": " + values);

@@ -20,22 +20,26 @@ void Speak_With(std::function<std::u16string(const char* text)> translate) {
     Translation() = std::move(translate);
 }
 
-/// The values are put in together, as one can hold what looks like the place of another.
-std::u16string Say(const char* text, std::u16string_view first, std::u16string_view second) {
-    std::u16string pattern = Translation() ? Translation()(text) : std::u16string();
-    if (pattern.empty()) pattern = From_Utf8(text);
-    std::u16string said;
+std::u16string Say(const char* text) {
+    std::u16string said = Translation() ? Translation()(text) : std::u16string();
+    return said.empty() ? From_Utf8(text) : said;
+}
+
+/// Both values at once, as the first can hold what looks like the place of the second.
+std::u16string Filled(std::u16string_view pattern, std::u16string_view first,
+                      std::u16string_view second) {
+    std::u16string filled;
     for (std::size_t i = 0; i < pattern.size(); ++i) {
-        const char16_t number =
-            pattern[i] == u'%' && i + 1 < pattern.size() ? pattern[i + 1] : u' ';
-        if (number != u'1' && number != u'2') {
-            said += pattern[i];
-            continue;
+        const std::u16string_view place = pattern.substr(i, 2);
+        const bool is_first = place == u"%1", is_place = is_first || place == u"%2";
+        if (is_place) {
+            filled += is_first ? first : second;
+            ++i;
+        } else {
+            filled += pattern[i];
         }
-        said += number == u'1' ? first : second;
-        ++i;
     }
-    return said;
+    return filled;
 }
 
 }  // namespace bannersmith

@@ -135,9 +135,9 @@ void LiveView::Draw() {
     std::u16string about = Say("Approximate font");
     for (const still::TextFit& text : drawn.texts) {
         if (text.is_too_wide)
-            about += u"; " + Say("%1 may not fit its width", From_Utf8(text.pane));
+            about += u"; " + Filled(Say("%1 may not fit its width"), From_Utf8(text.pane));
         if (text.is_too_high)
-            about += u"; " + Say("%1 may not fit its height", From_Utf8(text.pane));
+            about += u"; " + Filled(Say("%1 may not fit its height"), From_Utf8(text.pane));
     }
     for (const std::string& fault : drawn.faults) about += u"; " + From_Utf8(fault);
     lblAbout.Set(about);

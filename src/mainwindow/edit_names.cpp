@@ -22,10 +22,12 @@ struct Naming {
     std::u16string operator()(const SetColors& /*edit*/) const { return Say("Colors"); }
     std::u16string operator()(const ReplaceLogo& /*edit*/) const { return Say("Logo"); }
     std::u16string operator()(const ReplacePicture& /*edit*/) const { return Say("Game picture"); }
-    std::u16string operator()(const ForceRegion& edit) const { return Say("Region %1", edit.code); }
+    std::u16string operator()(const ForceRegion& edit) const {
+        return Filled(Say("Region %1"), edit.code);
+    }
     std::u16string operator()(const SetPadding& /*edit*/) const { return Say("Padding"); }
     std::u16string operator()(const SetChannelName& edit) const {
-        return Say("Channel name (%1)", edit.code);
+        return Filled(Say("Channel name (%1)"), edit.code);
     }
     std::u16string operator()(const SetChannelNames& /*edit*/) const {
         return Say("Channel names");

@@ -68,14 +68,14 @@ std::vector<Edit> Form1::Unset_Edits() const {
     return edits;
 }
 
-bool Form1::Form_Load() {
+bool Form1::Form_Load(const std::u16string& file) {
     cmbForce.Select(cmbForce.Count() - 1);
     const auto line = Configuration(process_.program_folder).Read();
     if (!line) {
         desktop_.Report(line.Why());
         return false;
     }
-    txtSrc.Set(*line);
+    file.empty() ? txtSrc.Set(*line) : Take_File(file);
     form.Show();
     Tell_What_Is_Loaded();
     RefreshColorList_Here();
@@ -199,7 +199,7 @@ void Form1::cmdHC_Click() {
     const auto apply = [this](const Edit& edit) {
         const std::string before = BrlytData;
         Apply(edit);
-        Tell_Changes(u"Text editor", before);
+        Tell_Changes(Say("Text editor"), before);
     };
     TextEditor = std::make_unique<frmHC>(
         MainWindowForTexts{form, opened_.banner, apply, [this] { Undo_Click(); },
@@ -223,7 +223,7 @@ void Form1::cmdPicture_Click() {
     const auto apply = [this](const Edit& edit) {
         if (!Apply(edit)) return;
         live.Take_Banner();
-        lblLastCommand.Set(u"Game picture: the next save writes it");
+        lblLastCommand.Set(Say("Game picture: the next save writes it"));
         Tell_What_Is_Loaded();
     };
     PictureWindow =

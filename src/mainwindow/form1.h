@@ -64,9 +64,10 @@ class Form1 {
     std::unique_ptr<LanguageTable> TableWindow;
     Event ColorWindowMade, TextEditorMade, PictureWindowMade, TableWindowMade;
 
-    /// Start-up. Loads the layout that the configuration names, shows the window and fills its
-    /// lists. False, and reported, where there is no configuration.
-    bool Form_Load();
+    /// Start-up. Loads the layout that the configuration names, or `file`, a full path, in its
+    /// place, shows the window and fills its lists. False, and reported, where there is no
+    /// configuration.
+    bool Form_Load(const std::u16string& file = {});
 
     /// Empties `BrlytData`, and loads and remembers the file that the path box names, if there is
     /// one. Work that is not saved is kept until the path names its file again or the box is left.

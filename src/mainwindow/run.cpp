@@ -5,6 +5,7 @@
 
 #include "base/text.h"
 #include "mainwindow/batch_run.h"
+#include "system/data_folder.h"
 #include "system/process.h"
 
 namespace bannersmith {
@@ -41,12 +42,18 @@ std::optional<int> Answer_About(const std::u16string& command_line, const std::s
     return 2;
 }
 
+std::optional<std::u16string> File_To_Open(const std::vector<std::u16string>& arguments) {
+    if (arguments.empty()) return std::u16string();
+    if (arguments[0] != u"--open" || arguments.size() > 2) return std::nullopt;
+    return arguments.size() == 2 ? arguments[1] : std::u16string();
+}
+
 int Run_Batch_Mode(const std::u16string& command_line) {
     if (const auto checked = Check(command_line); !checked) {
         Print_Failure(checked.Why());
         return BatchRun::Failed;
     }
-    return BatchRun({Program_Folder(), command_line}, Print_Failure).Run();
+    return BatchRun({Data_Folder(), command_line}, Print_Failure).Run();
 }
 
 }  // namespace bannersmith

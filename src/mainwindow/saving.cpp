@@ -60,7 +60,7 @@ std::u16string Form1::What_A_Save_Adds() const {
             continue;
         added += (added.empty() ? u"" : u", ") + Name_Of(edit);
     }
-    return added.empty() ? added : Say("Save with %1", added);
+    return added.empty() ? added : Filled(Say("Save with %1"), added);
 }
 
 /// Everything that can be refused is refused before anything is asked.
@@ -76,12 +76,13 @@ Result<> Form1::Check_Save() const {
 bool Form1::Save_Is_Wanted() {
     if (!Settle_Fields()) return false;
     if (!Is_Layout(BrlytData) &&
-        !desktop_.Confirm(Say("%1 is not a layout file. Save it all the same?", txtSrc.Text()))) {
+        !desktop_.Confirm(
+            Filled(Say("%1 is not a layout file. Save it all the same?"), txtSrc.Text()))) {
         return false;
     }
     const std::string lost = opened_.banner.Lost_By_Force_Of(cmbForce.Selected());
-    if (!lost.empty() && !desktop_.Confirm(Say("%1: %2. Force the region all the same?",
-                                               txtSrc.Text(), From_Utf8(lost)))) {
+    if (!lost.empty() && !desktop_.Confirm(Filled(Say("%1: %2. Force the region all the same?"),
+                                                  txtSrc.Text(), From_Utf8(lost)))) {
         return false;
     }
     return Settle_Change_Elsewhere();

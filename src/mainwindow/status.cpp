@@ -41,7 +41,7 @@ std::u16string Languages_Present(std::string_view layout) {
         codes.append(codes.empty() ? u"" : u" ").append(names[i].substr(box_prefix::Title.size()));
     }
     if (!codes.empty()) return codes;
-    return has_one_for_all ? u"one text for all languages" : u"no titles";
+    return has_one_for_all ? Say("one text for all languages") : Say("no titles");
 }
 
 /// The text boxes that the fields write, as far as their texts differ between two layouts.
@@ -61,16 +61,19 @@ std::vector<std::u16string> Changed_Boxes(const std::string& before, const std::
     return changed;
 }
 
-/// What is told behind something else in the line.
-std::u16string Column(const std::string& text) {
-    return u"  |  " + From_Utf8(text);
+/// In front of what is told behind something else in the line.
+constexpr std::u16string_view Bar = u"  |  ";
+
+std::u16string Column(std::u16string_view text) {
+    return std::u16string(Bar).append(text);
 }
 
 std::u16string Describe(const std::vector<std::u16string>& boxes, bool same) {
-    if (same) return u"nothing changed";
-    if (boxes.empty()) return u"other texts changed";
-    std::u16string text =
-        Number(boxes.size()) + (boxes.size() == 1 ? u" text" : u" texts") + u" changed:";
+    if (same) return Say("nothing changed");
+    if (boxes.empty()) return Say("other texts changed");
+    std::u16string text = boxes.size() == 1
+                              ? Say("1 text changed:")
+                              : Filled(Say("%1 texts changed:"), Number(boxes.size()));
     for (const std::u16string& name : boxes) text += u" " + name;
     return text;
 }
@@ -93,10 +96,11 @@ void Form1::cmdSetAll_Click(std::int16_t Index) {
 
 void Form1::cmdSetNames_Click() {
     const std::size_t written = names.cmdSet_Click();
-    lblLastCommand.Set(
-        u"Channel names: " +
-        (written == 0 ? u"nothing changed"
-                      : Number(written) + (written == 1 ? u" line changed" : u" lines changed")));
+    const std::u16string told =
+        written == 0   ? Say("nothing changed")
+        : written == 1 ? Say("1 line changed")
+                       : Filled(Say("%1 lines changed"), Number(written));
+    lblLastCommand.Set(Say("Channel names") + u": " + told);
     Tell_What_Is_Loaded();
 }
 
@@ -116,13 +120,13 @@ bool Form1::May_Close() {
 
 void Form1::Undo_Click() {
     if (const auto name = opened_.banner.Undo_Name()) {
-        Step_Through_History(&Banner::Undo, Say("Taken back: %1", *name));
+        Step_Through_History(&Banner::Undo, Filled(Say("Taken back: %1"), *name));
     }
 }
 
 void Form1::Redo_Click() {
     if (const auto name = opened_.banner.Redo_Name()) {
-        Step_Through_History(&Banner::Redo, Say("Brought again: %1", *name));
+        Step_Through_History(&Banner::Redo, Filled(Say("Brought again: %1"), *name));
     }
 }
 
@@ -141,25 +145,25 @@ void Form1::Read_Archive() {
     archive_faults_.clear();
     archive_contents_.clear();
     for (const Warning& warning : Find_Menu_Warnings(opened_.banner)) {
-        archive_faults_ += Column("Warning: " + warning.text);
+        archive_faults_ += Column(Filled(Say("Warning: %1"), From_Utf8(warning.text)));
     }
     const Archive* archive = opened_.banner.Source().Packed_In();
     if (archive == nullptr) return;
     const ArchiveInfo held = Read_Archive_Info(*archive);
     for (const std::string& warning : held.warnings) {
-        archive_faults_ += Column("Warning: " + warning);
+        archive_faults_ += Column(Filled(Say("Warning: %1"), From_Utf8(warning)));
     }
-    archive_contents_ = Column(std::to_string(held.files.size()) + " files in " +
-                               std::to_string(held.file_size) + " bytes");
+    archive_contents_ = Column(Filled(Say("%1 files in %2 bytes"), Number(held.files.size()),
+                                         Number(held.file_size)));
     for (const ArchiveFileInfo& file : held.files) {
-        archive_contents_ += Column(file.path + " " + std::to_string(file.size) +
-                                    (file.texture ? " " + file.texture->Text() : ""));
+        archive_contents_ += Column(From_Utf8(file.path + " " + std::to_string(file.size) +
+                                              (file.texture ? " " + file.texture->Text() : "")));
     }
     for (std::size_t i = 0; held.names && i < held.names->size(); ++i) {
         const auto& [first, second] = (*held.names)[i];
         if (first.empty() && second.empty()) continue;
-        archive_contents_ += Column(To_Utf8(NameLanguages[i]) + " " + To_Utf8(first) +
-                                    (second.empty() ? "" : " / " + To_Utf8(second)));
+        archive_contents_ += Column(std::u16string(NameLanguages[i]) + u" " + first +
+                                    (second.empty() ? u"" : u" / " + second));
     }
 }
 
@@ -168,17 +172,17 @@ void Form1::Tell_What_Is_Loaded() {
     lblRedo.Set(opened_.banner.Redo_Name().value_or(u""));
     if (BrlytData.empty()) {
         const std::string reason = opened_.why_not.empty() ? "" : ": " + opened_.why_not;
-        lblLoaded.Set(u"No layout loaded" + From_Utf8(reason));
+        lblLoaded.Set(Say("No layout loaded") + From_Utf8(reason));
         return;
     }
     const std::u16string path = With_Backslashes(txtSrc.Text());
     const Archive* archive = opened_.banner.Source().Packed_In();
     const std::u16string packed = archive ? u": " + From_Utf8(archive->Layout_Path()) : u"";
     lblLoaded.Set(path.substr(path.rfind(u'\\') + 1) + packed + archive_faults_ + u"  |  " +
-                  (Has_Unsaved_Changes() ? u"texts not saved" : u"texts as in the file") +
+                  (Has_Unsaved_Changes() ? Say("texts not saved") : Say("texts as in the file")) +
                   u"  |  " +
-                  (Is_Layout(BrlytData) ? Languages_Present(BrlytData) : u"not a layout file") +
-                  u"  |  " + Number(BrlytData.size()) + u" bytes" + archive_contents_);
+                  (Is_Layout(BrlytData) ? Languages_Present(BrlytData) : Say("not a layout file")) +
+                  u"  |  " + Filled(Say("%1 bytes"), Number(BrlytData.size())) + archive_contents_);
 }
 
 }  // namespace bannersmith

@@ -49,8 +49,8 @@ void Form1::Show_Fields_Again() {
 /// Before its language changes.
 bool Form1::Settle_Field(std::size_t field) {
     if (!info.Is_Unset(field)) return true;
-    const auto answer = desktop_.Choose(Say("%1 was typed and is not set.", info.Name_Of(field)),
-                                        Set_Discard_Cancel());
+    const auto answer = desktop_.Choose(
+        Filled(Say("%1 was typed and is not set."), info.Name_Of(field)), Set_Discard_Cancel());
     if (answer == keep) {
         info.Set(field);
         Tell_What_Is_Loaded();
@@ -63,8 +63,9 @@ bool Form1::Settle_Field(std::size_t field) {
 bool Form1::Settle_Fields() {
     const std::u16string unset = Unset_Fields();
     if (unset.empty()) return true;
-    const auto answer = desktop_.Choose(
-        Say("What was typed is not set, and would not be saved: %1", unset), Set_Discard_Cancel());
+    const auto answer =
+        desktop_.Choose(Filled(Say("What was typed is not set, and would not be saved: %1"), unset),
+                        Set_Discard_Cancel());
     if (answer == keep) Set_Fields();
     if (answer == discard) Show_Fields_Again();
     return answer != cancel;
@@ -79,8 +80,8 @@ bool Form1::Settle_Work() {
     if (!Settle_Kept_Work()) return false;
     if (!Has_Unsaved_Work()) return true;
     const std::u16string unset = Unset_Fields();
-    std::u16string question = Say("%1 does not have the latest changes.", txtSrc.Text());
-    if (!unset.empty()) question += u"\n" + Say("Not set yet: %1", unset);
+    std::u16string question = Filled(Say("%1 does not have the latest changes."), txtSrc.Text());
+    if (!unset.empty()) question += u"\n" + Filled(Say("Not set yet: %1"), unset);
     const auto answer = desktop_.Choose(question, Save_Discard_Cancel());
     if (answer == keep) {
         Set_Fields();
@@ -124,8 +125,8 @@ void Form1::txtSrc_Leave() {
 bool Form1::Settle_Kept_Work() {
     if (!kept_) return true;
     const std::u16string other = txtSrc.Text(), name = kept_->opened.banner.Source().Name();
-    const auto answer =
-        desktop_.Choose(Say("%1 does not have the latest changes.", name), Save_Discard_Cancel());
+    const auto answer = desktop_.Choose(Filled(Say("%1 does not have the latest changes."), name),
+                                        Save_Discard_Cancel());
     if (answer == discard) {
         kept_.reset();
         return true;
@@ -144,7 +145,7 @@ void Form1::Look_At_File() {
     if (!opened_.banner.Was_Changed_Elsewhere()) return;
     is_change_known_ = true;
     const auto answer = desktop_.Choose(
-        Say("%1 was changed by another program since it was loaded.", txtSrc.Text()),
+        Filled(Say("%1 was changed by another program since it was loaded."), txtSrc.Text()),
         {Say("Reload"), Say("Keep what is here")});
     if (answer == 0) Load();
 }
@@ -153,7 +154,8 @@ void Form1::Look_At_File() {
 bool Form1::Settle_Change_Elsewhere() {
     if (!opened_.banner.Was_Changed_Elsewhere()) return true;
     const auto answer = desktop_.Choose(
-        Say("%1 was changed by another program since it was loaded. Save over it?", txtSrc.Text()),
+        Filled(Say("%1 was changed by another program since it was loaded. Save over it?"),
+               txtSrc.Text()),
         {Say("Overwrite"), Say("Reload"), Say("Cancel")});
     if (answer == 1) Load();
     return answer == 0;

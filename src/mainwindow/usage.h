@@ -5,6 +5,7 @@ namespace bannersmith {
 /// What `--help` prints for the two programs that edit.
 inline constexpr char Usage[] =
     R"(usage: bannersmith                          open the editor's window
+       bannersmith --open FILE              the same, with that file
        bannersmith [PATH] -OPTION VALUE...  edit and save without a window
        bannersmith --help | --version
 

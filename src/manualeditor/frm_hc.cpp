@@ -60,8 +60,9 @@ void frmHC::Redo_Click() {
 
 bool frmHC::Settle() {
     if (txtHC.Mark().empty()) return true;
-    const auto answer = desktop_.Choose(Say("%1 was typed and is not set.", cmbHC.Selected()),
-                                        {Say("Set it first"), Say("Discard"), Say("Cancel")});
+    const auto answer =
+        desktop_.Choose(Filled(Say("%1 was typed and is not set."), cmbHC.Selected()),
+                        {Say("Set it first"), Say("Discard"), Say("Cancel")});
     if (answer == 0) cmdSet_Click();
     if (answer == 1) txtHC.Set(set_);
     return answer != 2;

@@ -30,9 +30,9 @@ void Print_Failure(const Failure& failure);
 /// does not tell.
 std::u16string Program_Folder();
 
-/// Hands over to the program `name` of the program folder, which is called without command-line
-/// text. On POSIX this process becomes that program; on Windows it goes on beside it. The failure
-/// names the program's file.
+/// Hands over to the program `name` of the program folder, which gets the same command line. On
+/// POSIX this process becomes that program; on Windows it goes on beside it. The failure names the
+/// program's file.
 Result<> Start_Program(const std::u16string& name, char** argv);
 
 }  // namespace bannersmith

@@ -67,10 +67,12 @@ std::u16string Program_Folder() {
     return To_Text(path.substr(0, path.find_last_of(L'\\')).c_str());
 }
 
-Result<> Start_Program(const std::u16string& name, char** /*argv*/) {
+Result<> Start_Program(const std::u16string& name, char** argv) {
     const std::u16string path = Program_Folder() + u"\\" + name + u".exe";
     const std::wstring program(path.begin(), path.end());
+    const std::u16string rest = Command_Line(0, argv);
     std::wstring command_line = L"\"" + program + L"\"";
+    if (!rest.empty()) command_line += L" " + std::wstring(rest.begin(), rest.end());
     STARTUPINFOW start{};
     start.cb = sizeof start;
     PROCESS_INFORMATION started{};

@@ -161,7 +161,7 @@ void frmColor::cmdSaveScheme_Click() {
     const std::u16string name = desktop_.Ask(u"Type a Name for the New Scheme", u"Save Scheme");
     if (name.empty()) return;
     if (Ordinary_File_Exists(Scheme_Path(program_folder_, name)) &&
-        !desktop_.Confirm(Say("There is a scheme %1 already. Replace it?", name))) {
+        !desktop_.Confirm(Filled(Say("There is a scheme %1 already. Replace it?"), name))) {
         return;
     }
     if (const auto saved = Save_Scheme(name); !saved) {
