@@ -3,6 +3,7 @@
 
 #include <QtTest/QtTest>
 #include <QtWidgets/QtWidgets>
+#include <cmath>
 #include <cstdlib>
 
 #include "desktop/main_window_view.h"
@@ -12,8 +13,10 @@
 #include "desktop/widgets.h"
 #include "generate/banners.h"
 #include "generate/channel.h"
+#include "generate/dark_palette.h"
 #include "generate/layout_builder.h"
 #include "generate/texture.h"
+#include "layout/text_box.h"
 #include "mainwindow/batch_run.h"
 #include "mainwindow/form1.h"
 #include "noting_desktop.h"
@@ -167,6 +170,153 @@ TEST_F(Widgets, EditAWholeChannel) {
     EXPECT_EQ(std::system(("cd '" + folder.Path().string() + read).c_str()), 0);
     Do(view, "File=nothing");
     EXPECT_EQ(pages->count(), 1);
+}
+
+/// Presses keys and types texts where the focus is, and counts the keys beside the texts.
+struct Hands {
+    int keys = 0;
+
+    static QWidget* Where() {
+        EXPECT_TRUE(QTest::qWaitFor([] { return QApplication::focusWidget() != nullptr; }));
+        return QApplication::focusWidget();
+    }
+    void Press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QTest::keyClick(Where(), Qt::Key(key), modifiers);
+        QApplication::processEvents();
+        ++keys;
+    }
+    static void Type(const QString& text) {
+        for (const QChar letter : text) QTest::keyClicks(Where(), QString(letter));
+    }
+};
+
+TEST_F(Widgets, DoTheStandardJobWithFewKeys) {
+    folder.Write("c/00000000.app", Real_Size_Channel());
+    desktop.answer = u"Discard";
+    window.Take_File(folder.Text() + u"/c/00000000.app");
+    Named(view, "Name").setFocus();
+    Hands hands;
+    hands.Press(Qt::Key_L, Qt::ControlModifier);
+    for (const char* title : {"Moon", "Mond", "Lune", "Luna", "Luna", "Maan", "Tsuki"}) {
+        hands.Type(title);
+        hands.Press(Qt::Key_Return);
+    }
+    hands.Press(Qt::Key_Tab);
+    hands.Type("2001");
+    hands.Press(Qt::Key_Tab);
+    hands.Type("4");
+    hands.Press(Qt::Key_Return);
+    hands.Press(Qt::Key_Escape);
+    EXPECT_EQ(window.TableWindow, nullptr);
+    view.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&view));
+    hands.Press(Qt::Key_C, Qt::AltModifier);
+    hands.Press(Qt::Key_M);
+    hands.Press(Qt::Key_L, Qt::AltModifier);
+    hands.Press(Qt::Key_N);
+    desktop.said.clear();
+    hands.Press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(desktop.said, "[File Successfully Saved!]");
+    EXPECT_LE(hands.keys + 1, 25) << "with the one for the message";
+    for (const auto& [box, text] : {std::pair{"T_VCTitle_ENG", u"Moon"},
+                                    {"T_VCTitle_FRA", u"Lune"},
+                                    {"T_VCTitle_JPN", u"Tsuki"},
+                                    {"T_Year_GER", u"Erschienen: 2001"},
+                                    {"T_Play_ENG", u"Players: 1-4"}}) {
+        EXPECT_EQ(Get_Text(window.BrlytData, box), text) << box;
+    }
+    EXPECT_EQ(Archive::Read(folder.Read("c/00000000.app"))->Find_File("meta/banner.bin/arc/timg/my_BackSample_a.tpl"),
+              "new");
+    Control(Qt::Key_Z);
+    EXPECT_EQ(Value(view, "Year"), "2001") << "scheme and logo were taken back";
+    Control(Qt::Key_Z);
+    Control(Qt::Key_Z);
+    EXPECT_NE(Value(view, "Year"), "2001");
+}
+
+/// The share of light that a color reflects, and how much two colors differ by it (WCAG 2).
+double Luminance(const QColor& color) {
+    const auto part = [](double value) {
+        return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * part(color.redF()) + 0.7152 * part(color.greenF()) + 0.0722 * part(color.blueF());
+}
+double Contrast(const QColor& a, const QColor& b) {
+    const auto [low, high] = std::minmax({Luminance(a), Luminance(b)});
+    return (high + 0.05) / (low + 0.05);
+}
+
+/// The color that most of a widget has inside its frame.
+QColor Ground(const QWidget& widget) {
+    const QRect place(widget.mapTo(widget.window(), QPoint()), widget.size());
+    const QImage image = widget.window()->grab(place.adjusted(3, 3, -3, -3)).toImage();
+    QHash<QRgb, int> counts;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) ++counts[image.pixel(x, y)];
+    }
+    const auto less = [](const auto& a, const auto& b) { return a.second < b.second; };
+    return QColor((*std::max_element(counts.keyValueBegin(), counts.keyValueEnd(), less)).first);
+}
+
+bool Is_Input(const QWidget& widget) {
+    return qobject_cast<const QAbstractButton*>(&widget) || qobject_cast<const QComboBox*>(&widget) ||
+           qobject_cast<const QLineEdit*>(&widget) || qobject_cast<const QTableView*>(&widget);
+}
+
+/// Looks at all that a window shows.
+void Look_Over(QWidget& window) {
+    const QWidget* before = nullptr;
+    for (QWidget* widget = window.nextInFocusChain(); widget != &window; widget = widget->nextInFocusChain()) {
+        const QString text = widget->property("text").toString();
+        const std::string what = qPrintable(window.windowTitle() + ": " + widget->accessibleName() + " " + text);
+        const bool is_part = widget->objectName().startsWith("qt_") || qobject_cast<QTableView*>(widget->parent());
+        if (!widget->isVisibleTo(&window) || widget->visibleRegion().isEmpty() || is_part) continue;
+        if (!text.isEmpty()) {
+            const QColor color = widget->palette().color(QPalette::Active, widget->foregroundRole());
+            EXPECT_GE(Contrast(color, Ground(*widget)), 4.5)
+                << what << qPrintable(color.name() + Ground(*widget).name());
+        }
+        if (!Is_Input(*widget)) continue;
+        const auto* interface = QAccessible::queryAccessibleInterface(widget);
+        EXPECT_FALSE(interface->text(QAccessible::Name).isEmpty()) << what;
+        EXPECT_FALSE(interface->text(QAccessible::Description).isEmpty()) << what;
+        EXPECT_TRUE(widget->focusPolicy() & Qt::TabFocus) << what;
+        // What comes next on the keyboard lies to the right or below.
+        if (before && before->parentWidget() == widget->parentWidget()) {
+            const QRect from = before->geometry(), to = widget->geometry();
+            EXPECT_TRUE(to.top() >= from.bottom() || (to.left() >= from.right() && to.bottom() > from.top())) << what;
+        }
+        before = widget;
+    }
+}
+
+TEST_F(Widgets, AreNamedInOrderAndReadable) {
+    folder.Write("c/00000000.app", Real_Size_Channel());
+    desktop.answer = u"Discard";
+    window.Take_File(folder.Text() + u"/c/00000000.app");
+    window.info.txtName.Set(u"not set");
+    window.cmbLogo.Set_Mark(u"stays");
+    const QPalette light = QApplication::palette();
+    for (const QPalette& palette : {light, Dark_Palette()}) {
+        QApplication::setPalette(palette);
+        for (QTabWidget* pages : view.findChildren<QTabWidget*>()) {
+            for (int page = 0; page < pages->count(); ++page) {
+                pages->setCurrentIndex(page);
+                QApplication::processEvents();
+                Look_Over(view);
+            }
+        }
+        for (const auto open :
+             {&Form1::cmdEditColor_Click, &Form1::cmdHC_Click, &Form1::cmdPicture_Click, &Form1::cmdLanguages_Click}) {
+            (window.*open)();
+            QApplication::processEvents();
+            QDialog& opened = *view.findChildren<QDialog*>().last();
+            Look_Over(opened);
+            opened.close();
+            QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        }
+    }
+    QApplication::setPalette(light);
 }
 
 TEST_F(Widgets, TakePathsKeyByKey) {

@@ -3,8 +3,7 @@
 #include <QCoreApplication>
 #include <QLocale>
 #include <QTranslator>
-#include <algorithm>
-#include <array>
+#include <utility>
 
 #include "desktop/settings.h"
 #include "desktop/text.h"
@@ -38,27 +37,23 @@ void Speak_Users_Language() {
 }
 
 QString Language_In_Words(std::u16string_view code) {
-    if (code == NoLanguage) return Said("the text for all languages");
-    if (code == Korean) return Said("Korean");
-    const auto place = std::find(Languages.begin(), Languages.end(), code) - Languages.begin();
-    switch (place) {
-        case 0:
-            return Said("English");
-        case 1:
-            return Said("German");
-        case 2:
-            return Said("French");
-        case 3:
-            return Said("Italian");
-        case 4:
-            return Said("Spanish");
-        case 5:
-            return Said("Dutch");
-        case 6:
-            return Said("Japanese");
-        default:
-            return {};
+    const std::pair<std::u16string_view, const char*> words[] = {
+        {u"ENG", QT_TRID_NOOP("English")},
+        {u"GER", QT_TRID_NOOP("German")},
+        {u"FRA", QT_TRID_NOOP("French")},
+        {u"ITA", QT_TRID_NOOP("Italian")},
+        {u"SPA", QT_TRID_NOOP("Spanish")},
+        {u"NED", QT_TRID_NOOP("Dutch")},
+        {u"JPN", QT_TRID_NOOP("Japanese")},
+        {u"KOR", QT_TRID_NOOP("Korean")},
+        {u"CHS", QT_TRID_NOOP("Chinese, simplified")},
+        {u"CHT", QT_TRID_NOOP("Chinese, traditional")},
+        {NoLanguage, QT_TRID_NOOP("the text for all languages")},
+    };
+    for (const auto& [name, text] : words) {
+        if (name == code) return Said(text);
     }
+    return {};
 }
 
 }  // namespace bannersmith

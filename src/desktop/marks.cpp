@@ -1,8 +1,9 @@
 #include "desktop/marks.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QPainter>
-#include <QVariant>
+#include <QPalette>
 
 #include "desktop/text.h"
 
@@ -23,30 +24,71 @@ QColor Tinted(const QColor& ground) {
                             mixed(ground.blueF(), Amber.blueF()));
 }
 
+/// Lives as long as its widget has a mark, and keeps what the widget had before.
+class Marker : public QObject {
+ public:
+    explicit Marker(QWidget& widget)
+        : QObject(&widget),
+          widget_(widget),
+          tooltip_(widget.toolTip()),
+          description_(widget.accessibleDescription()) {
+        widget.installEventFilter(this);
+        Tint();
+    }
+
+    void Show(const QString& mark) {
+        widget_.setToolTip(tooltip_.isEmpty() ? mark : mark + "\n" + tooltip_);
+        widget_.setAccessibleDescription(mark + ". " +
+                                         (description_.isEmpty() ? tooltip_ : description_));
+    }
+
+    void Take_Away() {
+        widget_.removeEventFilter(this);
+        widget_.setToolTip(tooltip_);
+        widget_.setAccessibleDescription(description_);
+        widget_.setPalette({});
+        delete this;
+    }
+
+ protected:
+    /// The ground follows the desktop's colours.
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        if (event->type() == QEvent::PaletteChange) Tint();
+        return false;
+    }
+
+ private:
+    void Tint() {
+        QPalette palette = QApplication::palette(&widget_);
+        for (const QPalette::ColorRole role : {QPalette::Base, QPalette::Button}) {
+            palette.setColor(role, Tinted(palette.color(role)));
+        }
+        if (palette.color(QPalette::Base) == widget_.palette().color(QPalette::Base)) return;
+        widget_.setPalette(palette);  // comes back to this
+    }
+
+    QWidget& widget_;
+    QString tooltip_, description_;
+};
+
+/// The one that the widget has, if any.
+Marker* Marker_Of(QWidget& widget) {
+    for (QObject* child : widget.children()) {
+        if (auto* marker = dynamic_cast<Marker*>(child)) return marker;
+    }
+    return nullptr;
+}
+
 }  // namespace
 
 void Show_Mark(QWidget& widget, const std::u16string& mark) {
-    constexpr char Unmarked[] = "unmarked tooltip";
-    const bool was_marked = widget.property(Unmarked).isValid();
-    if (mark.empty() && !was_marked) return;
-    if (!was_marked) {
-        widget.setProperty(Unmarked, QStringList{widget.toolTip(), widget.accessibleDescription()});
-    }
-    const QStringList before = widget.property(Unmarked).toStringList();
+    Marker* marker = Marker_Of(widget);
     if (mark.empty()) {
-        widget.setToolTip(before[0]);
-        widget.setAccessibleDescription(before[1]);
-        widget.setProperty(Unmarked, {});
-        widget.setPalette({});
+        if (marker != nullptr) marker->Take_Away();
         return;
     }
-    widget.setToolTip(before[0].isEmpty() ? Shown(mark) : Shown(mark) + "\n" + before[0]);
-    widget.setAccessibleDescription(Shown(mark) + ". " + before[1]);
-    QPalette palette = QApplication::palette(&widget);
-    for (const QPalette::ColorRole role : {QPalette::Base, QPalette::Button}) {
-        palette.setColor(role, Tinted(palette.color(role)));
-    }
-    widget.setPalette(palette);
+    if (marker == nullptr) marker = new Marker(widget);
+    marker->Show(Shown(mark));
 }
 
 QIcon Mark_Icon() {

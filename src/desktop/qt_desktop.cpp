@@ -78,7 +78,8 @@ std::size_t QtDesktop::Choose(const std::u16string& question,
 void QtDesktop::Report(const Failure& failure) {
     Print_Failure(failure);
     const QString reason = Reason_In_Words(Readable(From_Utf8(failure.reason)));
-    Show_Box(QMessageBox::Critical, QString::fromStdString(Readable(failure.subject)) + "\n\n" + reason);
+    Show_Box(QMessageBox::Critical,
+             QString::fromStdString(Readable(failure.subject)) + "\n\n" + reason);
 }
 
 std::u16string QtDesktop::Open_File(const std::u16string& filter, const std::u16string& last) {

@@ -96,10 +96,9 @@ void Form1::cmdSetAll_Click(std::int16_t Index) {
 
 void Form1::cmdSetNames_Click() {
     const std::size_t written = names.cmdSet_Click();
-    const std::u16string told =
-        written == 0   ? Say("nothing changed")
-        : written == 1 ? Say("1 line changed")
-                       : Filled(Say("%1 lines changed"), Number(written));
+    const std::u16string told = written == 0   ? Say("nothing changed")
+                                : written == 1 ? Say("1 line changed")
+                                               : Filled(Say("%1 lines changed"), Number(written));
     lblLastCommand.Set(Say("Channel names") + u": " + told);
     Tell_What_Is_Loaded();
 }
@@ -153,8 +152,8 @@ void Form1::Read_Archive() {
     for (const std::string& warning : held.warnings) {
         archive_faults_ += Column(Filled(Say("Warning: %1"), From_Utf8(warning)));
     }
-    archive_contents_ = Column(Filled(Say("%1 files in %2 bytes"), Number(held.files.size()),
-                                         Number(held.file_size)));
+    archive_contents_ = Column(
+        Filled(Say("%1 files in %2 bytes"), Number(held.files.size()), Number(held.file_size)));
     for (const ArchiveFileInfo& file : held.files) {
         archive_contents_ += Column(From_Utf8(file.path + " " + std::to_string(file.size) +
                                               (file.texture ? " " + file.texture->Text() : "")));

@@ -18,29 +18,13 @@
 #include "desktop/qt_desktop.h"
 #include "desktop/text.h"
 #include "desktop/text_editor_view.h"
+#include "generate/dark_palette.h"
 
 using namespace bannersmith;
 
 namespace {
 
 namespace fs = std::filesystem;
-
-QPalette Dark_Palette() {
-    QPalette palette;
-    const QColor window(0x2B, 0x2D, 0x30), base(0x1E, 0x1F, 0x22), text(0xE6, 0xE6, 0xE6);
-    palette.setColor(QPalette::Window, window);
-    palette.setColor(QPalette::Button, window);
-    palette.setColor(QPalette::Base, base);
-    palette.setColor(QPalette::AlternateBase, window);
-    palette.setColor(QPalette::ToolTipBase, base);
-    for (const auto role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text,
-                            QPalette::ToolTipText, QPalette::BrightText}) {
-        palette.setColor(role, text);
-    }
-    palette.setColor(QPalette::Highlight, QColor(0x3A, 0x7B, 0xD5));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    return palette;
-}
 
 class Painter {
  public:
