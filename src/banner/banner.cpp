@@ -253,6 +253,15 @@ Result<> Banner::Apply(std::span<const Edit> edits, const std::u16string& what) 
     });
 }
 
+std::string Banner::Layout_After(std::span<const Edit> edits) const {
+    State next = state_;
+    for (const Edit& edit : edits) {
+        State tried = next;
+        if (Apply_To(tried, edit)) next = std::move(tried);
+    }
+    return std::move(next.layout);
+}
+
 /// What two layouts have alike at both ends is no part of the step between them.
 Banner::Step Banner::Step_Between(const State& from, const State& to, const std::u16string& what) {
     const std::string &a = from.layout, &b = to.layout;

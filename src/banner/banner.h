@@ -86,6 +86,9 @@ class Banner {
     }
     Result<> Apply(std::span<const Edit> edits, const std::u16string& what = {});
 
+    /// The layout as it would be after these edits; those that fail are passed over.
+    std::string Layout_After(std::span<const Edit> edits) const;
+
     /// Takes back what `Apply` changed last, and brings it again. False where there is nothing to
     /// take back or to bring, and for lack of memory.
     bool Undo();

@@ -70,9 +70,7 @@ bool LiveView::Is_Own_Part() const {
 
 /// The banner's layout with all that is not yet set; what does not fit stays as it is set.
 std::string LiveView::Layout_Now() const {
-    Banner banner = Banner::From_Bytes(source_.banner.Bytes(), {}, 0);
-    for (const Edit& edit : source_.unset()) static_cast<void>(banner.Apply(edit));
-    return Set_File_Len(banner.Bytes());
+    return Set_File_Len(source_.banner.Layout_After(source_.unset()));
 }
 
 void LiveView::Show_Nothing(const std::u16string& why) {
