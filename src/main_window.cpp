@@ -26,13 +26,14 @@ int No_Display() {
     return 1;
 }
 
+bool Is_Named(const char* variable) {
+    const char* value = std::getenv(variable);
+    return value != nullptr && *value != '\0';
+}
+
 bool Display_Is_Named() {
 #ifdef __linux__
-    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
-        const char* value = std::getenv(name);
-        if (value != nullptr && *value != '\0') return true;
-    }
-    return false;
+    return Is_Named("DISPLAY") || Is_Named("WAYLAND_DISPLAY") || Is_Named("QT_QPA_PLATFORM");
 #else
     return true;
 #endif
@@ -43,6 +44,9 @@ void Leave_On_Fatal_Message(QtMsgType type, const QMessageLogContext& /*context*
                             const QString& text) {
     if (type == QtFatalMsg) {
         Print_Failure({u"window", text.toStdString()});
+        if (Is_Named("WAYLAND_DISPLAY") && !Is_Named("DISPLAY")) {
+            Print_Failure({u"window", "Under Wayland the windows need the package qt6-wayland"});
+        }
         std::_Exit(1);
     }
     if (type == QtCriticalMsg) Print_Failure({u"window", text.toStdString()});

@@ -97,11 +97,11 @@ def messages(sources, page):
             code += "".join(read(at, name) for name in names if re.search(r"(?<!usage)\.(cpp|h)$", name))
     code = re.sub(r"(?<!:)//.*|#include.*", "", code)
     code = re.sub(r'"\s*\n\s*"', "", code).replace('\\"', "'").replace("\\\\", "\\")  # literals in one piece
-    said = {text.strip(" ':") for text in SENTENCE.findall(code) if "\\n" not in text and "NTLG" not in text}
+    said = {part.strip(" ':,") for text in SENTENCE.findall(code) for part in re.split("%[12]", text) if "\\n" not in text and "NTLG" not in text}
     assert len(said) > 25, "only %d messages are found in the sources" % len(said)
     for text in said:
         assert any(text in message for message in listed) or text.isupper(), "the messages page lacks: " + text
-    for part in {part for each in listed for part in re.split(r'"?\b(?:NUMBER|NAME|REASON|FILE|N)\b"?|\.\.\.', each)}:
+    for part in {part for each in listed for part in re.split(r'"?\b(?:NUMBER|NAME|REASON|FILE|FIELDS?|N)\b"?|\.\.\.', each)}:
         assert part.strip(" ':") in code, "no program says: " + part
 
 
