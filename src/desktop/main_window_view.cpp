@@ -70,8 +70,11 @@ MainWindowView::MainWindowView(Form1& window) : window_(window), menu_(*this, wi
     connect(&back_, &QTimer::timeout, this, [this] { window_.Look_At_File(); });
     setCentralWidget(Make_Content());
     Make_Status_Line();
-    // A file is dropped on the window, not into the text under the pointer.
-    for (QLineEdit* edit : findChildren<QLineEdit*>()) edit->setAcceptDrops(false);
+    for (QLineEdit* edit : findChildren<QLineEdit*>()) {
+        // A file is dropped on the window, not into the text under the pointer.
+        edit->setAcceptDrops(false);
+        if (edit->accessibleName() == "Name") edit->setFocus();
+    }
     window_.form.Shown = [this] { Show_State(); };
     Follow_Other_Windows();
     Show_Title();
@@ -156,19 +159,15 @@ QWidget* MainWindowView::Make_File_Frame() {
     return frame;
 }
 
-/// In a colour of its own, as it is the one that writes.
+/// In colours of its own, as it is the one that writes; not by a palette, which some styles ignore.
 QWidget* MainWindowView::Make_Save_Button() {
-    constexpr QColor Blue(0x14, 0x4A, 0x7C);
     QPushButton* save = Make_Button("&Save Changes", Said("Write the layout file"), *menu_.save);
-    QPalette palette = save->palette();
-    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
-        palette.setColor(group, QPalette::Button, Blue);
-        palette.setColor(group, QPalette::ButtonText, Qt::white);
-    }
-    save->setPalette(palette);
-    QFont font = save->font();
-    font.setBold(true);
-    save->setFont(font);
+    save->setStyleSheet(
+        "QPushButton { background: #1A5C97; color: white; font-weight: bold; padding: 5px;"
+        " border: 1px solid #12436E; border-radius: 3px; }"
+        "QPushButton:hover { background: #2268A8; } QPushButton:pressed { background: #12436E; }"
+        "QPushButton:focus { border: 2px solid palette(text); padding: 4px; }"
+        "QPushButton:disabled { background: #6A7681; color: #E4E4E4; border-color: #6A7681; }");
     return save;
 }
 

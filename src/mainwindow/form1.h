@@ -170,6 +170,7 @@ class Form1 {
     bool Settle_Change_Elsewhere();
 
     bool Save_Changes();
+    std::optional<SavePlan> Save_As_Wanted();
     Result<> Check_Save() const;
     bool Save_Is_Wanted();
     std::vector<Edit> Chosen_Edits() const;

@@ -13,22 +13,25 @@ namespace bannersmith {
 
 /// Whether the file has everything now.
 bool Form1::Save_Changes() {
-    lblLastCommand.Set(Say("Not saved"));
-    if (!Settle_Kept_Work()) return false;
-    if (const auto checked = Check_Save(); !checked) {
-        desktop_.Report(checked.Why());
-        return false;
-    }
-    if (!Save_Is_Wanted()) return false;
-    const auto saved = Save();
+    const auto saved = Settle_Kept_Work() ? Save_As_Wanted() : std::nullopt;
     if (!saved) {
-        desktop_.Report(saved.Why());
+        lblLastCommand.Set(Say("Not saved"));
         return false;
     }
     desktop_.Message(u"File Successfully Saved!");
     Load_Saved(*saved);
     Tell_Saved(*saved);
     return true;
+}
+
+/// Nothing where it is refused, not wanted, or fails, which is told.
+std::optional<SavePlan> Form1::Save_As_Wanted() {
+    const auto checked = Check_Save();
+    if (checked && !Save_Is_Wanted()) return std::nullopt;
+    auto saved = checked ? Save() : checked.Why();
+    if (saved) return std::move(*saved);
+    desktop_.Report(saved.Why());
+    return std::nullopt;
 }
 
 /// What was there before the save can still be taken back.

@@ -89,6 +89,26 @@ def file_held_open(windows, hold):
     assert run(windows, SEVEN, "-TITLE", "Held")[0] == 0, "the save after the file was let go"
 
 
+# The window is opened, typed into, and saves, with the keys of a person, what a batch run of Linux does.
+def window_saves(linux, windows):
+    edit = [SEVEN, "-TITLE", "Typed in a window"]
+    assert run(linux, *edit)[0] == 0
+    keys = r"""
+        wineserver -k  # what ran before knows of no display
+        wine bannersmith-window.exe --open '%s' &
+        for try in $(seq 120); do
+            window=$(xdotool search --name banner.brlyt) && break
+            sleep 0.5
+        done
+        xdotool sleep 3 windowfocus $window key alt+n key ctrl+a type "Typed in a window"
+        xdotool sleep 1 key Tab Tab Tab space sleep 1 key ctrl+s sleep 3
+        wineserver -k
+        wait
+    """ % SEVEN
+    subprocess.run(["xvfb-run", "-a", "sh", "-c", keys], cwd=windows, capture_output=True, timeout=180)
+    assert contents(windows) == contents(linux), "what the window saved"
+
+
 def main():
     os.environ.setdefault("WINEDEBUG", "-all")
     with tempfile.TemporaryDirectory() as work:
@@ -101,6 +121,7 @@ def main():
         try:
             same_edits(linux, windows)
             same_pictures(linux, windows)
+            window_saves(linux, windows)
             paths_of_windows(windows)
             folder_outside_the_code_page(windows)
             file_held_open(windows, os.path.abspath(sys.argv[3]))
