@@ -5,6 +5,7 @@
 #include <QtWidgets/QtWidgets>
 #include <cmath>
 #include <cstdlib>
+#include <random>
 
 #include "desktop/main_window_view.h"
 #include "desktop/preview_view.h"
@@ -16,6 +17,7 @@
 #include "generate/dark_palette.h"
 #include "generate/layout_builder.h"
 #include "generate/texture.h"
+#include "layout/kind.h"
 #include "layout/text_box.h"
 #include "mainwindow/batch_run.h"
 #include "mainwindow/form1.h"
@@ -483,6 +485,72 @@ TEST_F(Widgets, AreCaptionedAndNamedAndLeftAloneByTheWheel) {
               "Back1|Back2|Back3|Back4|BackMask1|BackMask2|YearLine|PlayLine|T_VCTitle|T_Year|T_Play|T_ESRB|Select a "
               "Color by Clicking on it and edit "
               "it to the right.  Click the \"Set\" button to update.|Back1 0|Set|Set|");
+}
+
+/// What a person could do next, by chance: press, pick, type, take back, go elsewhere.
+void Do_Anything(MainWindowView& view, std::mt19937& chance, const QStringList& texts) {
+    const auto any = [&](auto size) { return static_cast<int>(chance() % static_cast<unsigned>(size)); };
+    QList<QWidget*> inputs;
+    for (QWidget* widget : QApplication::allWidgets()) {
+        if (Is_Input(*widget) && widget->isVisible() && widget->isEnabled()) inputs << widget;
+    }
+    QWidget* widget = inputs.value(any(inputs.size()));
+    const auto actions = view.findChildren<QAction*>();
+    QAction* action = actions[any(actions.size())];
+    const bool is_command =
+        !action->shortcut().isEmpty() && !action->text().contains("Quit") && !action->text().contains("Manual");
+    if (any(8) == 0 && is_command) return action->trigger();
+    const auto dialogs = view.findChildren<QDialog*>();
+    if (any(20) == 0 && !dialogs.isEmpty()) return static_cast<void>(dialogs.last()->close());
+    if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
+        button->click();
+    } else if (auto* list = qobject_cast<QComboBox*>(widget)) {
+        if (list->count() > 0) emit list->activated(any(list->count()));
+    } else if (auto* edit = qobject_cast<QLineEdit*>(widget)) {
+        edit->setFocus();
+        edit->setText(texts[any(texts.size())]);
+        emit edit->textEdited(edit->text());
+    } else if (auto* table = qobject_cast<QTableView*>(widget)) {
+        table->model()->setData(table->model()->index(any(table->model()->rowCount()), any(4)),
+                                texts[any(texts.size())]);
+    }
+}
+
+/// For longer than a moment with BANNERSMITH_RANDOM_SECONDS in the environment.
+TEST_F(Widgets, KeepFilesWholeWhateverIsDone) {
+    std::mt19937 chance(std::random_device{}());
+    QStringList texts = {"",   "1",  "1999", "x^y", QString(QChar(0xD800)), "\u6708\u591C", QString(300, 'w'),
+                         "\\", "+12"};
+    const std::string sound[] = {German_Japanese_Banner(), Seven_Language_Banner(), Neutral_Banner(), Sample_Channel()};
+    for (const std::string& bytes : sound) {
+        for (int damage = 0; damage < 4; ++damage) {
+            std::string file = bytes;
+            for (int i = 0; i < damage * damage; ++i) file[chance() % file.size()] = static_cast<char>(chance());
+            if (damage == 3) file.resize(chance() % file.size());
+            const std::string name = std::to_string(texts.size()) + (damage == 0 ? "/whole.app" : "/damaged.brlyt");
+            folder.Write(name, file);
+            texts << Shown(folder.Text()) + "/" + QString::fromStdString(name);
+        }
+    }
+    const int seconds = std::max(2, qEnvironmentVariableIntValue("BANNERSMITH_RANDOM_SECONDS"));
+    const std::u16string answers[] = {
+        u"yes",          u"no",        u"Save",   u"Discard", u"Cancel",
+        u"Set it first", u"Overwrite", u"Reload", u"name",    folder.Text() + u"/logo.png"};
+    folder.Write("logo.png", Write_Png({4, 3, std::string(48, '\x70')}));
+    QElapsedTimer time;
+    for (time.start(); time.elapsed() < 1000 * seconds;) {
+        desktop.answer = answers[chance() % std::size(answers)];
+        desktop.said.clear();
+        Do_Anything(view, chance, texts);
+        QApplication::processEvents();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    for (const std::string& name : folder.Names()) {
+        if (!name.ends_with("whole.app")) continue;
+        const auto banner = Banner::Load(BannerSource(folder.Text() + u"/" + From_Utf8(name)));
+        ASSERT_TRUE(banner) << name;
+        EXPECT_TRUE(Is_Layout(banner->Bytes()) && Text_Box_Names(banner->Bytes()).size() > 4) << name;
+    }
 }
 
 TEST_F(Widgets, KeepTextsAsTheyAre) {

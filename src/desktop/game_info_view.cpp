@@ -59,7 +59,7 @@ class GameInfoFrame : public QGroupBox {
 
  private:
     void Add_Field(int row, const QString& name, TextBox& box, bool bold, const QString& about) {
-        constexpr int Narrowest = 160;
+        constexpr int Narrowest = 120;
         QLineEdit* edit = Make_Field(box, bold);
         edit->setMinimumWidth(Narrowest);
         edit->setToolTip(about);
@@ -68,9 +68,10 @@ class GameInfoFrame : public QGroupBox {
     }
 
     void Add_Selector(int row, const QString& name, Field list) {
-        constexpr int Letters = 6;  // of a code, with the dot of a mark
+        constexpr int Letters = 4;  // of a code
         auto* combo = new ListBox;
         combo->setMinimumContentsLength(Letters);
+        combo->setIconSize({12, 12});  // of a mark
         combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         Bind(*combo, window_.info.cmbRegion[static_cast<std::size_t>(list)]);
         combo->Speak_Entries([](const QString& code) { return Language_In_Words(Taken(code)); });

@@ -24,7 +24,9 @@ QComboBox* Make_List(DropDownList& list, const QString& name) {
     auto* combo = new ListBox;
     combo->setToolTip(name);
     combo->setAccessibleName(name);
-    combo->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    constexpr int Fewest = 5;  // letters that are seen where there is little room
+    combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    combo->setMinimumContentsLength(Fewest);
     Bind(*combo, list);
     return combo;
 }
@@ -111,18 +113,20 @@ LiveViewWidget::LiveViewWidget(LiveView& live) : live_(live), picture_(new LiveP
                              {}, [this] { live_.Save_Click(); });
     auto* about = new ElidedLabel;
     about->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    auto* controls = new QHBoxLayout;
-    controls->addWidget(Make_List(live.cmbPart, Said("Which part of the channel is shown")));
-    controls->addWidget(Make_List(live.cmbLanguage, Said("The language that is shown")));
-    controls->addWidget(Make_List(live.cmbWidth, Said("The shape of the screen")));
-    controls->addStretch();
-    controls->addWidget(play);
-    controls->addWidget(save);
+    auto* lists = new QHBoxLayout;
+    lists->addWidget(Make_List(live.cmbPart, Said("Which part of the channel is shown")));
+    lists->addWidget(Make_List(live.cmbLanguage, Said("The language that is shown")));
+    lists->addWidget(Make_List(live.cmbWidth, Said("The shape of the screen")));
+    lists->setStretch(1, 1);
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(about, 1);
+    buttons->addWidget(play);
+    buttons->addWidget(save);
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins({});
     rows->addWidget(picture_, 1);
-    rows->addLayout(controls);
-    rows->addWidget(about);
+    rows->addLayout(lists);
+    rows->addLayout(buttons);
 
     idle_.setSingleShot(true);
     clock_.setTimerType(Qt::PreciseTimer);

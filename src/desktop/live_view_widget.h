@@ -23,7 +23,7 @@ class LivePicture : public QWidget {
     void Take();
 
     QSize sizeHint() const override { return {608, 456}; }
-    QSize minimumSizeHint() const override { return {304, 228}; }
+    QSize minimumSizeHint() const override { return {200, 150}; }
 
  protected:
     bool event(QEvent* event) override;

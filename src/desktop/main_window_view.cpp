@@ -7,6 +7,7 @@
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QScreen>
 #include <QScrollArea>
 #include <QSplitter>
 #include <QStatusBar>
@@ -38,6 +39,16 @@ class Page : public QScrollArea {
     QSize sizeHint() const override { return widget()->sizeHint(); }
 };
 
+QWidget* Scrolled(QWidget* widget, Qt::ScrollBarPolicy sideways) {
+    auto* scrolled = new Page;
+    scrolled->setFrameStyle(QFrame::NoFrame);
+    scrolled->setFocusPolicy(Qt::NoFocus);
+    scrolled->setHorizontalScrollBarPolicy(sideways);
+    scrolled->setWidgetResizable(true);
+    scrolled->setWidget(widget);
+    return scrolled;
+}
+
 /// A page with the frame in its natural height; what does not fit is scrolled to.
 QWidget* At_The_Top(QWidget* frame) {
     auto* page = new QWidget;
@@ -45,12 +56,7 @@ QWidget* At_The_Top(QWidget* frame) {
     rows->setContentsMargins(0, 0, 4, 0);
     rows->addWidget(frame);
     rows->addStretch(1);
-    auto* scrolled = new Page;
-    scrolled->setFrameStyle(QFrame::NoFrame);
-    scrolled->setFocusPolicy(Qt::NoFocus);
-    scrolled->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scrolled->setWidgetResizable(true);
-    scrolled->setWidget(page);
+    QWidget* scrolled = Scrolled(page, Qt::ScrollBarAlwaysOff);
     scrolled->setMinimumWidth(page->minimumSizeHint().width());
     return scrolled;
 }
@@ -78,6 +84,7 @@ MainWindowView::MainWindowView(Form1& window) : window_(window), menu_(*this, wi
     window_.form.Shown = [this] { Show_State(); };
     Follow_Other_Windows();
     Show_Title();
+    resize(sizeHint().boundedTo(screen()->availableSize()));
     Restore_Position(*this, WindowName);
 }
 
@@ -85,7 +92,7 @@ QWidget* MainWindowView::Make_Content() {
     auto* content = new QWidget;
     auto* rows = new QVBoxLayout(content);
     if (Shows_First_Hint()) rows->addWidget(Make_First_Hint());
-    rows->addWidget(Make_Halves(), 1);
+    rows->addWidget(Scrolled(Make_Halves(), Qt::ScrollBarAsNeeded), 1);
     rows->addWidget(Make_File_Frame());
     rows->addWidget(Make_Save_Button());
     return content;
