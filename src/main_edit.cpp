@@ -1,5 +1,6 @@
 // bannersmith-edit: edits one banner or a shelf of them, by options or by a recipe.
 #include <chrono>
+#include <cstdlib>
 #include <filesystem>
 #include <new>
 #include <set>
@@ -159,7 +160,7 @@ int Export_Recipe(const EditCommand& command) {
 }
 
 int Run(const std::vector<std::u16string>& arguments) {
-    const std::u16string program_folder = Data_Folder();
+    const std::u16string program_folder = Data_Folder(std::getenv);
     const auto command = Read_Edit_Command(arguments, program_folder);
     if (!command) {
         Print("bannersmith-edit: " + Readable(From_Utf8(command.Why().reason)) +

@@ -1,26 +1,21 @@
 // bannersmith-render: draws banners as the console does.
-#include <CLI/App.hpp>
-#include <CLI/Config.hpp>
-#include <CLI/Formatter.hpp>
 #include <algorithm>
 #include <charconv>
-#include <cstdio>
 #include <map>
-#include <new>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "banner/banner.h"
-#include "base/message.h"
 #include "base/text.h"
 #include "layout/kind.h"
+#include "main_tool.h"
 #include "still/part.h"
 #include "system/files.h"
-#include "system/process.h"
 #include "system/replace_files.h"
 
 using namespace bannersmith;
+using namespace bannersmith::tool_status;
 
 namespace {
 
@@ -52,7 +47,7 @@ constexpr char Usage[] =
     "Exit status: 0 done; 1 a picture cannot be written; 2 wrong usage, or a banner\n"
     "that cannot be read.\n";
 
-constexpr int Done = 0, NotWritten = 1, NotRead = 2;
+constexpr Tool This{"bannersmith-render", Usage};
 
 struct Options {
     std::vector<std::string> banners;
@@ -60,10 +55,6 @@ struct Options {
     still::View view;
     bool has_texts = true;
 };
-
-void Tell(const Failure& failure) {
-    Print("bannersmith-render: " + One_Line(failure) + "\n", stderr);
-}
 
 std::optional<std::size_t> Number(std::string_view text, int base = 10) {
     std::size_t number = 0;
@@ -114,8 +105,6 @@ Options Read_Options(const std::vector<std::u16string>& arguments) {
     std::string part = "banner";
     bool without_texts = false;
     CLI::App parser;
-    parser.set_help_flag();
-    parser.allow_windows_style_options(false);  // a path begins with a slash
     parser.add_option("banners", options.banners);
     parser.add_option("-o,--output", options.output);
     parser.add_option("--language", options.view.language)
@@ -129,11 +118,7 @@ Options Read_Options(const std::vector<std::u16string>& arguments) {
     parser.add_option("--background", options.background);
     parser.add_flag("--without-texts", without_texts);
     parser.add_option("--font", options.font);
-    std::vector<std::string> backwards;
-    backwards.reserve(arguments.size());
-    for (const std::u16string& argument : arguments) backwards.push_back(To_Utf8(argument));
-    std::reverse(backwards.begin(), backwards.end());
-    parser.parse(std::move(backwards));
+    Tool::Parse(parser, arguments);
     if (const std::string why = Misused(options); !why.empty()) throw CLI::ValidationError(why);
     options.view.part = part == "icon" ? still::PartKind::icon : still::PartKind::banner;
     options.has_texts = !without_texts;
@@ -180,10 +165,10 @@ Result<> Write(still::Still& part, const Options& options, still::Font* font, st
 int Render(const Options& options, const std::u16string& name, still::Font* font,
            const std::u16string& file) {
     const auto banner = Banner::Load(BannerSource(Layout_File_Of(name), name), 0);
-    if (!banner) return Tell(banner.Why()), NotRead;
-    if (!Is_Layout(banner->Bytes())) return Tell({name, "Not a layout file"}), NotRead;
+    if (!banner) return This.Tell(banner.Why()), NotRead;
+    if (!Is_Layout(banner->Bytes())) return This.Tell({name, "Not a layout file"}), NotRead;
     auto files = still::Files_For(*banner, options.view.part);
-    if (!files) return Tell(files.Why()), NotRead;
+    if (!files) return This.Tell(files.Why()), NotRead;
     still::Still part(std::move(*files));
     std::vector<std::string> faults;
     Result<> written;
@@ -198,26 +183,19 @@ int Render(const Options& options, const std::u16string& name, still::Font* font
                                                              : *Number(options.frame);
         written = Write(part, options, font, frame, file, faults);
     }
-    for (const std::string& fault : faults) Tell({name, "Not drawn: " + fault});
-    if (!written) return Tell(written.Why()), NotWritten;
+    for (const std::string& fault : faults) This.Tell({name, "Not drawn: " + fault});
+    if (!written) return This.Tell(written.Why()), NotWritten;
     return Done;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-    const std::vector<std::u16string> arguments = Arguments(argc, argv);
-    if (arguments == std::vector<std::u16string>{u"--help"}) {
-        return Print(Usage, stdout) ? Done : NotWritten;
-    }
-    if (arguments == std::vector<std::u16string>{u"--version"}) {
-        return Print("bannersmith-render " BANNERSMITH_VERSION "\n", stdout) ? Done : NotWritten;
-    }
-    try {
+    return This.Run(argc, argv, [](const std::vector<std::u16string>& arguments) {
         const Options options = Read_Options(arguments);
         int status = Done;
         auto font = still::Font::Open(Program_Folder(), From_Utf8(options.font));
-        if (!font) return Tell(font.Why()), NotRead;
+        if (!font) return This.Tell(font.Why()), NotRead;
         std::map<std::u16string, int> taken;
         still::Font* drawn = options.has_texts ? &*font : nullptr;
         for (const std::string& banner : options.banners) {
@@ -226,10 +204,5 @@ int main(int argc, char** argv) {
             status = std::max(status, Render(options, name, drawn, file));
         }
         return status;
-    } catch (const CLI::Error& error) {
-        Print("bannersmith-render: " + std::string(error.what()) + "\n" + Usage, stderr);
-    } catch (const std::bad_alloc&) {
-        Tell({u"", "Not enough memory"});
-    }
-    return NotRead;
+    });
 }

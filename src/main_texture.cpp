@@ -1,23 +1,19 @@
 // bannersmith-texture: turns textures into pictures and pictures into textures.
-#include <CLI/App.hpp>
-#include <CLI/Config.hpp>
-#include <CLI/Formatter.hpp>
 #include <algorithm>
 #include <charconv>
-#include <cstdio>
 #include <map>
-#include <new>
 #include <string>
 #include <vector>
 
-#include "base/message.h"
 #include "base/text.h"
+#include "main_tool.h"
 #include "system/files.h"
 #include "system/process.h"
 #include "system/replace_files.h"
 #include "texture/fitting.h"
 
 using namespace bannersmith;
+using namespace bannersmith::tool_status;
 
 namespace {
 
@@ -43,7 +39,7 @@ constexpr char Usage[] =
     "Exit status: 0 done; 1 the output cannot be written; 2 wrong usage, or a file\n"
     "that cannot be read, is neither texture nor picture, or cannot become one.\n";
 
-constexpr int Done = 0, NotWritten = 1, NotRead = 2;
+constexpr Tool This{"bannersmith-texture", Usage};
 
 struct Options {
     std::vector<std::string> files;
@@ -51,10 +47,6 @@ struct Options {
     Fitting fitting;
     bool info = false;
 };
-
-void Tell(const Failure& failure) {
-    Print("bannersmith-texture: " + One_Line(failure) + "\n", stderr);
-}
 
 /// The bytes of a file, and what they show.
 struct Opened {
@@ -106,13 +98,13 @@ bool Ends_In(const std::string& name, std::u16string_view ending) {
 
 int Convert(const Options& options) {
     const auto opened = Open(options.files[0]);
-    if (!opened) return Tell(opened.Why()), NotRead;
+    if (!opened) return This.Tell(opened.Why()), NotRead;
     const auto made = Ends_In(options.files[1], u".PNG")
                           ? Result<std::string>(Write_Png(opened->picture))
                           : Make(options, opened->picture);
-    if (!made) return Tell(made.Why()), NotRead;
+    if (!made) return This.Tell(made.Why()), NotRead;
     const auto written = Replace_File(From_Utf8(options.files[1]), *made);
-    if (!written) return Tell(written.Why()), NotWritten;
+    if (!written) return This.Tell(written.Why()), NotWritten;
     return Done;
 }
 
@@ -127,10 +119,10 @@ int Describe(const std::vector<std::string>& files) {
     for (const std::string& file : files) {
         const auto opened = Open(file);
         if (!opened) {
-            Tell(opened.Why());
+            This.Tell(opened.Why());
             status = NotRead;
         } else if (!Print(Printable(From_Utf8(file)) + ": " + Described(*opened) + "\n", stdout)) {
-            Tell({u"standard output", "Cannot be written"});
+            This.Tell({u"standard output", "Cannot be written"});
             return std::max(status, NotWritten);
         }
     }
@@ -162,7 +154,6 @@ Options Read_Options(const std::vector<std::u16string>& arguments) {
     const std::map<std::string, Dither> dithers{
         {"none", Dither::none}, {"ordered", Dither::ordered}, {"diffusion", Dither::diffusion}};
     CLI::App parser;
-    parser.set_help_flag();
     parser.add_option("files", options.files);
     parser.add_option("--like", options.like);
     parser.add_option("--format", options.format);
@@ -170,11 +161,7 @@ Options Read_Options(const std::vector<std::u16string>& arguments) {
     parser.add_option("--fit", fit)->check(CLI::IsMember(fits));
     parser.add_option("--dither", dither)->check(CLI::IsMember(dithers));
     parser.add_flag("--info", options.info);
-    std::vector<std::string> backwards;
-    backwards.reserve(arguments.size());
-    for (const std::u16string& argument : arguments) backwards.push_back(To_Utf8(argument));
-    std::reverse(backwards.begin(), backwards.end());
-    parser.parse(std::move(backwards));
+    Tool::Parse(parser, arguments);
     options.fitting.fit = fits.at(fit);
     if (!dither.empty()) options.fitting.dither = dithers.at(dither);
     if (const std::string why = Misused(options); !why.empty()) throw CLI::ValidationError(why);
@@ -184,20 +171,8 @@ Options Read_Options(const std::vector<std::u16string>& arguments) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    const std::vector<std::u16string> arguments = Arguments(argc, argv);
-    if (arguments == std::vector<std::u16string>{u"--help"}) {
-        return Print(Usage, stdout) ? Done : NotWritten;
-    }
-    if (arguments == std::vector<std::u16string>{u"--version"}) {
-        return Print("bannersmith-texture " BANNERSMITH_VERSION "\n", stdout) ? Done : NotWritten;
-    }
-    try {
+    return This.Run(argc, argv, [](const std::vector<std::u16string>& arguments) {
         const Options options = Read_Options(arguments);
         return options.info ? Describe(options.files) : Convert(options);
-    } catch (const CLI::Error& error) {
-        Print("bannersmith-texture: " + std::string(error.what()) + "\n" + Usage, stderr);
-    } catch (const std::bad_alloc&) {
-        Tell({u"", "Not enough memory"});
-    }
-    return NotRead;
+    });
 }

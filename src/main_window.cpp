@@ -84,7 +84,7 @@ int Run_Windows(int argc, char** argv, const std::u16string& file) {
     QApplication::setWindowIcon(Program_Icon());
     Speak_Users_Language();
     QtDesktop desktop;
-    Form1 window({Data_Folder(), {}}, desktop);
+    Form1 window({Data_Folder(std::getenv), {}}, desktop);
     MainWindowView view(window);
     if (!window.Form_Load(Full_Path(file))) return 1;
     const int ended = QApplication::exec();

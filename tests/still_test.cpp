@@ -321,7 +321,8 @@ TEST(LiveView, ShowsWhatIsTypedAndChosenAndPlays) {
     EXPECT_EQ(std::ranges::count_if(main.live.Regions(), [](const auto& region) { return !region.missing.empty(); }),
               11);
     main.txtSrc.Set(u"\\none");
-    EXPECT_TRUE(draw().texels.empty() && main.live.lblAbout.Caption() == u"No banner to show");
+    EXPECT_TRUE(draw().texels.empty() &&
+                main.live.lblAbout.Caption() == u"Drop a channel's file, a layout or a folder here, or open one");
 }
 
 }  // namespace

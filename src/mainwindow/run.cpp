@@ -1,6 +1,7 @@
 #include "mainwindow/run.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <span>
 
 #include "base/text.h"
@@ -53,7 +54,7 @@ int Run_Batch_Mode(const std::u16string& command_line) {
         Print_Failure(checked.Why());
         return BatchRun::Failed;
     }
-    return BatchRun({Data_Folder(), command_line}, Print_Failure).Run();
+    return BatchRun({Data_Folder(std::getenv), command_line}, Print_Failure).Run();
 }
 
 }  // namespace bannersmith

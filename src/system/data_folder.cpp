@@ -1,6 +1,5 @@
 #include "system/data_folder.h"
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <system_error>
@@ -21,9 +20,9 @@ bool Can_Be_Written(const fs::path& file) {
     return std::fstream(file, std::ios::in | std::ios::out | std::ios::binary).is_open();
 }
 
-fs::path Users_Folder() {
-    const auto below = [](const char* variable, const char* path) {
-        const char* value = std::getenv(variable);
+fs::path Users_Folder(Variable variable) {
+    const auto below = [variable](const char* name, const char* path) {
+        const char* value = variable(name);
         return value == nullptr || *value == '\0' ? fs::path() : fs::path(value) / path;
     };
 #ifdef _WIN32
@@ -49,9 +48,9 @@ bool Copy_Data(const fs::path& from, const fs::path& to) {
 
 }  // namespace
 
-std::u16string Data_Folder() {
+std::u16string Data_Folder(Variable variable) {
     const std::u16string program_folder = Program_Folder();
-    const fs::path own = Native_Path(program_folder), users = Users_Folder();
+    const fs::path own = Native_Path(program_folder), users = Users_Folder(variable);
     std::error_code ignored;
     const bool is_installed =
         fs::exists(own / Configuration, ignored) && !Can_Be_Written(own / Configuration);
