@@ -300,6 +300,10 @@ TEST_F(Windows, AskBeforeSomethingIsLost) {
            "(ENG)>, "}});
     main.Take_File(u"\\b/arc/blyt/x");
     EXPECT_EQ(main.info.txtSystem.Text(), u"New") << "what was given up is loaded anew";
+    home.Write("shelf/a.app", Sample_Channel());
+    main.Take_File(home.Text() + u"/shelf");
+    EXPECT_TRUE(main.Loaded_File().ends_with(u"a.app")) << "the one banner of a folder";
+    main.Take_File(u"\\b/arc/blyt/x");
 
     // Each save asks; without an answer it leaves the file as it is.
     const auto asks = [&](const std::string& file, const std::u16string& answer, const std::string& question) {

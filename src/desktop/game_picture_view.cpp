@@ -1,6 +1,7 @@
 #include "desktop/game_picture_view.h"
 
 #include <QGridLayout>
+#include <QShortcut>
 #include <utility>
 
 #include "desktop/binding.h"
@@ -37,6 +38,8 @@ GamePictureView::GamePictureView(GamePicture& window, std::function<void()> clos
     grid->setColumnStretch(1, 1);
     grid->setRowStretch(0, 1);
 
+    new QShortcut(QKeySequence::Undo, this, [&window] { window.Undo_Click(); });
+    new QShortcut(QKeySequence("Ctrl+Shift+Z"), this, [&window] { window.Redo_Click(); });
     Bind(*shown, window.picture);
     Bind(*what, window.what);
     Bind(*fits, window.fits);

@@ -56,6 +56,16 @@ void GamePicture::Show_What_Is_There() {
     picture.Set(std::move(*now));
 }
 
+void GamePicture::Undo_Click() {
+    main_.undo();
+    Show_What_Is_There();
+}
+
+void GamePicture::Redo_Click() {
+    main_.redo();
+    Show_What_Is_There();
+}
+
 void GamePicture::Export_Click() {
     std::u16string file = desktop_.Save_File(std::u16string(ExportFilter), u"game.png");
     if (file.empty()) return;

@@ -14,6 +14,7 @@ struct MainWindowForPicture {
     Form& form;                                   ///< disabled while this window is open
     const Banner& banner;                         ///< whose picture it is
     std::function<void(const Edit& edit)> apply;  ///< applies an edit to the banner
+    std::function<void()> undo, redo;             ///< the last change of the banner
 };
 
 /// The window as state and events. A picture that is taken goes into the banner at once.
@@ -37,6 +38,9 @@ class GamePicture {
     void Replace_Click();
     /// Lets the user name a file, and writes the picture there as PNG.
     void Export_Click();
+    /// Takes back the last change of the banner, or brings it again, and shows the picture.
+    void Undo_Click();
+    void Redo_Click();
 
  private:
     void Put_In();

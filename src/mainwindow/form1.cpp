@@ -142,7 +142,7 @@ void Form1::cmdFileBrowse_Click() {
 
 void Form1::Take_File(const std::u16string& file) {
     if (!Settle_Work()) return;
-    txtSrc.Set(file);
+    txtSrc.Set(Banner_In_Folder(file));
     // Dialogs answer with the platform's own separator, so the program's folder is looked for with
     // either one behind it.
     const std::u16string& folder = process_.program_folder;
@@ -226,8 +226,10 @@ void Form1::cmdPicture_Click() {
         lblLastCommand.Set(Say("Game picture: the next save writes it"));
         Tell_What_Is_Loaded();
     };
-    PictureWindow =
-        std::make_unique<GamePicture>(MainWindowForPicture{form, opened_.banner, apply}, desktop_);
+    PictureWindow = std::make_unique<GamePicture>(
+        MainWindowForPicture{form, opened_.banner, apply, [this] { Undo_Click(); },
+                             [this] { Redo_Click(); }},
+        desktop_);
     PictureWindowMade.Raise();
     PictureWindow->Form_Load();
     PictureWindow->form.Show();

@@ -53,6 +53,13 @@ OpenedLayout Open_Layout(const std::u16string& program_folder, const std::u16str
     return opened;
 }
 
+std::u16string Banner_In_Folder(const std::u16string& path) {
+    if (!Is_Folder(path).Value_Or(false) || Layout_File_Of(path) != path) return path;
+    const auto names = List_Files(path, {".app", ".bnr", ".brlyt"}).Value_Or({});
+    const std::u16string name = names.size() == 1 ? names[0] : u"00000000.app";
+    return Ordinary_File_Exists(path + u"\\" + name) ? path + u"\\" + name : path;
+}
+
 Failure Why_No_Layout(const OpenedLayout& opened, const std::u16string& program_folder,
                       const std::u16string& text, const std::u16string& unnamed) {
     if (text.empty()) return {unnamed, "Names no layout file"};

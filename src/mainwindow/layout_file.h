@@ -50,6 +50,10 @@ struct OpenedLayout {
 OpenedLayout Open_Layout(const std::u16string& program_folder, const std::u16string& text,
                          std::size_t history);
 
+/// For a folder that is no unpacked channel: the one banner that lies in it, or else 00000000.app.
+/// The path itself for all others.
+std::u16string Banner_In_Folder(const std::u16string& path);
+
 /// Why the text led to no layout that can be saved. `unnamed`: what named nothing, for an empty
 /// text.
 Failure Why_No_Layout(const OpenedLayout& opened, const std::u16string& program_folder,
