@@ -12,6 +12,7 @@
 #include "layout/text_box.h"
 #include "mainwindow/batch_run.h"
 #include "mainwindow/form1.h"
+#include "mainwindow/run.h"
 #include "noting_desktop.h"
 #include "support.h"
 
@@ -667,6 +668,14 @@ TEST_F(BatchRuns, TakePathsAndLogosAsTheyAreTyped) {
         if (!row.told.ends_with('0')) { EXPECT_TRUE(home.Read("b/arc/blyt/x") == layout); }
     }
     std::filesystem::current_path(before);
+}
+
+TEST(Programs, OpenAFileWithoutSavingIt) {
+    EXPECT_EQ(File_To_Open({}), u"");
+    EXPECT_EQ(File_To_Open({u"--open"}), u"");
+    EXPECT_EQ(File_To_Open({u"--open", u"my", u"file.app"}), u"my file.app")
+        << "as a desktop may call it without quotes";
+    EXPECT_EQ(File_To_Open({u"file.app", u"--open"}), std::nullopt) << "a batch run";
 }
 
 TEST_F(BatchRuns, TellWhatWasOdd) {

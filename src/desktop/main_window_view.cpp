@@ -91,14 +91,15 @@ MainWindowView::MainWindowView(Form1& window) : window_(window), menu_(*this, wi
 QWidget* MainWindowView::Make_Content() {
     auto* content = new QWidget;
     auto* rows = new QVBoxLayout(content);
-    if (Shows_First_Hint()) rows->addWidget(Make_First_Hint());
+    rows->addWidget(first_hint_ = Make_First_Hint());
     rows->addWidget(Scrolled(Make_Halves(), Qt::ScrollBarAsNeeded), 1);
     rows->addWidget(Make_File_Frame());
     rows->addWidget(Make_Save_Button());
     return content;
 }
 
-/// For whoever starts the editor first, which shows the sample channel then.
+/// For whoever starts the editor first, which shows the sample channel then; not seen with a file
+/// of the user's own.
 QWidget* MainWindowView::Make_First_Hint() {
     auto* hint = new QFrame;
     hint->setObjectName("first hint");
@@ -119,6 +120,7 @@ QWidget* MainWindowView::Make_First_Hint() {
         Hide_First_Hint();
         hint->hide();
     }));
+    hint->hide();
     return hint;
 }
 
@@ -221,12 +223,13 @@ void MainWindowView::Follow_Other_Windows() {
 /// File and folder in front, as a list of windows has room for the beginning.
 void MainWindowView::Show_Title() {
     const std::u16string file = window_.Loaded_File();
+    first_hint_->setVisible(window_.Shows_A_Sample() && Shows_First_Hint());
     setWindowModified(window_.Has_Unsaved_Changes());
     if (file.empty()) return setWindowTitle("Bannersmith[*]");
     const QFileInfo path(Shown(file).replace('\\', '/'));
     setWindowTitle(path.fileName() + "[*] \u2013 " + QDir::toNativeSeparators(path.path()) +
                    " \u2013 Bannersmith");
-    Remember_File(Shown(file));
+    Remember_File(QDir::toNativeSeparators(path.filePath()));
 }
 
 void MainWindowView::Show_State() {

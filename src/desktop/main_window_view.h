@@ -37,6 +37,7 @@ class MainWindowView : public QMainWindow {
 
     Form1& window_;
     MainMenu menu_;
+    QWidget* first_hint_ = nullptr;
     QSplitter* halves_ = nullptr;
     QPointer<QWidget> focus_before_;  ///< had the focus when the window was disabled
     std::u16string dropped_file_;

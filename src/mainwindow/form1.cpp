@@ -90,14 +90,12 @@ void Form1::txtSrc_Change() {
 }
 
 void Form1::Load() {
-    const std::u16string before = opened_.banner.Source().Name();
     opened_ = {};
     opened_ = Open_Layout(process_.program_folder, txtSrc.Text(), Banner::MostHistory);
     if (opened_.banner.Is_Loaded()) info.Refill();
     names.Refill();
-    if (opened_.banner.Is_Loaded() && opened_.banner.Source().Name() != before) {
-        Mark_What_Stays_Chosen();
-    }
+    const std::u16string& name = opened_.banner.Source().Name();
+    if (!name.empty() && std::exchange(loaded_last_, name) != name) Mark_What_Stays_Chosen();
     Show_Loaded();
 }
 
@@ -129,6 +127,11 @@ bool Form1::Apply(std::span<const Edit> edits, const std::u16string& what) {
     if (!applied) desktop_.Report(applied.Why());
     live.Take_Changes();
     return static_cast<bool>(applied);
+}
+
+bool Form1::Shows_A_Sample() const {
+    const std::u16string samples = With_Backslashes(process_.program_folder) + u"\\samples\\";
+    return With_Backslashes(Loaded_File()).starts_with(samples);
 }
 
 std::u16string Form1::Layout_Path() const {

@@ -131,6 +131,9 @@ class Form1 {
     /// The path of the file that is loaded; empty while none is.
     const std::u16string& Loaded_File() const { return opened_.banner.Source().Path(); }
 
+    /// Whether that is one of the samples that come with the program.
+    bool Shows_A_Sample() const;
+
     /// Whether the layout in memory differs from the file as it was loaded or saved last.
     bool Has_Unsaved_Changes() const;
 
@@ -197,6 +200,7 @@ class Form1 {
     };
     std::unique_ptr<KeptWork> kept_;
     bool is_change_known_ = false;  ///< that another program made to the file
+    std::u16string loaded_last_;    ///< the path of the file, as typed, that was loaded last
 
     /// What is told of what is loaded: what is wrong with it, and what an archive holds.
     std::u16string archive_faults_, archive_contents_;

@@ -44,9 +44,10 @@ std::optional<int> Answer_About(const std::u16string& command_line, const std::s
 }
 
 std::optional<std::u16string> File_To_Open(const std::vector<std::u16string>& arguments) {
-    if (arguments.empty()) return std::u16string();
-    if (arguments[0] != u"--open" || arguments.size() > 2) return std::nullopt;
-    return arguments.size() == 2 ? arguments[1] : std::u16string();
+    if (!arguments.empty() && arguments[0] != u"--open") return std::nullopt;
+    std::u16string file;
+    for (std::size_t i = 1; i < arguments.size(); ++i) file += (i > 1 ? u" " : u"") + arguments[i];
+    return file;
 }
 
 int Run_Batch_Mode(const std::u16string& command_line) {

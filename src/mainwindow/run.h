@@ -14,9 +14,9 @@ namespace bannersmith {
 std::optional<int> Answer_About(const std::u16string& command_line, const std::string& program,
                                 const std::string& usage);
 
-/// The file that the arguments ask the windows to open: that of "--open FILE", and an empty text
-/// for none, where there are no arguments or "--open" stands alone, as a desktop calls the program.
-/// Nothing for all others, which do not ask for the windows.
+/// The file that the arguments ask the windows to open: that of "--open FILE", also one with blanks
+/// that was not quoted, and an empty text for none, where there are no arguments or "--open" stands
+/// alone, as a desktop calls the program. Nothing for all others, which do not ask for the windows.
 std::optional<std::u16string> File_To_Open(const std::vector<std::u16string>& arguments);
 
 /// Runs the command-line text in batch mode, without windows. Returns the exit status: 0 done, 1 a

@@ -1,9 +1,9 @@
 #include "system/data_folder.h"
 
 #include <filesystem>
-#include <fstream>
 #include <system_error>
 
+#include "system/files.h"
 #include "system/native_path.h"
 #include "system/process.h"
 
@@ -14,11 +14,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr char Configuration[] = "cfgs/vcinfopath.cfg";
-
-/// Asks by opening the file, which changes nothing in it.
-bool Can_Be_Written(const fs::path& file) {
-    return std::fstream(file, std::ios::in | std::ios::out | std::ios::binary).is_open();
-}
 
 fs::path Users_Folder(Variable variable) {
     const auto below = [variable](const char* name, const char* path) {
@@ -52,9 +47,7 @@ std::u16string Data_Folder(Variable variable) {
     const std::u16string program_folder = Program_Folder();
     const fs::path own = Native_Path(program_folder), users = Users_Folder(variable);
     std::error_code ignored;
-    const bool is_installed =
-        fs::exists(own / Configuration, ignored) && !Can_Be_Written(own / Configuration);
-    if (!is_installed || users.empty()) return program_folder;
+    if (Can_Write_Into(program_folder + u"\\cfgs") || users.empty()) return program_folder;
     if (!fs::exists(users / Configuration, ignored) && !Copy_Data(own, users))
         return program_folder;
     return Text_Of(users);

@@ -47,6 +47,10 @@ std::u16string Canonical_Path(const std::u16string& path);
 /// included.
 bool Leads_Through_Link(const std::u16string& folder, const std::u16string& path);
 
+/// Whether files can be made in a folder, as far as rights tell; nothing is made for that. True
+/// where there is no such folder.
+bool Can_Write_Into(const std::u16string& folder);
+
 /// Makes the folders that the path of a file leads through, as far as they are missing.
 Result<> Make_Folders_Of(const std::u16string& path);
 

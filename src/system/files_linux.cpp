@@ -1,4 +1,5 @@
 #include <fcntl.h>
+#include <unistd.h>
 
 #include <string>
 
@@ -29,6 +30,10 @@ Result<std::string> Read_Whole(const std::string& path) {
     }
     bytes.resize(filled);
     return bytes;
+}
+
+bool Can_Write_Into(const std::u16string& folder) {
+    return ::access(Native_Path(folder).c_str(), W_OK) == 0 || errno == ENOENT;
 }
 
 Result<std::string> Read_File(const std::u16string& path) {

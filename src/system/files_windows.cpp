@@ -52,6 +52,13 @@ Result<DWORD> Attributes_Of(const std::wstring& path) {
     return attributes;
 }
 
+/// By opening the folder with that right.
+bool Can_Write_Into(const std::u16string& folder) {
+    const Handle opened(::CreateFileW(Native_Path(folder).c_str(), FILE_ADD_FILE, Everyone, nullptr,
+                                      OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+    return opened.Is_Open() || ::GetLastError() != ERROR_ACCESS_DENIED;
+}
+
 Result<std::string> Read_File(const std::u16string& path) {
     return Run_Steps(
         path, [](const std::filesystem::path& native) { return Read_Whole(native.wstring()); });
