@@ -480,8 +480,6 @@ TEST_F(Widgets, AreCaptionedAndNamedAndLeftAloneByTheWheel) {
         }
     }
     EXPECT_EQ(captions,
-              "This is a sample. Type a name, press Set All, and see the banner change; nothing is written before Save "
-              "Changes. Open your own file with Ctrl+O, or drop it here. F1 shows the manual.|Got it|"
               "Pl&ay|Sa&ve Picture...|Name is bold|Set|Set All|System is bold|Set|Year is bold|Set|Set All|Players "
               "is bold|Set|No Dashes!!  "
               "(E.g.  Type \"2\" for \"1-2\")|Set|Set All|Hardcore Manual Text Editor|Color Editor And Preview|"

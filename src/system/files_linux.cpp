@@ -33,7 +33,8 @@ Result<std::string> Read_Whole(const std::string& path) {
 }
 
 bool Can_Write_Into(const std::u16string& folder) {
-    return ::access(Native_Path(folder).c_str(), W_OK) == 0 || errno == ENOENT;
+    if (::access(Native_Path(folder).c_str(), W_OK) == 0) return true;
+    return errno != EACCES && errno != EROFS;
 }
 
 Result<std::string> Read_File(const std::u16string& path) {
