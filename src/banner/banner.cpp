@@ -272,7 +272,8 @@ Banner::Step Banner::Step_Between(const State& from, const State& to, const std:
     const auto back = std::mismatch(
         a.rbegin(), a.rbegin() + static_cast<std::ptrdiff_t>(shorter - at), b.rbegin());
     const auto end = static_cast<std::size_t>(back.first - a.rbegin());
-    return {what, at, a.size() - end - at, b.substr(at, b.size() - end - at), to};
+    const Rest& rest = to;
+    return {what, at, a.size() - end - at, b.substr(at, b.size() - end - at), rest};
 }
 
 /// Makes of the step the one that leads back. What can lack memory comes first.

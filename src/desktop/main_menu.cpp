@@ -92,7 +92,7 @@ void MainMenu::Add_View_Menu() {
     Add(menu, Said("&Play or Stop"), QKeySequence("F9"), [this] { window_.live.Play_Click(); });
     menu.addSeparator();
     QMenu& list = *menu.addMenu(Said("&Language of the windows"));
-    auto* group = new QActionGroup(this);
+    QActionGroup& group = *new QActionGroup(this);
     for (const auto& [code, name] : Window_Languages()) {
         QAction* action = list.addAction(name, this, [this, code = code] {
             Choose_Language(code);
@@ -102,7 +102,7 @@ void MainMenu::Add_View_Menu() {
         });
         action->setCheckable(true);
         action->setChecked(code == Chosen_Language());
-        group->addAction(action);
+        group.addAction(action);
     }
 }
 

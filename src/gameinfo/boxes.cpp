@@ -21,6 +21,7 @@ std::vector<std::u16string_view> Codes_For(std::string_view layout) {
     std::vector<std::u16string_view> codes(LanguageList.begin(), LanguageList.end());
     if (layout.find("_KOR") == layout.npos) return codes;
     std::vector<std::u16string> names;
+    names.reserve(FieldPrefixes.size());
     for (const std::u16string_view prefix : FieldPrefixes) {
         names.push_back(std::u16string(prefix).append(Korean));
     }

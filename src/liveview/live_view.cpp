@@ -181,11 +181,12 @@ std::u16string LiveView::What_Is_At(float x, float y) const {
 
 std::vector<std::u16string> LiveView::Materials_At(float x, float y) const {
     std::vector<std::u16string> materials;
-    for (auto region = regions_.rbegin(); region != regions_.rend(); ++region) {
-        if (!region->material.empty() && Lies_In(*region, x, y)) {
-            materials.push_back(From_Utf8(region->material));
+    for (const still::Region& region : regions_) {
+        if (!region.material.empty() && Lies_In(region, x, y)) {
+            materials.push_back(From_Utf8(region.material));
         }
     }
+    std::reverse(materials.begin(), materials.end());
     return materials;
 }
 
