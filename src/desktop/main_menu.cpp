@@ -1,6 +1,5 @@
 #include "desktop/main_menu.h"
 
-#include <QActionGroup>
 #include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
@@ -92,7 +91,6 @@ void MainMenu::Add_View_Menu() {
     Add(menu, Said("&Play or Stop"), QKeySequence("F9"), [this] { window_.live.Play_Click(); });
     menu.addSeparator();
     QMenu& list = *menu.addMenu(Said("&Language of the windows"));
-    QActionGroup& group = *new QActionGroup(this);
     for (const auto& [code, name] : Window_Languages()) {
         QAction* action = list.addAction(name, this, [this, code = code] {
             Choose_Language(code);
@@ -102,7 +100,7 @@ void MainMenu::Add_View_Menu() {
         });
         action->setCheckable(true);
         action->setChecked(code == Chosen_Language());
-        group.addAction(action);
+        language_choices_.addAction(action);
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAction>
+#include <QActionGroup>
 #include <QMainWindow>
 #include <QObject>
 
@@ -34,6 +35,7 @@ class MainMenu : public QObject {
     QMainWindow& view_;
     Form1& window_;
     QList<QAction*> commands_;
+    QActionGroup language_choices_{this};
     QAction *undo_, *redo_;
 };
 
