@@ -450,6 +450,17 @@ TEST_F(Widgets, EditColorsAndPaintThem) {
         EXPECT_EQ(scrolled.horizontalScrollBar()->maximum() > 0, small);
     }
     EXPECT_FALSE(scrolled.focusPolicy() & Qt::TabFocus);
+    colors.close();
+
+    for (int i = 0; i < 20; ++i)
+        folder.Write("schemes/S" + std::to_string(i) + ".vccs", folder.Read("schemes/Mine.vccs"));
+    window.RefreshColorList_Here();
+    static_cast<QComboBox&>(Named(view, "Colors")).showPopup();
+    QWidget& search = Named(view, "Search");
+    QTest::keyClicks(&search, "s1");
+    QTest::keyClick(&search, Qt::Key_Down);
+    QTest::keyClick(&search, Qt::Key_Return);
+    EXPECT_EQ(Value(view, "Colors"), "S10") << "the second that holds the letters";
 }
 
 TEST_F(Widgets, AreCaptionedAndNamedAndLeftAloneByTheWheel) {

@@ -290,6 +290,8 @@ TEST_F(Windows, AskBeforeSomethingIsLost) {
           {u"leave; ?path; ?name; ?is T_PF", lacks + ", \\b/arc/blyt/x, Typed, New"},
           {u"path \\two; answer Save; leave; ?path; ?file two", lacks + "[File Successfully Saved!], \\two, two"},
           {u"path \\b/arc/blyt/x; ?is T_PF; ?is T_VCTitle_ENG", "New, Typed"},
+          {u"name Other; path \\two; answer nothing; texts; ?may; ?path; ?name",
+           lacks + ", enabled, \\b/arc/blyt/x, Other"},
           {u"name Other; path \\two; answer Discard; leave; path \\b/arc/blyt/x; ?name", lacks + ", Typed"},
           {u"name Again; answer Set it first; language0 2; ?is T_VCTitle_ENG",
            "<Name (ENG) was typed and is not set.>, Again"},

@@ -1,6 +1,7 @@
 #include "banner/banner.h"
 
 #include <algorithm>
+#include <iterator>
 #include <new>
 #include <utility>
 
@@ -245,8 +246,7 @@ Result<> Banner::Apply(std::span<const Edit> edits, const std::u16string& what) 
         for (const Edit& edit : edits) {
             if (auto applied = Apply_To(next, edit); !applied) return applied;
         }
-        const Rest& rest = next;
-        if (next.layout == state_.layout && rest == state_) return {};
+        if (!Has_Other_Content(next)) return {};
         if (most_history_ > 0) Remember(Step_Between(next, state_, what));
         state_ = std::move(next);
         return {};
@@ -260,6 +260,11 @@ std::string Banner::Layout_After(std::span<const Edit> edits) const {
         if (Apply_To(tried, edit)) next = std::move(tried);
     }
     return std::move(next.layout);
+}
+
+bool Banner::Has_Other_Content(const State& next) const {
+    const Rest& rest = next;
+    return next.layout != state_.layout || !(rest == state_);
 }
 
 /// What two layouts have alike at both ends is no part of the step between them.
@@ -301,9 +306,8 @@ void Banner::Remember(Step step) {
 
 bool Banner::Move(Steps& from, Steps& to) {
     const auto moved = Within_Memory(source_, [&]() -> Result<> {
-        to.push_back(from.back());
-        Take(to.back());
-        from.pop_back();
+        Take(from.back());
+        to.splice(to.end(), from, std::prev(from.end()));
         return {};
     });
     return static_cast<bool>(moved);
@@ -429,12 +433,13 @@ Result<> Banner::Save(const SavePlan& plan, const FolderLock& lock, const Notice
 /// Textures and names that a step has not count as those on the disk, which the save has replaced.
 void Banner::Refer_To_Saved(const Banner& saved, const SavePlan& plan, Rest& rest) const {
     for (const NewContents& before : plan.replaced) {
+        const std::string now = source_.Texture(before.path).Value_Or("");
         const auto known =
             std::find_if(rest.textures.begin(), rest.textures.end(),
                          [&](const NewContents& texture) { return texture.path == before.path; });
         if (known == rest.textures.end()) {
-            rest.textures.push_back(before);
-        } else if (known->bytes == source_.Texture(before.path).Value_Or("")) {
+            if (before.bytes != now) rest.textures.push_back(before);
+        } else if (known->bytes == now) {
             rest.textures.erase(known);
         }
     }
@@ -449,7 +454,7 @@ void Banner::Continue(Banner saved, const SavePlan& plan, const std::u16string& 
     for (Steps* steps : {&saved.undo_, &saved.redo_}) {
         for (Step& step : *steps) Refer_To_Saved(saved, plan, step.rest);
     }
-    if (!what.empty()) {
+    if (!what.empty() && Has_Other_Content(saved.state_)) {
         undo_ = std::move(saved.undo_);
         undo_.push_back(Step_Between(state_, saved.state_, what));
         return;

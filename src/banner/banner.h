@@ -2,7 +2,7 @@
 #pragma once
 
 #include <cstddef>
-#include <deque>
+#include <list>
 #include <map>
 #include <optional>
 #include <span>
@@ -121,7 +121,7 @@ class Banner {
     /// For a banner that was just loaded from what `plan` of `saved` wrote: takes over its history,
     /// which then leads back to what stood in the file before. `what`: how the step is called that
     /// leads to the state before the save, for one that did more than to write what was edited;
-    /// without a name there is no such step.
+    /// without a name, and where it changed nothing, there is no such step.
     void Continue(Banner saved, const SavePlan& plan, const std::u16string& what);
 
  private:
@@ -152,7 +152,7 @@ class Banner {
 
         std::size_t Size() const;
     };
-    using Steps = std::deque<Step>;
+    using Steps = std::list<Step>;
 
     struct Applying;
     Result<> Apply_To(State& state, const Edit& edit) const;
@@ -161,6 +161,7 @@ class Banner {
     std::string Lost_By_Force_Of(const State& state, const std::u16string& code) const;
     std::vector<std::string> Notices_Of(const State& state, const std::string& lost,
                                         std::string_view saved) const;
+    bool Has_Other_Content(const State& next) const;
     static Step Step_Between(const State& from, const State& to, const std::u16string& what);
     void Take(Step& step);
     void Remember(Step step);

@@ -4,8 +4,10 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListView>
+#include <QScreen>
 #include <QSortFilterProxyModel>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <utility>
 
 #include "desktop/text.h"
@@ -81,7 +83,9 @@ void Show_Search(QComboBox& box, std::function<void(int index)> chosen) {
     auto* popup = new SearchPopup(box, std::move(chosen));
     constexpr int Height = 320, Narrowest = 220;
     popup->resize(std::max(box.width(), Narrowest), Height);
-    popup->move(box.mapToGlobal(QPoint(0, box.height())));
+    QPoint place = box.mapToGlobal(QPoint(0, box.height()));
+    place.setY(std::min(place.y(), box.screen()->availableGeometry().bottom() - Height));
+    popup->move(place);
     popup->show();
 }
 

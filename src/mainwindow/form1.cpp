@@ -181,6 +181,7 @@ std::optional<Picture> Form1::Logo_Picture(int index) const {
 }
 
 void Form1::cmdEditColor_Click() {
+    if (!May_Edit()) return;
     ColorWindow = std::make_unique<frmColor>(
         MainWindowForColors{form, txtSrc, cmbFileList, info.cmbRegion,
                             [this] { return info.Texts(); }, opened_.banner,
@@ -199,6 +200,7 @@ void Form1::Close_Color_Window() {
 }
 
 void Form1::cmdHC_Click() {
+    if (!May_Edit()) return;
     const auto apply = [this](const Edit& edit) {
         const std::string before = BrlytData;
         Apply(edit);
@@ -219,6 +221,7 @@ void Form1::Close_Text_Editor() {
 }
 
 void Form1::cmdPicture_Click() {
+    if (!May_Edit()) return;
     if (const auto picture = opened_.banner.Game_Picture(); !picture) {
         desktop_.Report(picture.Why());
         return;
@@ -245,6 +248,7 @@ void Form1::Close_Picture_Window() {
 
 /// Several edits at once are called by the window.
 void Form1::cmdLanguages_Click() {
+    if (!May_Edit()) return;
     const auto apply = [this](std::span<const Edit> edits) {
         const std::string before = BrlytData;
         const std::u16string what = edits.size() == 1 ? Name_Of(edits[0]) : Say("All languages");

@@ -116,7 +116,8 @@ class Form1 {
 
     /// Open the colour window, the manual text editor, the window of the game's picture where the
     /// banner has one, and that of all languages, and return at once; this window is disabled until
-    /// the other one is closed.
+    /// the other one is closed. Work that is kept while the path names another file is asked about
+    /// first.
     void cmdEditColor_Click();
     void cmdHC_Click();
     void cmdPicture_Click();
@@ -155,7 +156,6 @@ class Form1 {
 
  private:
     std::u16string Layout_Path() const;
-    Failure Why_Nothing_Is_Loaded() const;
     void Load();
     void Show_Loaded();
 
@@ -170,6 +170,7 @@ class Form1 {
     void Keep_Work();
     bool Give_Back_Work();
     bool Settle_Kept_Work();
+    bool May_Edit();
     bool Settle_Change_Elsewhere();
 
     bool Save_Changes();

@@ -139,6 +139,11 @@ bool Form1::Settle_Kept_Work() {
     return true;
 }
 
+/// Before another window opens, as changes of a second banner would take the place of kept work.
+bool Form1::May_Edit() {
+    return !opened_.banner.Is_Loaded() || Settle_Kept_Work();
+}
+
 /// Once for each time that the file is loaded or saved: whoever goes on is asked again by the save.
 void Form1::Look_At_File() {
     if (!form.Enabled() || is_change_known_ || !opened_.banner.Is_Loaded()) return;

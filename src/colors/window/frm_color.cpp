@@ -87,6 +87,7 @@ frmColor::frmColor(MainWindowForColors main, std::u16string program_folder, Desk
       desktop_(desktop) {
     cmbFileList.Click = [this] { cmbFileList_Click(); };
     for (TextBox* box : {&txtR, &txtG, &txtB}) box->Change = [this] { UpDatePicClr(); };
+    drawn_ = kept_ = Colors();
     txtHex.Change = [this] { Take_Hex(); };
     cmbFileList.picture_of = [this](int index) {
         return Scheme_Picture(program_folder_, cmbFileList, index);
