@@ -190,6 +190,11 @@ LanguageTableView::LanguageTableView(LanguageTable& table, std::function<void()>
     cells_->setFont(Japanese_Font(FieldFont, QApplication::font().pointSizeF()));
     cells_->setEditTriggers(QAbstractItemView::AnyKeyPressed | QAbstractItemView::DoubleClicked |
                             QAbstractItemView::EditKeyPressed);
+    // The toolkit's own light blue is too light for a white text.
+    QPalette palette = cells_->palette();
+    palette.setColor(QPalette::Highlight, QColor(0x1A, 0x5C, 0x97));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    cells_->setPalette(palette);
     cells_->setAccessibleName(Said("Texts of all languages"));
     cells_->setAccessibleDescription(Said("A row for each language, a column for each field"));
     cells_->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);

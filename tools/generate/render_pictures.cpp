@@ -16,6 +16,7 @@
 #include "desktop/main_window_view.h"
 #include "desktop/preview_view.h"
 #include "desktop/qt_desktop.h"
+#include "desktop/settings.h"
 #include "desktop/text.h"
 #include "desktop/text_editor_view.h"
 #include "generate/dark_palette.h"
@@ -74,6 +75,7 @@ void Render(const std::u16string& program_folder, const Painter& painter) {
     view.resize(view.sizeHint());
     Wait_For_Picture(window.live);
     painter.Save(view, "first-start");
+    Hide_First_Hint();
     for (QWidget* hint : view.findChildren<QWidget*>("first hint")) hint->hide();
     view.resize(view.sizeHint());
     Wait_For_Picture(window.live);
